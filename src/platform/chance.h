@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+namespace twk {
+
+/// The program's source of chance: x = (x * 1140671485 + 12820163) mod 2^24, one for the process. Every draw
+/// advances it once, so that two runs with one seed draw the same.
+class Chance {
+  public:
+    /// From 0 up to, not including, 1.
+    double Rnd();
+
+    /// Seeds from the clock; without effect while a fixed seed holds.
+    void Randomize();
+
+    /// Starts from `seed` mod 2^24 and lets no Randomize change it.
+    void fix_seed(std::uint64_t seed);
+    void release_seed() { fixed_ = false; }
+
+  private:
+    std::uint32_t state_ = 0x50000;
+    bool fixed_ = false;
+};
+
+Chance& chance();
+
+/// A percentage draw, 1 to 100: Int(Rnd * 100 + 1).
+int percent_draw();
+
+} // namespace twk

@@ -1,0 +1,49 @@
+#include "platform/desktop.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace twk {
+
+namespace {
+
+Desktop* current = nullptr;
+
+Text& application_folder() {
+    static Text folder = u".";
+    return folder;
+}
+
+} // namespace
+
+Desktop& desktop() {
+    if (current == nullptr) throw std::logic_error("no desktop in place");
+    return *current;
+}
+
+Desktop* set_desktop(Desktop* desktop) {
+    return std::exchange(current, desktop);
+}
+
+Answer MsgBox(const Text& text) {
+    return desktop().MsgBox({.text = text});
+}
+
+Answer MsgBox(const Text& text, Buttons buttons, const Text& title) {
+    return desktop().MsgBox({.text = text, .buttons = buttons, .title = title});
+}
+
+void DoEvents() {
+    desktop().DoEvents();
+}
+
+const Text& app_path() {
+    return application_folder();
+}
+
+void set_app_path(Text path) {
+    while (path.size() > 1 && path.ends_with(path_separator)) path.pop_back();
+    application_folder() = std::move(path);
+}
+
+} // namespace twk

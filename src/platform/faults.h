@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <exception>
+#include <string>
+
+namespace twk {
+
+/// Numbers of the faults that the platform and the store throw.
+enum Fault : int {
+    fault_argument = 5,
+    fault_overflow = 6,
+    fault_memory = 7,
+    fault_subscript = 9,
+    fault_division = 11,
+    fault_type = 13,
+    fault_internal = 51,
+    fault_file_not_found = 53,
+    fault_device_io = 57,
+    fault_disk_full = 61,
+    fault_past_end = 62,
+    fault_file_permission = 70,
+    fault_path_access = 75,
+    fault_path_not_found = 76,
+    fault_null = 94,
+    fault_store_missing = 3024,
+    fault_store_password = 3031,
+    fault_statement = 3075,
+    fault_store_locked = 3260,
+    fault_store = 3343,
+    fault_field = 3265,
+    fault_no_record = 3021,
+    fault_project_lacks = 1001, ///< a run that could never end, with what the project lacks
+    fault_dialog_cancelled = 32755,
+    fault_timed_out = 35761,
+};
+
+/// A run-time fault: thrown by the platform and the store alone, caught by the few routines that trap faults
+/// and by the dispatcher of events.
+class RuntimeFault : public std::exception {
+  public:
+    RuntimeFault(int number, Text text);
+    explicit RuntimeFault(int number); ///< with the usual text of that number
+
+    int number() const { return number_; }
+    const Text& text() const { return text_; }
+    const char* what() const noexcept override { return utf8_.c_str(); }
+
+    /// The stage of the run and the page under way, for the message; empty outside a run.
+    Text stage;
+    Text page;
+
+  private:
+    int number_;
+    Text text_;
+    std::string utf8_;
+};
+
+/// "Run-time error 'N':", a blank line and the text; then the stage and the page, when there are any.
+Text fault_message(const RuntimeFault& fault);
+
+} // namespace twk

@@ -1,0 +1,111 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Files as the program knows them. A path is a text with the machine's separator; names are found without
+/// regard to case, an exact match first. Faults: 53 no such file, 70 permission denied, 75 a path that may
+/// not be touched, 76 no such folder, 61 disk full, 57 any other failure of reading or writing.
+namespace twk {
+
+/// How a text with characters beyond ASCII is written: pages get the UTF-8 mark in front, lists and settings
+/// do not. All-ASCII text is written plain either way.
+enum class TextKind { list, page };
+
+enum class OpenMode { reading = 1, writing = 2, appending = 8 };
+
+/// A text file. A writing stream gathers its text and writes it at Close; destroying it without Close writes
+/// nothing. Reading takes a UTF-8 mark, else valid UTF-8, else Windows-1252; lines end in CR LF, LF or CR.
+class TextStream {
+  public:
+    TextStream(Text path, OpenMode mode, TextKind kind, Text content);
+
+    /// The next line without its end. Fault 62 at the end of the file.
+    Text readline();
+    /// All that has not been read yet.
+    Text ReadAll();
+    bool AtEndOfStream() const;
+
+    void write(TextView text);
+    /// The text, then CR LF.
+    void writeline(TextView line);
+    /// Writes what was gathered. A stream that is closed stays closed.
+    void Close();
+
+    const Text& path() const { return path_; }
+
+  private:
+    Text path_;
+    OpenMode mode_;
+    TextKind kind_;
+    Text content_;
+    std::size_t at_ = 0;
+    bool open_ = true;
+};
+
+using TextStreamPtr = std::shared_ptr<TextStream>;
+
+class FileSystemObject {
+  public:
+    bool FileExists(const Text& path) const;
+    bool FolderExists(const Text& path) const;
+    /// Opening for reading a file that is not there is fault 53, unless `create` makes an empty one. Opening
+    /// for writing or appending proves at once that the file can be written, and creates it under `create`.
+    TextStreamPtr OpenTextFile(const Text& path, OpenMode mode, bool create = false,
+                               TextKind kind = TextKind::list);
+    /// Fault 53 when there is none.
+    void DeleteFile(const Text& path);
+    /// Overwrites; the copy's name bears the case given here.
+    void CopyFile(const Text& from, const Text& to);
+    /// With all that is in it; symbolic links are removed, never followed.
+    void DeleteFolder(const Text& path);
+};
+
+/// Whether there is a folder (`Dir` with the directory attribute) or a file of that name.
+bool dir_exists(const Text& path);
+bool file_exists(const Text& path);
+/// Name of the file when there is one, empty otherwise.
+Text Dir(const Text& path);
+/// Fault 75 when it is there already, 76 when its parent is not.
+void MkDir(const Text& path);
+/// An empty folder; otherwise fault 75.
+void RmDir(const Text& path);
+/// Length in bytes.
+std::int64_t FileLen(const Text& path);
+
+/// Names in a folder by name without regard to case ("_" before the letters). "*.htm" matches whole names
+/// without regard to case, "*.*" wants a point in the name. A folder that is not there is fault 76.
+std::vector<Text> list_files(const Text& folder, TextView pattern);
+std::vector<Text> list_folders(const Text& folder);
+bool matches_pattern(TextView name, TextView pattern);
+
+/// Whole text of a file, decoded as a reading stream does.
+Text read_text_file(const Text& path);
+std::string encode_text(TextView text, TextKind kind);
+Text decode_text(std::string_view bytes);
+
+/// The path as it stands on disk, names found without regard to case; where nothing is found, as given.
+std::string disk_path(const Text& path);
+
+/// Keeps a project's folder: what is erased or written must lie in a direct child of `Projects`.
+class Fence {
+  public:
+    /// `projects` is the folder of all projects. Fault 75 when `name` is empty, "." or "..", holds a
+    /// separator or a control character, or is a symbolic link that leads out.
+    Fence(Text projects, TextView name);
+
+    const Text& folder() const { return folder_; }
+    /// Fault 75 unless the path, its links followed, lies inside the folder.
+    void check(const Text& path) const;
+
+  private:
+    Text projects_;
+    Text folder_;
+};
+
+} // namespace twk

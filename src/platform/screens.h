@@ -1,0 +1,193 @@
+#pragma once
+
+#include "platform/controls.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <typeindex>
+#include <variant>
+#include <vector>
+
+namespace twk {
+
+using ControlRef =
+    std::variant<Label*, Frame*, CommandButton*, TextBox*, RichTextBox*, CheckBox*, OptionButton*, ListBox*,
+                 ComboBox*, Slider*, ProgressBar*, Grid*, PictureBox*, FileListBox*, DirListBox*,
+                 DriveListBox*, WebBrowser*, Inet*, CommonDialog*, Timer*>;
+
+/// What a screen is made of, told once by the screen itself: its controls and its events, for the front ends
+/// and for tests.
+class ScreenMap {
+  public:
+    struct Control {
+        std::string name; ///< "txt_url"
+        int index = -1;   ///< place in its array, -1 outside one
+        ControlRef ref;
+        /// Name of its widget: "txt_url_0" for an element of an array.
+        std::string object_name() const;
+    };
+    struct Event {
+        std::string control; ///< "txt_url"; "Form" for the screen itself
+        int index = -1;
+        std::string name; ///< "Click", "LostFocus", "Change", ...
+        std::function<void()> run;
+    };
+
+    template <class C> void control(std::string name, C& control) {
+        controls_.push_back({std::move(name), -1, &control});
+    }
+    /// An array of controls, indexed from 0.
+    template <class Array> void controls(const std::string& name, Array& array) {
+        int index = 0;
+        for (auto& each : array) controls_.push_back({name, index++, &each});
+    }
+    /// One element of an array whose indices have holes.
+    template <class C> void element(std::string name, int index, C& control) {
+        controls_.push_back({std::move(name), index, &control});
+    }
+
+    void event(std::string control, std::string name, std::function<void()> run) {
+        events_.push_back({std::move(control), -1, std::move(name), std::move(run)});
+    }
+    void event(std::string control, int index, std::string name, std::function<void()> run) {
+        events_.push_back({std::move(control), index, std::move(name), std::move(run)});
+    }
+
+    const std::vector<Control>& all_controls() const { return controls_; }
+    const std::vector<Event>& all_events() const { return events_; }
+    /// Null when there is none of that name.
+    const Control* find_control(const std::string& name, int index = -1) const;
+    const Event* find_event(const std::string& control, const std::string& name, int index = -1) const;
+
+  private:
+    std::vector<Control> controls_;
+    std::vector<Event> events_;
+};
+
+/// A loaded screen as the registry and the front ends see it, whatever its class.
+struct Screen {
+    explicit Screen(std::type_index kind) : type(kind) {}
+    std::type_index type;
+    std::string name;  ///< "Form6"
+    Observer observer; ///< told of `caption`
+    Property<Text> caption{observer, Prop::caption, {}};
+    bool visible = false;
+    ScreenMap map;
+    std::shared_ptr<void> instance;
+    std::function<void()> unload_event;   ///< Form_Unload, empty when the screen has none
+    std::function<void()> activate_event; ///< Form_Activate, likewise
+    void* front_end = nullptr;            ///< the window that shows it, owned by the front end
+};
+
+/// The screens: one default instance of each class, made and loaded by the first reference.
+///
+/// A screen class is default-constructible and has
+///   static constexpr const char* name = "Form6";
+///   static constexpr TextView title = u"Step 5 of 6 - Gateway Generation";   the caption at load
+///   void enumerate(ScreenMap& map);   tells its controls and events, once
+/// and, where it needs them, Form_Load(), Form_Unload() and Form_Activate().
+/// A screen unloaded while an event runs leaves the registry at once and is destroyed when the outermost
+/// event has returned.
+class Screens {
+  public:
+    template <class S> S& get() {
+        if (Screen* loaded = find(typeid(S))) return *static_cast<S*>(loaded->instance.get());
+        return load<S>();
+    }
+    template <class S> bool is_loaded() const { return find(typeid(S)) != nullptr; }
+    /// The registry's record of a screen, loading it if need be.
+    template <class S> Screen& record() {
+        get<S>();
+        Screen* const loaded = find(typeid(S));
+        return loaded != nullptr ? *loaded : *graveyard_.back();
+    }
+
+    template <class S> void show() { show(record<S>()); }
+    /// Shows the screen and waits until it has been hidden or unloaded.
+    template <class S> void show_modal() { show_modal(record<S>()); }
+    template <class S> void hide() {
+        if (Screen* loaded = find(typeid(S))) hide(*loaded);
+    }
+    template <class S> void bring_forward() { bring_forward(record<S>()); }
+    /// Runs Form_Unload and destroys the instance; nothing happens when it is not loaded.
+    template <class S> void unload() {
+        if (Screen* loaded = find(typeid(S))) unload(*loaded);
+    }
+
+    void show(Screen& screen);
+    void show_modal(Screen& screen);
+    void hide(Screen& screen);
+    void bring_forward(Screen& screen);
+    void unload(Screen& screen);
+    /// Unloads all that is loaded, the newest first.
+    void unload_all();
+
+    Screen* find(std::type_index type) const;
+    Screen* find(const std::string& name) const;
+    /// The loaded screens, the one brought forward last at the end.
+    std::vector<Screen*> open() const;
+
+    /// Runs an event (or anything that may unload screens): a fault ends it and is shown through the desktop.
+    /// Returns whether it ended without a fault.
+    bool dispatch(const std::function<void()>& event);
+    /// The same for an event of a screen by name; false when the screen has no such event.
+    bool fire(Screen& screen, const std::string& control, const std::string& name, int index = -1);
+    template <class S> bool fire(const std::string& control, const std::string& name, int index = -1) {
+        return fire(record<S>(), control, name, index);
+    }
+    bool event_running() const { return depth_ > 0; }
+
+  private:
+    template <class S> S& load();
+    Screen& enter(std::unique_ptr<Screen> screen);
+    void bury();
+
+    std::vector<std::unique_ptr<Screen>> loaded_;
+    std::vector<std::unique_ptr<Screen>> graveyard_;
+    int depth_ = 0;
+
+    /// Keeps what is unloaded alive while it may still run.
+    struct Running {
+        explicit Running(Screens& screens) : screens(screens) { ++screens.depth_; }
+        ~Running() {
+            if (--screens.depth_ == 0) screens.bury();
+        }
+        Screens& screens;
+    };
+};
+
+Screens& screens();
+
+/// The default instance of a screen: `screen<Form2>().txt_name[0].text()`.
+template <class S> S& screen() {
+    return screens().get<S>();
+}
+
+template <class S> S& Screens::load() {
+    auto made = std::make_unique<Screen>(typeid(S));
+    auto instance = std::make_shared<S>();
+    S& form = *instance;
+    made->name = S::name;
+    made->caption = Text(S::title);
+    made->instance = instance;
+    form.enumerate(made->map);
+    if constexpr (requires { form.Form_Unload(); }) made->unload_event = [&form] { form.Form_Unload(); };
+    if constexpr (requires { form.Form_Activate(); })
+        made->activate_event = [&form] { form.Form_Activate(); };
+    // A screen may unload itself while it loads. Outside an event it is then destroyed when this returns, so
+    // whoever loads screens does so from within one.
+    Running running(*this);
+    Screen& entered = enter(std::move(made));
+    if constexpr (requires { form.Form_Load(); }) {
+        try {
+            form.Form_Load();
+        } catch (...) {
+            if (find(typeid(S)) == &entered) unload(entered);
+            throw;
+        }
+    }
+    return form;
+}
+
+} // namespace twk

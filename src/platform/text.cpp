@@ -1,0 +1,271 @@
+#include "platform/text.h"
+
+#include "platform/faults.h"
+
+#include <algorithm>
+#include <array>
+#include <clocale>
+#include <cwctype>
+
+#include <locale.h>
+
+namespace twk {
+
+namespace {
+
+constexpr char16_t replacement = 0xFFFD;
+
+struct CaseTables {
+    std::array<char16_t, 65536> lower;
+    std::array<char16_t, 65536> upper;
+
+    CaseTables() {
+        const locale_t locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+        for (unsigned i = 0; i < 65536; ++i) {
+            lower[i] = mapped(i, locale, towlower_l);
+            upper[i] = mapped(i, locale, towupper_l);
+        }
+        if (locale != nullptr) freelocale(locale);
+    }
+
+    static char16_t mapped(unsigned unit, locale_t locale, wint_t (*map)(wint_t, locale_t)) {
+        const bool surrogate = unit >= 0xD800 && unit < 0xE000;
+        if (surrogate || locale == nullptr) return static_cast<char16_t>(unit);
+        const wint_t to = map(unit, locale);
+        return to < 65536 ? static_cast<char16_t>(to) : static_cast<char16_t>(unit);
+    }
+};
+
+const CaseTables& tables() {
+    static const CaseTables made;
+    return made;
+}
+
+/// First `unit` in [at, end), or `end`. Looks at blocks without an early exit, which compilers vectorise.
+const char16_t* find_unit(const char16_t* at, const char16_t* end, char16_t unit) {
+    constexpr int block = 32;
+    while (end - at >= block) {
+        unsigned found = 0;
+        for (int i = 0; i < block; ++i) found |= static_cast<unsigned>(at[i] == unit);
+        if (found != 0) break;
+        at += block;
+    }
+    while (at != end && *at != unit) ++at;
+    return at;
+}
+
+constexpr std::size_t npos = TextView::npos;
+
+std::size_t position(TextView text, TextView what, std::size_t from) {
+    if (what.size() > text.size() || from > text.size() - what.size()) return npos;
+    if (what.empty()) return from;
+    const char16_t* const begin = text.data();
+    const char16_t* const last = begin + (text.size() - what.size()) + 1;
+    for (const char16_t* at = begin + from; (at = find_unit(at, last, what.front())) != last; ++at)
+        if (std::equal(what.begin() + 1, what.end(), at + 1)) return static_cast<std::size_t>(at - begin);
+    return npos;
+}
+
+std::size_t as_count(int count) {
+    if (count < 0) throw RuntimeFault(fault_argument);
+    return static_cast<std::size_t>(count);
+}
+
+} // namespace
+
+int Len(TextView text) {
+    return static_cast<int>(text.size());
+}
+
+Text Left(TextView text, int count) {
+    return Text(text.substr(0, as_count(count)));
+}
+
+Text Right(TextView text, int count) {
+    const std::size_t wanted = std::min(as_count(count), text.size());
+    return Text(text.substr(text.size() - wanted));
+}
+
+Text Mid(TextView text, int start) {
+    return Mid(text, start, Len(text));
+}
+
+Text Mid(TextView text, int start, int count) {
+    if (start < 1) throw RuntimeFault(fault_argument);
+    const std::size_t from = std::min(static_cast<std::size_t>(start - 1), text.size());
+    return Text(text.substr(from, as_count(count)));
+}
+
+int InStr(TextView text, TextView what, int start) {
+    if (start < 1) throw RuntimeFault(fault_argument);
+    if (text.empty()) return 0;
+    const std::size_t at = position(text, what, static_cast<std::size_t>(start - 1));
+    return at == npos ? 0 : static_cast<int>(at) + 1;
+}
+
+Text Replace(TextView text, TextView what, TextView with, int count) {
+    if (count < -1) throw RuntimeFault(fault_argument);
+    std::size_t at = what.empty() || count == 0 ? npos : position(text, what, 0);
+    if (at == npos) return Text(text);
+    Text out;
+    out.reserve(text.size() + (with.size() > what.size() ? text.size() / 8 : 0));
+    std::size_t from = 0;
+    for (int left = count; at != npos && left != 0; --left) {
+        out.append(text, from, at - from).append(with);
+        from = at + what.size();
+        at = position(text, what, from);
+    }
+    return out.append(text, from);
+}
+
+bool replace_all(Text& text, TextView what, TextView with) {
+    if (what.empty() || position(text, what, 0) == npos) return false;
+    text = Replace(text, what, with);
+    return true;
+}
+
+std::vector<TextView> split_views(TextView text, TextView separator) {
+    std::vector<TextView> pieces;
+    if (text.empty()) return pieces;
+    if (separator.empty()) return {text};
+    std::size_t from = 0;
+    for (std::size_t at; (at = position(text, separator, from)) != npos; from = at + separator.size())
+        pieces.push_back(text.substr(from, at - from));
+    pieces.push_back(text.substr(from));
+    return pieces;
+}
+
+std::vector<Text> Split(TextView text, TextView separator) {
+    const std::vector<TextView> views = split_views(text, separator);
+    return {views.begin(), views.end()};
+}
+
+TextView trim_view(TextView text) {
+    const std::size_t first = text.find_first_not_of(u' ');
+    if (first == npos) return {};
+    return text.substr(first, text.find_last_not_of(u' ') - first + 1);
+}
+
+Text Trim(TextView text) {
+    return Text(trim_view(text));
+}
+
+char16_t lower(char16_t unit) {
+    return tables().lower[unit];
+}
+
+Text LCase(TextView text) {
+    const CaseTables& table = tables();
+    Text out(text);
+    for (char16_t& unit : out) unit = table.lower[unit];
+    return out;
+}
+
+Text UCase(TextView text) {
+    const CaseTables& table = tables();
+    Text out(text);
+    for (char16_t& unit : out) unit = table.upper[unit];
+    return out;
+}
+
+Text StrReverse(TextView text) {
+    return Text(text.rbegin(), text.rend());
+}
+
+bool contains(TextView text, TextView what) {
+    return position(text, what, 0) != npos;
+}
+
+bool same_text(TextView a, TextView b) {
+    const CaseTables& table = tables();
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&table](char16_t x, char16_t y) {
+        return x == y || table.lower[x] == table.lower[y];
+    });
+}
+
+std::string to_utf8(TextView text) {
+    std::string out;
+    out.reserve(text.size());
+    const auto put = [&out](unsigned value) { out.push_back(static_cast<char>(value)); };
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        unsigned code = text[i];
+        if (code < 0x80) {
+            put(code);
+            continue;
+        }
+        const bool high = code >= 0xD800 && code < 0xDC00;
+        if (high && i + 1 < text.size() && text[i + 1] >= 0xDC00 && text[i + 1] < 0xE000) {
+            code = 0x10000 + ((code - 0xD800) << 10) + (text[++i] - 0xDC00u);
+            put(0xF0 | (code >> 18));
+            put(0x80 | ((code >> 12) & 0x3F));
+        } else {
+            if (code >= 0xD800 && code < 0xE000) code = replacement;
+            if (code < 0x800) {
+                put(0xC0 | (code >> 6));
+                put(0x80 | (code & 0x3F));
+                continue;
+            }
+            put(0xE0 | (code >> 12));
+        }
+        put(0x80 | ((code >> 6) & 0x3F));
+        put(0x80 | (code & 0x3F));
+    }
+    return out;
+}
+
+namespace {
+
+/// Decodes one code point at `at` and moves behind it; returns false, one byte further, where there is none.
+bool decode(std::string_view bytes, std::size_t& at, unsigned& code) {
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+    const unsigned lead = byte(at);
+    unsigned extra = 0, least = 0;
+    if (lead < 0x80) {
+        code = lead;
+    } else if (lead >= 0xC2 && lead < 0xE0) {
+        code = lead & 0x1F, extra = 1, least = 0x80;
+    } else if (lead >= 0xE0 && lead < 0xF0) {
+        code = lead & 0x0F, extra = 2, least = 0x800;
+    } else if (lead >= 0xF0 && lead < 0xF5) {
+        code = lead & 0x07, extra = 3, least = 0x10000;
+    } else {
+        ++at;
+        return false;
+    }
+    bool good = at + extra < bytes.size();
+    for (unsigned i = 1; good && i <= extra; ++i) {
+        good = (byte(at + i) & 0xC0) == 0x80;
+        code = (code << 6) | (byte(at + i) & 0x3Fu);
+    }
+    good = good && code >= least && code < 0x110000 && !(code >= 0xD800 && code < 0xE000);
+    at += good ? extra + 1 : 1;
+    return good;
+}
+
+} // namespace
+
+Text from_utf8(std::string_view bytes) {
+    Text out;
+    out.reserve(bytes.size());
+    for (std::size_t at = 0; at < bytes.size();) {
+        unsigned code = 0;
+        if (!decode(bytes, at, code)) code = replacement;
+        if (code < 0x10000) {
+            out.push_back(static_cast<char16_t>(code));
+        } else {
+            out.push_back(static_cast<char16_t>(0xD800 + ((code - 0x10000) >> 10)));
+            out.push_back(static_cast<char16_t>(0xDC00 + ((code - 0x10000) & 0x3FF)));
+        }
+    }
+    return out;
+}
+
+bool is_utf8(std::string_view bytes) {
+    for (std::size_t at = 0; at < bytes.size();) {
+        unsigned code = 0;
+        if (!decode(bytes, at, code)) return false;
+    }
+    return true;
+}
+
+} // namespace twk

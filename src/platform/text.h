@@ -1,0 +1,63 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Text as the whole program holds it: 16-bit units; lengths and positions count units, and positions start
+/// at 1. The operations bear the names under which they are known, with exactly their known rules.
+namespace twk {
+
+using Text = std::u16string;
+using TextView = std::u16string_view;
+
+int Len(TextView text);
+
+/// The first or last `count` units; all of the text when it is shorter. A negative count is fault 5.
+Text Left(TextView text, int count);
+Text Right(TextView text, int count);
+
+/// From position `start` (1 or more, else fault 5) to the end, or `count` units (negative: fault 5).
+Text Mid(TextView text, int start);
+Text Mid(TextView text, int start, int count);
+
+/// Position of the first `find` at or behind `start`, case-sensitive; 0 when there is none. An empty `find`
+/// is found at `start`, except in an empty text.
+int InStr(TextView text, TextView find, int start = 1);
+
+/// Replaces the first `count` occurrences from left to right; -1 means all, below that is fault 5. An empty
+/// `find` leaves the text alone.
+Text Replace(TextView text, TextView find, TextView with, int count = -1);
+/// The same, in place and for all occurrences; returns whether one was found.
+bool replace_all(Text& text, TextView find, TextView with);
+
+/// Pieces between the separators, empty ones included; an empty text gives no piece at all.
+std::vector<Text> Split(TextView text, TextView separator = u" ");
+/// The same without copies: the pieces look into `text`, which must outlive them.
+std::vector<TextView> split_views(TextView text, TextView separator = u" ");
+
+/// Cuts blanks (and nothing else) from both ends.
+Text Trim(TextView text);
+TextView trim_view(TextView text);
+
+Text LCase(TextView text);
+Text UCase(TextView text);
+char16_t lower(char16_t unit);
+
+/// Units in reverse order.
+Text StrReverse(TextView text);
+
+bool contains(TextView text, TextView find);
+/// Equality without regard to case.
+bool same_text(TextView a, TextView b);
+
+/// UTF-8 and back. Bytes that are no UTF-8, and halves of a pair, become U+FFFD.
+std::string to_utf8(TextView text);
+Text from_utf8(std::string_view bytes);
+bool is_utf8(std::string_view bytes);
+
+inline constexpr TextView vbCrLf = u"\r\n";
+inline constexpr TextView vbCr = u"\r";
+inline constexpr TextView vbLf = u"\n";
+
+} // namespace twk

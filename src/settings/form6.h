@@ -1,0 +1,128 @@
+#pragma once
+
+#include "platform/screens.h"
+#include "settings/gateway_settings.h"
+
+#include <array>
+#include <memory>
+
+namespace twk {
+
+struct Run;
+
+/// Step 5: the generation settings on five levels, and the run. The run reads these controls at the moment
+/// that a page needs them.
+class Form6 {
+  public:
+    static constexpr const char* name = "Form6";
+    static constexpr TextView title = u"Step 5 of 6 - Gateway Generation";
+
+    Form6();
+    ~Form6();
+
+    // Level 1
+    Frame Frame2{u"First and Second Level Pages Settings"};
+    ComboBox Combo9; ///< keyword density, per cent
+    CheckBox Check10{u"Increase content (word count) if necessary?"};
+    CheckBox Check11{u"Decrease content (word count) if necessary?"};
+    CheckBox Check12{u"Enable Second Level Pages interlinking"};
+    CheckBox Check13{u"Enable automatic Java Script Redirection?"};
+    CheckBox Check14{u"Link to all the first-Level pages from Hallway?"};
+    CheckBox Check15{u"Optimize tied contents?"};
+
+    // Level 2
+    Frame Frame1{u"Random Page Settings"};
+    ComboBox Combo2{u"20"}; ///< how many random pages
+    ComboBox Combo3{u"20"}; ///< per cent redirecting by script
+    ComboBox Combo4{u"80"}; ///< per cent linking to the target
+    ComboBox Combo8{u"60"}; ///< of those, per cent to the main URL
+    CheckBox Check9{u"Let user change random file-names?"};
+    CheckBox Check5{u"Duplicate Content boxes using synonyms?"};
+
+    // Level 3
+    Frame Frame3{u"Boths Types"};
+    ComboBox Combo10{u".htm"}; ///< file extension
+    CheckBox Check6{u"Highlight keywords in content paragraphs?"};
+    CheckBox Check8{
+        u"Limit the number of keyword repetitions in content Boxes? (Keeps keyword frequency under safe "
+        u"limits. Overrides the other settings)"};
+    CheckBox Check1{u"Include 'Revisit-After 30 days' MetaTag?"};
+    CheckBox Check2{u"Include random images in some pages?"};
+    CheckBox Check7{u"Include Google search links for your site?"};
+    CheckBox Check4{u"Include some optimized flash animations?"};
+    CheckBox Check3;              ///< writes the hidden keyword blocks; has no caption
+    ComboBox Combo7{u"Business"}; ///< classification
+    ComboBox Combo5{u"en-us"};    ///< language
+    ComboBox Combo6;              ///< word separator of file names
+
+    // Level 4
+    Frame Frame4{u"HTML Design"};
+    std::array<OptionButton, 4> Template{OptionButton{u"No table"}, OptionButton{u"Table 1"},
+                                         OptionButton{u"Table 2"}, OptionButton{u"Table 3"}};
+    ComboBox combo1{u"Select"}; ///< font face
+    TextBox Text4{u"#000000"};  ///< font colour
+    OptionButton Option1;       ///< solid background colour
+    TextBox Text1{u"#ffffff"};  ///< background colour
+    OptionButton Option2{u"BackGround Image URL"};
+    TextBox Text3; ///< address of the background image
+    TextBox Text2; ///< custom HTML for every page
+    Frame Frame5{u"Custom HTML Box"};
+    CommandButton Command2_0{u"Select Font Color"};
+    CommandButton Command2_110{u"BackGround Color"};
+
+    // Level 5
+    Frame Frame7{u"Configuration Level"};
+    CommandButton Command3{u"Load settings from .dat file"};
+    CommandButton Command4{u"Save settings to .dat file"};
+
+    // A hallway page of the user's own
+    Frame Frame8{u"SiteMap"};
+    CheckBox checkBulgaro{u"Use another sitemap as template?"};
+    DriveListBox Drive2;
+    DirListBox Dir2;
+    FileListBox File2{u"*.ht*"};
+    Label Label52{u"Sitemap to use:"};
+    CommandButton Command5{u"Continue"};
+    Label Label53;
+
+    Slider Slider1{1, 5};
+    Label Label41{u"This action will erase previously generated pages with this project name."};
+    CommandButton Command1{u"Next: Generate Gateway Pages"};
+    CommandButton Command7{u"Help"};
+    FileListBox File1; ///< the run's lister of files
+    DirListBox Dir1;   ///< the run's lister of folders
+    ListBox List1;     ///< full paths of the pictures, filled by the run
+    CommonDialog CommonDialog1;
+
+    std::int16_t pid_form = 0;   ///< the project's key, found by name at load
+    bool carga_inicial = false;  ///< off while the screen loads
+    bool informe_activo = false; ///< reports are made; nothing turns it off again
+    Text plantilla_sitemap;      ///< the user's own hallway page
+    GatewaySettings settings;
+    std::unique_ptr<Run> run; ///< state of the run under way or of the last one
+
+    void enumerate(ScreenMap& map);
+    void Form_Load();
+    void Form_Unload();
+    void Slider1_Change();
+    void Command1_Click(); ///< the run
+    void Command2_Click(int index);
+    void Command3_Click();
+    void Command4_Click();
+    void Command5_Click();
+    void Command7_Click();
+    void Option1_Click();
+    void Option2_Click();
+    void Template_Click(int index);
+    void Drive2_Change();
+    void Dir2_Change();
+    void File2_Click();
+    void cancelar();
+};
+
+/// Loads a settings file (full path) into controls and record. A missing file is told and closes the screen.
+void tomar_de_dat(Form6& form, const Text& nombre);
+/// Writes the present state; ".dat" is added when the name holds none. Any failure is told, none comes out.
+void guardar_dat(Form6& form, const Text& nombre);
+
+} // namespace twk
