@@ -87,6 +87,8 @@ struct Screen {
 ///   static constexpr TextView title = u"Step 5 of 6 - Gateway Generation";   the caption at load
 ///   void enumerate(ScreenMap& map);   tells its controls and events, once
 /// and, where it needs them, Form_Load(), Form_Unload() and Form_Activate().
+/// A loaded screen is visible: loading shows it, unless the class says
+///   static constexpr bool shown_when_loaded = false;
 /// A screen unloaded while an event runs leaves the registry at once and is destroyed when the outermost
 /// event has returned.
 class Screens {
@@ -187,6 +189,9 @@ template <class S> S& Screens::load() {
             throw;
         }
     }
+    bool shown = true;
+    if constexpr (requires { S::shown_when_loaded; }) shown = S::shown_when_loaded;
+    if (shown && find(typeid(S)) == &entered && !entered.visible) show(entered);
     return form;
 }
 
