@@ -1,0 +1,233 @@
+#include "engine/text_toolkit.h"
+
+#include "platform/chance.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/faults.h"
+#include "platform/numbers.h"
+
+#include <algorithm>
+
+namespace twk {
+
+namespace {
+
+/// Stands for a blank inside a keyword while it is counted.
+constexpr TextView joint = u"$$$";
+/// The search steps over one unit more per blank than it has matched: the count depends on it.
+constexpr TextView long_joint = u"$$$$";
+
+/// "<" to " <", ">" to "> ", then single blanks: the form in which tags are pieces of their own. One pass,
+/// and only when the text is not in that form yet.
+void space_tags(Text& text) {
+    const auto spaced = [](TextView t) {
+        // Each unit with the one before it; both ends lack a neighbour.
+        unsigned wrong = 0;
+        for (std::size_t i = 1; i < t.size(); ++i) {
+            const char16_t before = t[i - 1], here = t[i];
+            wrong |= static_cast<unsigned>((here == u'<') & (before != u' '));
+            wrong |= static_cast<unsigned>((before == u'>') & (here != u' '));
+            wrong |= static_cast<unsigned>((before == u' ') & (here == u' '));
+        }
+        return wrong == 0 && (t.empty() || (t.front() != u'<' && t.back() != u'>'));
+    };
+    if (spaced(text)) return;
+    Text out;
+    out.resize(text.size() +
+               2 * static_cast<std::size_t>(std::count_if(
+                       text.begin(), text.end(), [](char16_t c) { return c == u'<' || c == u'>'; })));
+    char16_t* at = out.data();
+    char16_t last = 0;
+    const auto put = [&](char16_t unit) {
+        if (unit == u' ' && last == u' ') return;
+        *at++ = last = unit;
+    };
+    for (const char16_t unit : text) {
+        if (unit == u'<') put(u' ');
+        put(unit);
+        if (unit == u'>') put(u' ');
+    }
+    out.resize(static_cast<std::size_t>(at - out.data()));
+    text = std::move(out);
+}
+
+std::int16_t as_count(std::int64_t count) {
+    return CInt(static_cast<double>(count));
+}
+
+} // namespace
+
+Text& quitar_dobles(Text& texto) {
+    const auto doubled = [](char16_t a, char16_t b) { return a == u' ' && b == u' '; };
+    texto.erase(std::unique(texto.begin(), texto.end(), doubled), texto.end());
+    return texto;
+}
+
+std::int16_t contar_palabras(Text& texto) {
+    replace_all(texto, highlight_opening, u"");
+    space_tags(texto);
+    const TextView trimmed = trim_view(texto);
+    std::int64_t count = 0;
+    for (std::size_t from = 0; from < trimmed.size();) {
+        const std::size_t blank = trimmed.find(u' ', from);
+        const std::size_t end = blank == TextView::npos ? trimmed.size() : blank;
+        if (end > from && trimmed[from] != u'<' && trimmed[end - 1] != u'>') ++count;
+        from = end + 1;
+    }
+    return as_count(count);
+}
+
+namespace {
+
+/// Counts in the text as it is when the keyword's blanks are joints in it: puts them there, looks, takes them
+/// away again.
+std::int64_t count_joined(Text& texto, TextView keyword, TextView joined, std::size_t step) {
+    replace_all(texto, keyword, joined);
+    std::int64_t count = 0;
+    for (std::size_t at = 1; (at = static_cast<std::size_t>(InStr(texto, joined, static_cast<int>(at)))) != 0;
+         at += step)
+        ++count;
+    return count;
+}
+
+/// The same without touching the text, where that is certain to give the same: the matches lie so far apart
+/// that neither the longer step nor a match across two of them can play a part. Otherwise -1.
+std::int64_t count_apart(TextView texto, TextView keyword) {
+    const std::size_t length = keyword.size();
+    std::int64_t count = 0;
+    std::size_t end = 0;
+    for (int at = 1; (at = InStr(texto, keyword, at)) != 0; at += static_cast<int>(length)) {
+        const std::size_t begin = static_cast<std::size_t>(at) - 1;
+        if (count != 0 && begin - end < length) return -1;
+        end = begin + length;
+        ++count;
+    }
+    return count;
+}
+
+} // namespace
+
+std::int16_t contar_kw(Text& texto, Text& keyword) {
+    replace_all(texto, highlight_opening, u" ");
+    space_tags(texto);
+    keyword = Trim(LCase(keyword));
+    const bool phrase = contains(keyword, u" ");
+    if (phrase) quitar_dobles(keyword);
+    const bool has_joints = contains(texto, joint);
+    std::int64_t count = 0;
+    if (!keyword.empty()) {
+        count = phrase && !has_joints ? count_apart(texto, keyword) : -1;
+        if (count < 0)
+            count = count_joined(texto, keyword, Replace(keyword, u" ", joint),
+                                 Replace(keyword, u" ", long_joint).size());
+    }
+    if (has_joints || phrase) replace_all(texto, joint, u" ");
+    return as_count(count);
+}
+
+double densidad(const Text& texto, Text& keyword) {
+    if (trim_view(texto).empty()) return 0;
+    Text copia = texto;
+    const double cuenta = contar_kw(copia, keyword);
+    const double palabras = contar_palabras(copia);
+    if (palabras == 0) return 0;
+    return CLng(Replace(Format(Round(cuenta * 100 / palabras), u"###,0"), u",", u""));
+}
+
+double densidad2(std::int16_t cuenta, Text& texto, const Text& keyword) {
+    replace_all(texto, keyword, Replace(keyword, u" ", joint));
+    const std::int64_t blanks = std::count(texto.begin(), texto.end(), u' ');
+    const double piezas = blanks == 0 ? 1 : static_cast<double>(blanks);
+    const double valor = CInt(static_cast<double>(cuenta) * 100) / piezas;
+    if (valor == 0) return 0;
+    return CInt(Format(valor, u"##.##"));
+}
+
+Text cortar_palabras(TextView texto, int limite) {
+    const TextView recortado = trim_view(texto);
+    if (recortado.empty()) return {};
+    // Pieces count towards the limit, words stop the loop. Once the pieces have used up the limit nothing
+    // more is added, however few words there are: the loop would only run to its end.
+    const bool whole_count = contains(recortado, highlight_opening); // its blank ties pieces together
+    Text resultado;
+    int piezas = 0;
+    int palabras = 0;
+    for (const TextView cada : split_views(recortado)) {
+        if (++piezas > limite) break;
+        resultado.append(1, u' ').append(cada);
+        Text contada = whole_count ? Trim(resultado) : Text(cada);
+        palabras = whole_count ? contar_palabras(contada) : palabras + contar_palabras(contada);
+        if (palabras >= limite) break;
+    }
+    return Trim(resultado);
+}
+
+Text limpiar_html(Text& texto) {
+    quitar_dobles(texto);
+    while (contains(texto, u"..")) texto = Replace(Trim(texto), u"..", u".");
+    for (const TextView vacio : {u"<p>  <p>", u"<p> <p>", u"<p><p>"})
+        while (replace_all(texto, vacio, u"<p>")) {
+        }
+    space_tags(texto);
+    return Trim(texto);
+}
+
+Text preparar_texto(Text& texto) {
+    quitar_dobles(texto);
+    replace_all(texto, vbCrLf, u" <p> ");
+    replace_all(texto, u"(", u" (");
+    replace_all(texto, u")", u") ");
+    replace_all(texto, u"<", u" <");
+    replace_all(texto, u">", u"> ");
+    replace_all(texto, u"\"", u"");
+    Text limpio = texto;
+    quitar_dobles(limpio);
+    return Trim(limpio);
+}
+
+Text preparar_texto(Text&& texto) {
+    return preparar_texto(texto);
+}
+
+std::int16_t xrnum(std::int16_t n) {
+    if (n == 0) return 0;
+    return CInt(Int(chance().Rnd() * n));
+}
+
+Text letra(std::int16_t& n) {
+    if (n > 25) n = static_cast<std::int16_t>(n - 25); // 25, not 26: "b" follows "z"
+    if (n < 0 || n > 25) throw RuntimeFault(fault_subscript);
+    return Text(1, static_cast<char16_t>(u'a' + n));
+}
+
+Text validar_palabra(Text& palabra) {
+    if (Len(palabra) < 3) {
+        MsgBox(u"The word must have more than 3 characters"); // 3 pass, whatever it says
+        return {};
+    }
+    const Text plana = LCase(trim_view(palabra));
+    if (plana == u"index" || plana == u"sitemap") {
+        MsgBox(u"'Sitemap' and 'Index' are reserved words.");
+        return {};
+    }
+    palabra = Trim(palabra);
+    const auto allowed = [](char16_t c) {
+        return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9') ||
+               c == u' ' || c == u'-' || c == u'_';
+    };
+    if (!std::all_of(palabra.begin(), palabra.end(), allowed)) {
+        MsgBox(u"The word can only contain letters, numbers and dashes");
+        return {};
+    }
+    return palabra;
+}
+
+Text ruta_corta(const Text& ruta) {
+    return ruta;
+}
+
+void esperar(int segundos) {
+    Sleep(segundos * 1000);
+}
+
+} // namespace twk
