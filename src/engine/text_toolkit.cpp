@@ -131,7 +131,7 @@ double densidad(const Text& texto, Text& keyword) {
     const double cuenta = contar_kw(copia, keyword);
     const double palabras = contar_palabras(copia);
     if (palabras == 0) return 0;
-    return CLng(Replace(Format(Round(cuenta * 100 / palabras), u"###,0"), u",", u""));
+    return CInt(Replace(Format(Round(cuenta * 100 / palabras), u"###,0"), u",", u""));
 }
 
 double densidad2(std::int16_t cuenta, Text& texto, const Text& keyword) {

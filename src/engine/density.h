@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <cstdint>
+
+/// Brings a content box to about the word count and keyword density asked for, marks keywords, and makes file
+/// names. Density is reached by adding sentences at even steps; what the text has already is not measured.
+namespace twk {
+
+class Form6;
+struct Run;
+
+/// The driver: grows a short text, moves a long one to a read-more page, spreads the linking sentences, and
+/// limits repetitions, each as the controls of Step 5 say. Faults 6, 9 and 13 come out; 1001 when the
+/// sentences of the settings are all empty.
+Text recalcular(Run& run, const Text& texto, const Text& keyword);
+
+/// Adds words from drawn boxes while the text has fewer than `min_palabras`, five times at most. In place.
+Text pocas_palabras(Run& run, Text& texto);
+
+/// Cuts a text of more than `max_palabras` words to its first 500 pieces, which go to a read-more page. In
+/// place. Fault 9 when there are fewer pieces.
+Text muchas_palabras(Run& run, Text& texto);
+
+/// The text in segments of about 100 / `densidad` pieces, each with a sentence that links the keyword in
+/// front of its first anchor word. Empty when the text is, when `densidad` is below 1, or above 50. The
+/// argument gets its tags spaced. Faults 6 (words times density past 16 bits), 9 (an anchor word past the
+/// last piece), 1001.
+Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, std::int16_t densidad);
+
+/// The draw of `xrnum`.
+std::int16_t xrnum2(std::int16_t n);
+
+/// Marks every keyword that stands between blanks, in its own case.
+Text highLight(Run& run, TextView texto);
+
+/// A text made fit for a file name: separator for blanks, plain letters, lower case. "}", ",", "/", "\" and
+/// "." pass through.
+Text rspaces(const Form6& form, TextView texto);
+
+} // namespace twk

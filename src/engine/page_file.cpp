@@ -1,0 +1,43 @@
+#include "engine/page_file.h"
+
+#include "engine/run.h"
+#include "platform/desktop.h"
+#include "platform/faults.h"
+
+namespace twk {
+
+void open_page(Run& run, const Text& path) {
+    run.pagina_actual = path;
+    const Text aux = path + u"aux";
+    run.fence->check(path);
+    run.fence->check(aux);
+    run.origen = run.fso.OpenTextFile(path, OpenMode::reading, !run.fso.FileExists(path), TextKind::page);
+    run.salida = run.fso.OpenTextFile(aux, OpenMode::writing, true, TextKind::page);
+}
+
+void close_page(Run& run, const Text& path) {
+    const Text aux = run.salida->path();
+    run.origen->Close();
+    run.salida->Close();
+    run.origen.reset();
+    run.salida.reset();
+    run.fso.DeleteFile(path);
+    run.fso.CopyFile(aux, path);
+    run.fso.DeleteFile(aux);
+    ++run.pages_written;
+    run.bytes_written += FileLen(path);
+}
+
+Text destination_folder(Run& run, TextView address) {
+    Text name = Replace(address, u"http://", u"");
+    replace_all(name, u"\\", u"-");
+    replace_all(name, u"/", u"-");
+    return run.project_folder + Text(path_separator) + name;
+}
+
+void copy_into_project(Run& run, const Text& from, const Text& to) {
+    run.fence->check(to);
+    run.fso.CopyFile(from, to);
+}
+
+} // namespace twk
