@@ -20,8 +20,13 @@ class Form6 {
     Form6();
     ~Form6();
 
+    Slider Slider1{1, 5};
+    Label lbl_level{u"1. First and Second level Page Settings"};
+    Label lbl_level_note{u"Customize Keyword density and word count."};
+
     // Level 1
     Frame Frame2{u"First and Second Level Pages Settings"};
+    Label lbl_density{u"Keyword Density (aprox.) for content boxes (2-3% recommended)"};
     ComboBox Combo9; ///< keyword density, per cent
     CheckBox Check10{u"Increase content (word count) if necessary?"};
     CheckBox Check11{u"Decrease content (word count) if necessary?"};
@@ -32,15 +37,23 @@ class Form6 {
 
     // Level 2
     Frame Frame1{u"Random Page Settings"};
+    Label lbl_random_pages{
+        u"How many random pages? (aprox.). Accomodate this figure to the amount of keywords and "
+        u"content boxes you supplied."};
     ComboBox Combo2{u"20"}; ///< how many random pages
+    Label lbl_redirecting{u"Random pages using automatic Javacript redirection to the target site"};
     ComboBox Combo3{u"20"}; ///< per cent redirecting by script
+    Label lbl_linking{u"Random pages linking to the target site"};
     ComboBox Combo4{u"80"}; ///< per cent linking to the target
+    Label lbl_main_url{
+        u"From the above %, how many pages are linking to the main URL rather than Other Targets?"};
     ComboBox Combo8{u"60"}; ///< of those, per cent to the main URL
     CheckBox Check9{u"Let user change random file-names?"};
     CheckBox Check5{u"Duplicate Content boxes using synonyms?"};
 
     // Level 3
     Frame Frame3{u"Boths Types"};
+    Label lbl_extension{u"File extensions"};
     ComboBox Combo10{u".htm"}; ///< file extension
     CheckBox Check6{u"Highlight keywords in content paragraphs?"};
     CheckBox Check8{
@@ -50,23 +63,32 @@ class Form6 {
     CheckBox Check2{u"Include random images in some pages?"};
     CheckBox Check7{u"Include Google search links for your site?"};
     CheckBox Check4{u"Include some optimized flash animations?"};
-    CheckBox Check3;              ///< writes the hidden keyword blocks; has no caption
-    ComboBox Combo7{u"Business"}; ///< classification
-    ComboBox Combo5{u"en-us"};    ///< language
-    ComboBox Combo6;              ///< word separator of file names
+    CheckBox Check3; ///< writes the hidden keyword blocks; has no caption
+    Label lbl_classification{u"Classification"};
+    ComboBox Combo7{u"Business"};
+    Label lbl_language{u"Language"};
+    ComboBox Combo5{u"en-us"};
+    Label lbl_separator{u"Word-Separator in filenames."};
+    ComboBox Combo6;
 
     // Level 4
     Frame Frame4{u"HTML Design"};
+    Frame Frame6{u"Templates"};
     std::array<OptionButton, 4> Template{OptionButton{u"No table"}, OptionButton{u"Table 1"},
                                          OptionButton{u"Table 2"}, OptionButton{u"Table 3"}};
-    ComboBox combo1{u"Select"}; ///< font face
-    TextBox Text4{u"#000000"};  ///< font colour
-    OptionButton Option1;       ///< solid background colour
-    TextBox Text1{u"#ffffff"};  ///< background colour
+    Label lbl_font_face{u"Font Face"};
+    ComboBox combo1{u"Select"};
+    TextBox Text4{u"#000000"}; ///< font colour
+    OptionButton Option1;      ///< solid background colour
+    TextBox Text1{u"#ffffff"}; ///< background colour
     OptionButton Option2{u"BackGround Image URL"};
-    TextBox Text3; ///< address of the background image
-    TextBox Text2; ///< custom HTML for every page
+    TextBox Text3{u"http://www.tarnwick.example/images/background.gif"}; ///< address of the background image
     Frame Frame5{u"Custom HTML Box"};
+    TextBox Text2; ///< custom HTML for every page
+    Label lbl_html_box{
+        u"Use this box to include some <html>. I.e.: counters, link or banner exchange, signature."};
+    Label lbl_not_saved{
+        u"Neither the HTML Box or Templates are saved to .dat files."}; ///< templates are, as 9.c
     CommandButton Command2_0{u"Select Font Color"};
     CommandButton Command2_110{u"BackGround Color"};
 
@@ -74,6 +96,12 @@ class Form6 {
     Frame Frame7{u"Configuration Level"};
     CommandButton Command3{u"Load settings from .dat file"};
     CommandButton Command4{u"Save settings to .dat file"};
+    Label lbl_advanced{u"This feature is only recommended for advanced users!"};
+    Label lbl_default{u"[ By default this step loads \"twk.dat\" settings ]"};
+    Label lbl_override{u"(This will override some settings defined in previous screens)"};
+    Label lbl_strategies{
+        u"You can set up different strategies for your projects: Each strategy can be saved in different .dat "
+        u"file. Some, but not all .dat settings can be modified from these screens. "};
 
     // A hallway page of the user's own
     Frame Frame8{u"SiteMap"};
@@ -83,9 +111,11 @@ class Form6 {
     FileListBox File2{u"*.ht*"};
     Label Label52{u"Sitemap to use:"};
     CommandButton Command5{u"Continue"};
-    Label Label53;
+    Label Label53{
+        u"This optional feature will not link to random pages. It lets you design the hallway page "
+        u"(sitemap.htm). It will contain links to 5 1st level pages. Do not use if you have less than 5 1st level "
+        u"keywords. The template.htm file can be freely edited, without erasing the placeholder tags."};
 
-    Slider Slider1{1, 5};
     Label Label41{u"This action will erase previously generated pages with this project name."};
     CommandButton Command1{u"Next: Generate Gateway Pages"};
     CommandButton Command7{u"Help"};
@@ -119,10 +149,5 @@ class Form6 {
     void File2_Click();
     void cancelar();
 };
-
-/// Loads a settings file (full path) into controls and record. A missing file is told and closes the screen.
-void tomar_de_dat(Form6& form, const Text& nombre);
-/// Writes the present state; ".dat" is added when the name holds none. Any failure is told, none comes out.
-void guardar_dat(Form6& form, const Text& nombre);
 
 } // namespace twk
