@@ -15,6 +15,10 @@ namespace twk {
 
 void flash(Run& run, Text& t) {
     t = cortar_palabras(t, 10);
+    write_flash_object(run, t);
+}
+
+void write_flash_object(Run& run, const Text& t) {
     run.writeline(u"<OBJECT classid=\"clsid:D27CDB6E-AE6D-11cf-96B8-444553540000\" codebase = \"" +
                   Text(addresses::flash_download) +
                   u"/pub/shockwave/cabs/flash/swflash.cab#version=5,0,0,0\" WIDTH=450 HEIGHT=75>");

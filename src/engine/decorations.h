@@ -9,8 +9,11 @@ struct Run;
 /// Writes the animation with the first ten words of the text, which it keeps (in place).
 void flash(Run& run, Text& t);
 
-/// Under Check4, by chance: copies the animation into the folder and writes it with the text; `blank_line`
-/// follows where the page has one.
+/// Writes the four lines of the animation with the text as it stands.
+void write_flash_object(Run& run, const Text& t);
+
+/// Under Check4, by chance: copies the animation into the folder and writes it with the words (commas taken
+/// out), and a blank line.
 void perhaps_flash(Run& run, const Text& folder, TextView words);
 
 /// The block of a linked picture; a picture drawn anew is copied under the page's name when that name has

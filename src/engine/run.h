@@ -3,6 +3,7 @@
 #include "platform/files.h"
 #include "platform/text.h"
 #include "settings/form6.h"
+#include "store/database.h"
 
 #include <array>
 #include <cstdint>
@@ -95,6 +96,7 @@ struct Run {
     Text lista_enlaces;
     std::int16_t d1 = 0, d2 = 0; ///< densities; kept from page to page at exactly 10000 units
 
+    Database base_datos; ///< stays open after the run
     FileSystemObject fso;
     TextStreamPtr origen;
     TextStreamPtr salida;         ///< the page under way
@@ -103,6 +105,7 @@ struct Run {
     // What the end of a run tells the command line.
     std::int64_t pages_written = 0;
     std::int64_t bytes_written = 0;
+    bool finished = false; ///< the run came to its end
 
     /// Folder `\Projects\<project>` and the main destination's folder in it.
     Text project_folder;

@@ -4,6 +4,7 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
+#include "platform/files.h"
 #include "platform/numbers.h"
 
 #include <algorithm>

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "platform/screens.h"
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace twk {
+
+class KeywordTable;
+
+/// What one keyword is in one page; texts as the report shows them, empty where they could not be computed.
+struct KeywordAnalysis {
+    Text count, density;             ///< body: fields 4 and 5
+    Text title_count, title_density; ///< title: fields 8 and 9
+};
+
+/// The analysis of one page.
+struct PageAnalysis {
+    Text path;        ///< 0
+    Text kb;          ///< 1
+    Text kind;        ///< 2: 1 first-level, 2 second-level, 3 random, 4 site map
+    Text words;       ///< 3
+    Text title;       ///< 6
+    Text title_words; ///< 7
+    Text file;        ///< 10
+    Text url;         ///< 11
+    Text links;       ///< 12
+    Text links_to;    ///< 13
+    Text redirect;    ///< 14
+    std::vector<KeywordAnalysis> keywords;
+};
+
+/// The report: shows the progress of a run and the analysis of every page it wrote.
+class Form12 {
+  public:
+    static constexpr const char* name = "Form12";
+    static constexpr TextView title = u"Generated Pages Report";
+
+    Frame Frame1{u"Report"};
+    Label Label6;
+    Label Label3{u"Now Performing Action:"};
+    Label Label2; ///< status line
+    ProgressBar ProgressBar1;
+    Label Label5{u"First-Level Pages"};
+    ListBox List1;
+    Label Label4{u"Second-Level Pages"};
+    ListBox List2;
+    Label Label1{u"Random Generated Pages"};
+    ListBox List3;
+    RichTextBox RichTextBox1;
+    WebBrowser wb1;
+    Label Label7{u"(Appearance may be different than in maximized browser)"};
+    CommandButton Command3{u"Open HTML sitemap on Browser"};
+    CommandButton Command2{u"Close"};
+
+    void enumerate(ScreenMap& map);
+    void Form_Load();
+    void Form_Unload();
+    void List_Click(int list); ///< 1, 2 or 3
+    void Command2_Click();
+    void Command3_Click();
+
+    /// Keeps the number of subkeywords.
+    void reporte2(int subkeywords);
+    /// Sizes the analysis and takes the keywords over.
+    void Reporte(const KeywordTable& tabla, int keywords);
+    /// Analyses a page; all faults are ignored, what cannot be computed stays empty.
+    void reporte2_2(const Text& path, const Text& page, std::int16_t& index, int kind, const Text& s1,
+                    const Text& s2, const Text& s3);
+    void reporte2_3(int first_level_pages);
+    void reporte_nivel2(int first, int end);
+    void reporte_nivel3(int first, int end);
+    /// Shows the report of the page at a position of list 1, 2 or 3.
+    void Show_reporte(int position, int list);
+
+    std::vector<Text> xKeyWords;
+    std::vector<Text> sub_xKeyWords; ///< filled by nothing
+    std::vector<PageAnalysis> informe;
+    std::int16_t n_kw = 0;
+    std::int16_t n_sub = 0;
+    std::int16_t inicio2 = 0, inicio3 = 0;
+};
+
+} // namespace twk

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+/// The project store and the synonym store: files that open only with their key, reached by statements that
+/// the screens build as one text.
+namespace twk {
+
+class Connection;
+
+/// One value of a row.
+class Field {
+  public:
+    using Value = std::variant<std::monostate, std::int64_t, Text>;
+    explicit Field(const Value* value) : value_(value) {}
+    bool is_null() const { return std::holds_alternative<std::monostate>(*value_); }
+    /// Fault 94 when it is null. A number comes as its decimal text.
+    Text text() const;
+    /// Fault 94 when it is null, 13 when it is a text that is no number.
+    double number() const;
+
+  private:
+    const Value* value_;
+};
+
+/// The rows that a statement gave, or all rows of a table for adding and changing. Positioned on the first
+/// row.
+class Recordset {
+  public:
+    bool eof() const;
+    /// Fault 3021 past the last row.
+    void MoveNext();
+    /// Column by name or alias, without regard to case. Fault 3265 when there is none, 3021 past the last
+    /// row.
+    Field Fields(TextView name) const;
+    /// Number of all rows.
+    int RecordCount() const;
+
+    /// Start a new row, or a change of the current one; `set` and `AppendChunk` fill it, `Update` writes it.
+    void AddNew();
+    void Edit();
+    void set(TextView column, std::int64_t value);
+    void set(TextView column, const Text& value);
+    /// Adds to a long text column of the row being written.
+    void AppendChunk(TextView column, TextView chunk);
+    void Update();
+    void Close();
+
+  private:
+    friend class Database;
+    struct State;
+    explicit Recordset(std::shared_ptr<State> state) : state_(std::move(state)) {}
+    std::shared_ptr<State> state_;
+};
+
+/// A handle on a store. Handles on one file share one connection, which ends with the last of them.
+class Database {
+  public:
+    Database() = default;
+
+    /// Runs a select, or opens a table by its bare name. Fault 3075 for a text that is not exactly one
+    /// statement of its kind, 3260 when another process holds the store for more than five seconds.
+    Recordset OpenRecordset(const Text& statement);
+
+    /// Runs an insert, update or delete; durable when it returns. The same faults.
+    void Execute(const Text& statement);
+
+    bool is_open() const { return connection_ != nullptr; }
+
+  private:
+    friend Database OpenDatabase(const Text&, bool, bool, const Text&);
+    std::shared_ptr<Connection> connection_;
+};
+
+/// Opens a store file; nothing is ever created. `connect` is "" or ";pwd=" and the password. Fault 3024 when
+/// the file is missing, 3031 when the password does not open it, 3343 when it is no store.
+Database OpenDatabase(const Text& path, bool exclusive, bool read_only, const Text& connect = {});
+
+} // namespace twk
