@@ -1,0 +1,47 @@
+#include "platform/files.h"
+
+#include <algorithm>
+
+namespace twk {
+
+namespace {
+
+constexpr std::string_view utf8_mark = "\xEF\xBB\xBF";
+
+/// Windows-1252 where it differs from the first 256 code points; what it leaves open stays as it is.
+char16_t from_windows(unsigned char byte) {
+    static constexpr char16_t upper[32] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                           0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
+                                           0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                           0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+    return byte >= 0x80 && byte < 0xA0 ? upper[byte - 0x80] : byte;
+}
+
+bool ascii_only(TextView text) {
+    unsigned all = 0;
+    for (const char16_t unit : text) all |= unit;
+    return all < 0x80;
+}
+
+} // namespace
+
+std::string encode_text(TextView text, TextKind kind) {
+    if (ascii_only(text)) {
+        std::string plain(text.size(), '\0');
+        std::transform(text.begin(), text.end(), plain.begin(),
+                       [](char16_t unit) { return static_cast<char>(unit); });
+        return plain;
+    }
+    return (kind == TextKind::page ? std::string(utf8_mark) : std::string()) + to_utf8(text);
+}
+
+Text decode_text(std::string_view bytes) {
+    if (bytes.starts_with(utf8_mark)) return from_utf8(bytes.substr(utf8_mark.size()));
+    if (is_utf8(bytes)) return from_utf8(bytes);
+    Text text(bytes.size(), u'\0');
+    std::transform(bytes.begin(), bytes.end(), text.begin(),
+                   [](char byte) { return from_windows(static_cast<unsigned char>(byte)); });
+    return text;
+}
+
+} // namespace twk

@@ -1,0 +1,334 @@
+#include "platform/files.h"
+
+#include "platform/faults.h"
+#include "platform/name_index.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace twk {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Failure {
+    int number;
+    TextView text;
+};
+
+Failure failure_of(int error) {
+    switch (error) {
+    case ENOENT: return {fault_file_not_found, u"File not found"};
+    case ENOTDIR: return {fault_path_not_found, u"Path not found"};
+    case EACCES:
+    case EPERM:
+    case EROFS: return {fault_file_permission, u"Permission denied"};
+    case ENOSPC:
+    case EDQUOT: return {fault_disk_full, u"Disk full"};
+    case EISDIR:
+    case EEXIST:
+    case ENOTEMPTY:
+    case ENAMETOOLONG:
+    case EINVAL:
+    case ELOOP: return {fault_path_access, u"Path/File access error"};
+    default: return {fault_device_io, u"Device I/O error"};
+    }
+}
+
+[[noreturn]] void fail(int error, const Text& path) {
+    const Failure failure = failure_of(error);
+    throw RuntimeFault(failure.number, Text(failure.text) + u": " + path);
+}
+
+struct Descriptor {
+    int number;
+    explicit Descriptor(int opened) : number(opened) {}
+    ~Descriptor() {
+        if (number >= 0) ::close(number);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+};
+
+std::string read_bytes(const Text& path) {
+    const std::string name = disk_path(path);
+    const Descriptor file(::open(name.c_str(), O_RDONLY | O_CLOEXEC));
+    if (file.number < 0) fail(errno, path);
+    struct stat info {};
+    if (::fstat(file.number, &info) != 0) fail(errno, path);
+    if (S_ISDIR(info.st_mode)) fail(EISDIR, path);
+    std::string bytes;
+    bytes.resize(static_cast<std::size_t>(std::max<off_t>(info.st_size, 0)));
+    std::size_t have = 0;
+    for (;;) {
+        if (have == bytes.size()) bytes.resize(bytes.size() + 4096);
+        const ssize_t got = ::read(file.number, bytes.data() + have, bytes.size() - have);
+        if (got < 0 && errno == EINTR) continue;
+        if (got < 0) fail(errno, path);
+        if (got == 0) break;
+        have += static_cast<std::size_t>(got);
+    }
+    bytes.resize(have);
+    return bytes;
+}
+
+/// Writes the whole file. When that fails half-way, a file that was made for it is taken away again.
+void write_bytes(const Text& path, std::string_view bytes) {
+    const std::string name = disk_path(path);
+    const bool there = ::access(name.c_str(), F_OK) == 0;
+    const int file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    if (file < 0) fail(errno, path);
+    int error = 0;
+    while (!bytes.empty() && error == 0) {
+        const ssize_t put = ::write(file, bytes.data(), bytes.size());
+        if (put < 0 && errno != EINTR) error = errno;
+        if (put > 0) bytes.remove_prefix(static_cast<std::size_t>(put));
+    }
+    if (::close(file) != 0 && error == 0) error = errno;
+    if (error != 0) {
+        if (!there) ::unlink(name.c_str());
+        fail(error, path);
+    }
+    if (!there) NameIndex::entry_added(name);
+}
+
+bool is_kind(const Text& path, mode_t kind) {
+    struct stat info {};
+    return ::stat(disk_path(path).c_str(), &info) == 0 && (info.st_mode & S_IFMT) == kind;
+}
+
+Text file_part(const Text& path) {
+    const std::size_t at = path.rfind(u'/');
+    return at == Text::npos ? path : path.substr(at + 1);
+}
+
+/// Lower case, so that "_" stands before the letters.
+void sort_names(std::vector<Text>& names) {
+    std::vector<std::pair<Text, Text>> keyed;
+    keyed.reserve(names.size());
+    for (Text& name : names) keyed.emplace_back(LCase(name), std::move(name));
+    std::sort(keyed.begin(), keyed.end());
+    names.clear();
+    for (auto& [key, name] : keyed) names.push_back(std::move(name));
+}
+
+template <class Wanted> std::vector<Text> listed(const Text& folder, Wanted wanted) {
+    std::error_code error;
+    fs::directory_iterator entries(fs::path(disk_path(folder)), fs::directory_options::skip_permission_denied,
+                                   error);
+    if (error) throw RuntimeFault(fault_path_not_found, u"Path not found: " + folder);
+    std::vector<Text> names;
+    for (; entries != fs::directory_iterator(); entries.increment(error)) {
+        if (wanted(*entries)) names.push_back(from_utf8(entries->path().filename().string()));
+        if (error) break;
+    }
+    sort_names(names);
+    return names;
+}
+
+void remove_file(const std::string& name, const Text& path) {
+    if (::unlink(name.c_str()) != 0) fail(errno, path);
+    NameIndex::entry_removed(name);
+}
+
+} // namespace
+
+// Streams
+
+TextStream::TextStream(Text path, OpenMode mode, TextKind kind, Text content)
+    : path_(std::move(path)), mode_(mode), kind_(kind), content_(std::move(content)) {}
+
+Text TextStream::readline() {
+    if (AtEndOfStream()) throw RuntimeFault(fault_past_end);
+    const std::size_t end = std::min(content_.find_first_of(u"\r\n", at_), content_.size());
+    Text line = content_.substr(at_, end - at_);
+    at_ = end;
+    if (at_ < content_.size()) at_ += content_.compare(at_, 2, u"\r\n") == 0 ? 2 : 1;
+    return line;
+}
+
+Text TextStream::ReadAll() {
+    Text rest = content_.substr(at_);
+    at_ = content_.size();
+    return rest;
+}
+
+bool TextStream::AtEndOfStream() const {
+    return at_ >= content_.size();
+}
+
+void TextStream::write(TextView text) {
+    if (!open_ || mode_ == OpenMode::reading) throw RuntimeFault(fault_path_access);
+    content_.append(text);
+}
+
+void TextStream::writeline(TextView line) {
+    write(line);
+    content_.append(vbCrLf);
+}
+
+void TextStream::Close() {
+    if (!std::exchange(open_, false) || mode_ == OpenMode::reading) return;
+    // What stands before appended text is read again: its mark and encoding have to fit the whole.
+    if (mode_ == OpenMode::appending) content_.insert(0, read_text_file(path_));
+    write_bytes(path_, encode_text(content_, kind_));
+    content_.clear();
+}
+
+// The file system
+
+bool FileSystemObject::FileExists(const Text& path) const {
+    return file_exists(path);
+}
+bool FileSystemObject::FolderExists(const Text& path) const {
+    return dir_exists(path);
+}
+
+TextStreamPtr FileSystemObject::OpenTextFile(const Text& path, OpenMode mode, bool create, TextKind kind) {
+    const std::string name = disk_path(path);
+    const bool there = ::access(name.c_str(), F_OK) == 0;
+    if (!there && !create) fail(ENOENT, path);
+    if (!there) write_bytes(path, {});
+    if (mode == OpenMode::reading)
+        return std::make_shared<TextStream>(path, mode, kind, there ? read_text_file(path) : Text());
+    const Descriptor file(::open(name.c_str(), O_WRONLY | O_CLOEXEC));
+    if (file.number < 0) fail(errno, path);
+    return std::make_shared<TextStream>(path, mode, kind, Text());
+}
+
+void FileSystemObject::DeleteFile(const Text& path) {
+    const std::string name = disk_path(path);
+    struct stat info {};
+    if (::lstat(name.c_str(), &info) != 0) fail(errno, path);
+    if (S_ISDIR(info.st_mode)) fail(ENOENT, path);
+    remove_file(name, path);
+}
+
+void FileSystemObject::CopyFile(const Text& from, const Text& to) {
+    const std::string bytes = read_bytes(from);
+    const std::string place = disk_path(to);
+    const std::string wanted = NameIndex::with_last_name(place, to_utf8(file_part(to)));
+    // A file that stands there under the same name in another case gives way: the copy's name holds.
+    if (place != wanted && ::access(place.c_str(), F_OK) == 0) remove_file(place, to);
+    write_bytes(to, bytes);
+}
+
+void FileSystemObject::DeleteFolder(const Text& path) {
+    const std::string name = disk_path(path);
+    struct stat info {};
+    if (::lstat(name.c_str(), &info) != 0) fail(ENOTDIR, path);
+    if (!S_ISDIR(info.st_mode)) fail(ENOTDIR, path);
+    std::error_code error;
+    fs::remove_all(name, error); // removes links, never what they lead to
+    NameIndex::forget();
+    if (error) fail(error.value(), path);
+}
+
+bool dir_exists(const Text& path) {
+    return is_kind(path, S_IFDIR);
+}
+bool file_exists(const Text& path) {
+    return is_kind(path, S_IFREG);
+}
+
+Text Dir(const Text& path) {
+    if (!file_exists(path)) return {};
+    return file_part(from_utf8(disk_path(path)));
+}
+
+void MkDir(const Text& path) {
+    const std::string name = disk_path(path);
+    if (::mkdir(name.c_str(), 0777) != 0) fail(errno == ENOENT ? ENOTDIR : errno, path);
+    NameIndex::entry_added(name);
+}
+
+void RmDir(const Text& path) {
+    const std::string name = disk_path(path);
+    if (::rmdir(name.c_str()) != 0) fail(errno == ENOENT ? ENOTDIR : errno, path);
+    NameIndex::entry_removed(name);
+}
+
+std::int64_t FileLen(const Text& path) {
+    struct stat info {};
+    if (::stat(disk_path(path).c_str(), &info) != 0) fail(errno, path);
+    return info.st_size;
+}
+
+bool matches_pattern(TextView name, TextView pattern) {
+    if (pattern.empty()) return name.empty();
+    if (pattern.front() == u'*') {
+        for (std::size_t skip = 0; skip <= name.size(); ++skip)
+            if (matches_pattern(name.substr(skip), pattern.substr(1))) return true;
+        return false;
+    }
+    if (name.empty()) return false;
+    if (pattern.front() != u'?' && lower(pattern.front()) != lower(name.front())) return false;
+    return matches_pattern(name.substr(1), pattern.substr(1));
+}
+
+std::vector<Text> list_files(const Text& folder, TextView pattern) {
+    return listed(folder, [&](const fs::directory_entry& entry) {
+        std::error_code error;
+        return entry.is_regular_file(error) &&
+               matches_pattern(from_utf8(entry.path().filename().string()), pattern);
+    });
+}
+
+std::vector<Text> list_folders(const Text& folder) {
+    return listed(folder, [](const fs::directory_entry& entry) {
+        std::error_code error;
+        return entry.is_directory(error);
+    });
+}
+
+Text read_text_file(const Text& path) {
+    return decode_text(read_bytes(path));
+}
+
+// The fence
+
+namespace {
+
+bool plain_folder_name(TextView name) {
+    const auto bad = [](char16_t c) { return c == u'/' || c == u'\\' || c < 0x20; };
+    const TextView trimmed = trim_view(name);
+    return !trimmed.empty() && trimmed != u"." && trimmed != u".." &&
+           std::none_of(name.begin(), name.end(), bad);
+}
+
+[[noreturn]] void fenced(const Text& path) {
+    throw RuntimeFault(fault_path_access,
+                       u"Path/File access error: " + path + u" does not lie in the project's folder");
+}
+
+} // namespace
+
+Fence::Fence(Text projects, TextView name) : projects_(std::move(projects)) {
+    folder_ = projects_ + u"/" + Text(name);
+    if (!plain_folder_name(name)) fenced(folder_);
+    std::error_code error;
+    const fs::path folder = fs::weakly_canonical(disk_path(folder_), error);
+    if (error) fenced(folder_);
+    const fs::path root = fs::weakly_canonical(disk_path(projects_), error);
+    if (error || folder.parent_path() != root) fenced(folder_);
+}
+
+void Fence::check(const Text& path) const {
+    std::error_code error;
+    const fs::path root = fs::weakly_canonical(disk_path(folder_), error);
+    if (error) fenced(path);
+    const fs::path place = fs::weakly_canonical(disk_path(path), error);
+    if (error) fenced(path);
+    const auto [end, at] = std::mismatch(root.begin(), root.end(), place.begin(), place.end());
+    if (end != root.end() || at == place.end()) fenced(path);
+}
+
+} // namespace twk
