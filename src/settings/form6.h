@@ -147,7 +147,13 @@ class Form6 {
     void Drive2_Change();
     void Dir2_Change();
     void File2_Click();
+    /// Ends the program at once.
     void cancelar();
+
+  private:
+    void enumerate_pages(ScreenMap& map);
+    void enumerate_design(ScreenMap& map);
+    void enumerate_events(ScreenMap& map);
 };
 
 } // namespace twk
