@@ -8,32 +8,31 @@ namespace twk {
 
 namespace {
 
-class SystemClock : public Clock {
-  public:
-    LocalTime now() override {
-        const auto moment = std::chrono::system_clock::now();
-        const std::time_t seconds = std::chrono::system_clock::to_time_t(moment);
-        std::tm local{};
-        localtime_r(&seconds, &local);
-        const auto part =
-            std::chrono::duration_cast<std::chrono::milliseconds>(moment.time_since_epoch()) % 1000;
-        return {local.tm_year + 1900,
-                local.tm_mon + 1,
-                local.tm_mday,
-                local.tm_hour,
-                local.tm_min,
-                local.tm_sec,
-                static_cast<int>(part.count())};
-    }
-    void sleep(std::chrono::milliseconds time) override { std::this_thread::sleep_for(time); }
-};
-
 std::shared_ptr<Clock>& current() {
     static std::shared_ptr<Clock> one = std::make_shared<SystemClock>();
     return one;
 }
 
 } // namespace
+
+LocalTime SystemClock::now() {
+    const auto moment = std::chrono::system_clock::now();
+    const std::time_t seconds = std::chrono::system_clock::to_time_t(moment);
+    std::tm local{};
+    localtime_r(&seconds, &local);
+    const auto part = std::chrono::duration_cast<std::chrono::milliseconds>(moment.time_since_epoch()) % 1000;
+    return {local.tm_year + 1900,
+            local.tm_mon + 1,
+            local.tm_mday,
+            local.tm_hour,
+            local.tm_min,
+            local.tm_sec,
+            static_cast<int>(part.count())};
+}
+
+void SystemClock::sleep(std::chrono::milliseconds time) {
+    std::this_thread::sleep_for(time);
+}
 
 double Clock::Timer() {
     const LocalTime at = now();

@@ -29,6 +29,13 @@ class Clock {
     double Timer();
 };
 
+/// The machine's own clock, in local time.
+class SystemClock : public Clock {
+  public:
+    LocalTime now() override;
+    void sleep(std::chrono::milliseconds time) override;
+};
+
 /// A clock that stands at one moment and sleeps no time.
 class FixedClock : public Clock {
   public:
