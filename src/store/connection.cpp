@@ -1,0 +1,222 @@
+#include "store/connection.h"
+
+#include "platform/faults.h"
+#include "store/store_setup.h"
+
+#include <algorithm>
+#include <cctype>
+#include <regex>
+#include <set>
+
+namespace twk {
+
+namespace {
+
+constexpr int busy_milliseconds = 5000;
+
+/// Lets through what the screens do: reading and changing rows of the nine tables.
+int authorize(void*, int action, const char* first, const char*, const char*, const char*) {
+    static const std::set<std::string> tables{"projects", "keywords", "elements", "content", "ties",
+                                              "host",     "host1",    "target",   "synonyms"};
+    switch (action) {
+    case SQLITE_SELECT:
+    case SQLITE_FUNCTION:
+    case SQLITE_TRANSACTION:
+    case SQLITE_SAVEPOINT: return SQLITE_OK;
+    case SQLITE_READ:
+    case SQLITE_INSERT:
+    case SQLITE_UPDATE:
+    case SQLITE_DELETE: {
+        std::string table = first != nullptr ? first : "";
+        std::transform(table.begin(), table.end(), table.begin(),
+                       [](unsigned char c) { return std::tolower(c); });
+        return table.empty() || tables.contains(table) ? SQLITE_OK : SQLITE_DENY;
+    }
+    default: return SQLITE_DENY;
+    }
+}
+
+[[noreturn]] void malformed(const Text& statement, const std::string& why) {
+    throw RuntimeFault(fault_statement,
+                       u"Syntax error in the statement: " + from_utf8(why) + u"\n" + statement);
+}
+
+/// Comments and further statements have no place in what the screens build: they can only come from a value
+/// with an apostrophe in it.
+void refuse_foreign_text(const Text& statement) {
+    bool quoted = false;
+    for (std::size_t i = 0; i < statement.size(); ++i) {
+        const char16_t c = statement[i];
+        const char16_t next = i + 1 < statement.size() ? statement[i + 1] : u'\0';
+        if (c == u'\'') quoted = !quoted;
+        if (quoted) continue;
+        if (c == u';' || (c == u'-' && next == u'-') || (c == u'/' && next == u'*') || c == u'\0')
+            malformed(statement, "text that belongs to no statement");
+    }
+    if (quoted) malformed(statement, "a quote is not closed");
+}
+
+Field::Value column_value(sqlite3_stmt* statement, int column) {
+    switch (sqlite3_column_type(statement, column)) {
+    case SQLITE_NULL: return std::monostate();
+    case SQLITE_INTEGER: return static_cast<std::int64_t>(sqlite3_column_int64(statement, column));
+    default: {
+        const auto* text = static_cast<const char16_t*>(sqlite3_column_text16(statement, column));
+        return Text(text,
+                    static_cast<std::size_t>(sqlite3_column_bytes16(statement, column)) / sizeof(char16_t));
+    }
+    }
+}
+
+} // namespace
+
+Connection::Connection(const std::string& file, bool read_only, const std::string& key) {
+    db_ = open_store(file, read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE, key);
+    sqlite3_busy_timeout(db_, busy_milliseconds);
+    sqlite3_set_authorizer(db_, authorize, nullptr);
+}
+
+Connection::~Connection() {
+    sqlite3_close_v2(db_);
+}
+
+void Connection::fail(int code) {
+    const Text why = from_utf8(sqlite3_errmsg(db_));
+    switch (code & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        throw RuntimeFault(fault_store_locked,
+                           u"The store is in use by another program; it could not be locked.");
+    case SQLITE_FULL: throw RuntimeFault(fault_disk_full, u"Disk full: the store could not be written.");
+    case SQLITE_READONLY:
+        throw RuntimeFault(fault_file_permission, u"Permission denied: the store cannot be written.");
+    case SQLITE_NOMEM: throw RuntimeFault(fault_memory);
+    case SQLITE_ERROR:
+    case SQLITE_AUTH: throw RuntimeFault(fault_statement, u"Syntax error in the statement: " + why);
+    default: throw RuntimeFault(fault_store, u"The store cannot be read or written: " + why);
+    }
+}
+
+Connection::Statement Connection::prepare_own(const std::string& sql) {
+    sqlite3_stmt* made = nullptr;
+    const int code = sqlite3_prepare_v2(db_, sql.c_str(), -1, &made, nullptr);
+    if (code != SQLITE_OK) fail(code);
+    return Statement(made);
+}
+
+Connection::Statement Connection::prepare(const Text& text) {
+    refuse_foreign_text(text);
+    sqlite3_stmt* made = nullptr;
+    const void* rest = nullptr;
+    const int code = sqlite3_prepare16_v2(db_, text.data(), static_cast<int>(text.size() * sizeof(char16_t)),
+                                          &made, &rest);
+    Statement statement(made);
+    if (code == SQLITE_ERROR || code == SQLITE_AUTH) malformed(text, sqlite3_errmsg(db_));
+    if (code != SQLITE_OK) fail(code);
+    if (made == nullptr) malformed(text, "there is no statement");
+    return statement;
+}
+
+int Connection::step(sqlite3_stmt* statement) {
+    const int code = sqlite3_step(statement);
+    if (code != SQLITE_ROW && code != SQLITE_DONE) fail(code);
+    return code;
+}
+
+Connection::Rows Connection::select(const Text& text) {
+    const Statement statement = prepare(text);
+    Rows result;
+    const int columns = sqlite3_column_count(statement.get());
+    if (columns == 0) malformed(text, "it gives no rows");
+    for (int i = 0; i < columns; ++i) {
+        std::string name = sqlite3_column_name(statement.get(), i);
+        std::transform(name.begin(), name.end(), name.begin(),
+                       [](unsigned char c) { return std::tolower(c); });
+        result.columns.push_back(std::move(name));
+    }
+    while (step(statement.get()) == SQLITE_ROW) {
+        std::vector<Field::Value>& row = result.rows.emplace_back();
+        row.reserve(static_cast<std::size_t>(columns));
+        for (int i = 0; i < columns; ++i) row.push_back(column_value(statement.get(), i));
+    }
+    return result;
+}
+
+void Connection::change(const Text& text) {
+    if (!parse_join_delete(to_utf8(text)).tables.empty()) return delete_joined(text);
+    const Statement statement = prepare(text);
+    if (sqlite3_column_count(statement.get()) != 0) malformed(text, "it changes nothing");
+    step(statement.get());
+}
+
+JoinDelete parse_join_delete(const std::string& statement) {
+    static const std::regex form(
+        R"(\s*delete\s+(\w+)\.\*\s*,\s*(\w+)\.\*\s+from\s+(\w+)\s*,\s*(\w+)\s+where\s+)", std::regex::icase);
+    // The pattern is looked for at the beginning only: the condition may be of any length.
+    std::smatch parts;
+    if (!std::regex_search(statement, parts, form, std::regex_constants::match_continuous)) return {};
+    if (parts[1] != parts[3] || parts[2] != parts[4]) return {};
+    return {{parts[1], parts[2]}, parts.suffix()};
+}
+
+/// Deletes the rows of both tables that the join matches, and no others, in one go.
+void Connection::delete_joined(const Text& text) {
+    refuse_foreign_text(text);
+    const JoinDelete parts = parse_join_delete(to_utf8(text));
+    const std::string& a = parts.tables[0];
+    const std::string& b = parts.tables[1];
+    const Statement begin = prepare_own("savepoint joined");
+    const Statement keep = prepare_own("release joined");
+    const Statement back = prepare_own("rollback to joined");
+    step(begin.get());
+    try {
+        const Statement matches = prepare_own("select " + a + ".rowid , " + b + ".rowid from " + a + " , " +
+                                              b + " where " + parts.condition);
+        std::set<std::int64_t> of_a, of_b;
+        while (step(matches.get()) == SQLITE_ROW) {
+            of_a.insert(sqlite3_column_int64(matches.get(), 0));
+            of_b.insert(sqlite3_column_int64(matches.get(), 1));
+        }
+        const auto remove = [this](const std::string& table, const std::set<std::int64_t>& rows) {
+            const Statement statement = prepare_own("delete from " + table + " where rowid = ?");
+            for (const std::int64_t row : rows) {
+                sqlite3_bind_int64(statement.get(), 1, row);
+                step(statement.get());
+                sqlite3_reset(statement.get());
+            }
+        };
+        remove(a, of_a);
+        remove(b, of_b);
+        step(keep.get());
+    } catch (...) {
+        sqlite3_step(back.get());
+        sqlite3_step(keep.get());
+        throw;
+    }
+}
+
+void Connection::write_row(const std::string& table, std::int64_t row_id,
+                           const std::vector<std::pair<std::string, Field::Value>>& values) {
+    if (values.empty()) return;
+    std::string names, places, changes;
+    for (const auto& [name, value] : values) {
+        names += (names.empty() ? "" : " , ") + name;
+        places += places.empty() ? "?" : " , ?";
+        changes += (changes.empty() ? "" : " , ") + name + " = ?";
+    }
+    const Statement statement = prepare_own(
+        row_id == 0 ? "insert into " + table + " ( " + names + " ) values ( " + places + " )"
+                    : "update " + table + " set " + changes + " where rowid = " + std::to_string(row_id));
+    int place = 0;
+    for (const auto& [name, value] : values) {
+        ++place;
+        if (const auto* number = std::get_if<std::int64_t>(&value))
+            sqlite3_bind_int64(statement.get(), place, *number);
+        else if (const auto* text = std::get_if<Text>(&value))
+            sqlite3_bind_text16(statement.get(), place, text->data(),
+                                static_cast<int>(text->size() * sizeof(char16_t)), SQLITE_STATIC);
+    }
+    step(statement.get());
+}
+
+} // namespace twk
