@@ -1,0 +1,20 @@
+#!/bin/sh
+# Builds Tarnwick, fills the folder Tarnwick/ beside the sources, and opens the wizard. Where there is no display it
+# generates the pages of the sample project instead. Projects, stores and settings that stand in the folder stay.
+set -eu
+cd "$(dirname "$0")"
+. .ci/packages.sh
+
+# shellcheck disable=SC2086 # a list of words
+install_missing $build_packages
+cmake --preset release -DTARNWICK_TESTS=OFF
+cmake --build build/release --target deliver -j "$(nproc)"
+
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    [ "$(id -u)" != 0 ] || export QTWEBENGINE_DISABLE_SANDBOX=1 # the browser's sandbox does not work for root
+    exec Tarnwick/tarnwick
+fi
+echo
+echo "There is no display: generating the sample project."
+Tarnwick/tarnwick-cli generate garden-sample
+echo "The pages are in $PWD/Tarnwick/Projects/garden-sample"
