@@ -1,0 +1,88 @@
+#include "support/temp_app.h"
+
+#include "platform/chance.h"
+#include "platform/screens.h"
+#include "shell/module1.h"
+#include "store/store_setup.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+namespace twk::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string bytes_of(const fs::path& file) {
+    std::ostringstream bytes;
+    bytes << std::ifstream(file, std::ios::binary).rdbuf();
+    return bytes.str();
+}
+
+fs::path new_folder() {
+    std::string name = (fs::temp_directory_path() / "tarnwick-test-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    return name;
+}
+
+void deliver(const fs::path& folder) {
+    const fs::path data = TEST_DATA_DIR;
+    for (const char* name : {"twk.dat", "TIPOFDAY.TXT", "help.htm", "Images", "swf"})
+        if (fs::exists(data / name)) fs::copy(data / name, folder / name, fs::copy_options::recursive);
+}
+
+} // namespace
+
+TempApp::TempApp()
+    : clock(std::make_shared<FixedClock>(LocalTime{2026, 11, 24, 10, 18, 5, 0})), folder_(new_folder()),
+      app_path_before_(app_path()) {
+    set_app_path(from_utf8(folder_.string()));
+    set_clock(clock);
+    chance().fix_seed(1);
+    module1() = Module1();
+    const fs::path data = TEST_DATA_DIR;
+    create_store(path(u"hive.mdb"), bytes_of(data / "schema_hive.sql"), "lantern4821");
+    create_store(path(u"synonyms.mdb"), bytes_of(data / "schema_synonyms.sql"), "");
+    deliver(folder_);
+}
+
+TempApp::~TempApp() {
+    screens().unload_all();
+    set_clock(nullptr);
+    chance().release_seed();
+    module1() = Module1();
+    set_app_path(app_path_before_);
+    std::error_code error;
+    fs::remove_all(folder_, error);
+}
+
+Text TempApp::path(TextView relative) const {
+    return app_path() + Text(path_separator) + Text(relative);
+}
+
+void TempApp::write(TextView relative, std::string_view bytes) const {
+    std::ofstream(to_utf8(path(relative)), std::ios::binary) << bytes;
+}
+
+std::string TempApp::read(TextView relative) const {
+    return bytes_of(to_utf8(path(relative)));
+}
+bool TempApp::exists(TextView relative) const {
+    return fs::exists(to_utf8(path(relative)));
+}
+
+Database TempApp::hive() const {
+    return OpenDatabase(path(u"hive.mdb"), false, false, u";pwd=lantern4821");
+}
+Database TempApp::synonyms() const {
+    return OpenDatabase(path(u"synonyms.mdb"), false, false, u"");
+}
+
+Text TempApp::value(const Text& statement, TextView column) const {
+    const Recordset rows = hive().OpenRecordset(statement);
+    return rows.eof() || rows.Fields(column).is_null() ? Text() : rows.Fields(column).text();
+}
+
+} // namespace twk::test

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/clock.h"
+#include "store/database.h"
+#include "support/test_desktop.h"
+
+#include <filesystem>
+#include <memory>
+
+namespace twk::test {
+
+/// An application folder of its own for a test: fresh, empty stores, the delivered files, a scripted desktop,
+/// a clock that stands at 24 November 2026, 10:18:05, and the fixed seed 1. All of it goes with the object.
+class TempApp {
+  public:
+    TempApp();
+    ~TempApp();
+    TempApp(const TempApp&) = delete;
+    TempApp& operator=(const TempApp&) = delete;
+
+    TestDesktop desktop;
+    std::shared_ptr<FixedClock> clock;
+
+    const std::filesystem::path& folder() const { return folder_; }
+    /// Path of a file in the folder, as the program names it.
+    Text path(TextView relative) const;
+    void write(TextView relative, std::string_view bytes) const;
+    std::string read(TextView relative) const;
+    bool exists(TextView relative) const;
+
+    Database hive() const;
+    Database synonyms() const;
+    /// Runs a statement on the project store.
+    void run(const Text& statement) const { hive().Execute(statement); }
+    /// First column named `column` of the first row, empty when there is none.
+    Text value(const Text& statement, TextView column) const;
+    int count(const Text& statement) const { return hive().OpenRecordset(statement).RecordCount(); }
+
+  private:
+    std::filesystem::path folder_;
+    Text app_path_before_;
+};
+
+} // namespace twk::test

@@ -1,0 +1,124 @@
+#include "support/test_desktop.h"
+
+#include "platform/html.h"
+
+#include <gtest/gtest.h>
+
+namespace twk::test {
+
+TestDesktop::TestDesktop() : before_(set_desktop(this)) {}
+
+TestDesktop::~TestDesktop() {
+    for (const Script& script : expected_) ADD_FAILURE() << "message never shown: " << to_utf8(script.part);
+    set_desktop(before_);
+}
+
+void TestDesktop::expect(Text part, Answer answer) {
+    expected_.push_back({std::move(part), answer});
+}
+void TestDesktop::always(Text part, Answer answer) {
+    always_.push_back({std::move(part), answer});
+}
+
+const Text& TestDesktop::last_message() const {
+    static const Text none;
+    return messages.empty() ? none : messages.back().text;
+}
+
+Answer TestDesktop::MsgBox(const Message& message) {
+    messages.push_back(message);
+    if (!expected_.empty() && contains(message.text, expected_.front().part)) {
+        const Answer answer = expected_.front().answer;
+        expected_.pop_front();
+        return answer;
+    }
+    for (const Script& script : always_)
+        if (contains(message.text, script.part)) return script.answer;
+    ADD_FAILURE() << "unexpected message: " << to_utf8(message.text)
+                  << (expected_.empty() ? "" : "\n  expected: " + to_utf8(expected_.front().part));
+    switch (message.buttons) {
+    case Buttons::ok_cancel: return Answer::cancel;
+    case Buttons::yes_no: return Answer::no;
+    default: return Answer::ok;
+    }
+}
+
+namespace {
+
+template <class T> std::optional<T> next(std::deque<std::optional<T>>& answers, const char* what) {
+    if (answers.empty()) {
+        ADD_FAILURE() << "unexpected dialog: " << what;
+        return std::nullopt;
+    }
+    std::optional<T> answer = std::move(answers.front());
+    answers.pop_front();
+    return answer;
+}
+
+} // namespace
+
+std::optional<Text> TestDesktop::ask_open_file(const FileQuestion& question) {
+    file_questions.push_back(question);
+    return next(open_files, "open a file");
+}
+
+std::optional<Text> TestDesktop::ask_save_file(const FileQuestion& question) {
+    file_questions.push_back(question);
+    return next(save_files, "save a file");
+}
+
+std::optional<std::uint32_t> TestDesktop::ask_color(std::uint32_t) {
+    return next(colors, "choose a colour");
+}
+std::optional<FontChoice> TestDesktop::ask_font(const FontChoice&) {
+    return next(fonts, "choose a font");
+}
+
+void TestDesktop::DoEvents() {
+    if (on_events) on_events();
+}
+
+Text TestDesktop::get_setting(TextView section, TextView key, const Text& fallback) {
+    const auto found = settings.find(Text(section) + u"/" + Text(key));
+    return found == settings.end() ? fallback : found->second;
+}
+
+void TestDesktop::wait_modal(Screen& screen) {
+    if (!on_modal) {
+        ADD_FAILURE() << "nobody answers the modal screen " << screen.name;
+        return;
+    }
+    on_modal(screen);
+}
+
+void TestDesktop::navigate(WebBrowser& browser, const Text& address) {
+    navigated.push_back(address);
+    const auto page = pages.find(address);
+    shown_[&browser] = page == pages.end() ? Text() : page->second;
+    browser.location_url = address;
+}
+
+void TestDesktop::show_html(WebBrowser& browser, const Text& html) {
+    shown_[&browser] = html;
+}
+
+Text TestDesktop::inner_text(WebBrowser& browser) {
+    return visible_text(shown_[&browser]);
+}
+
+std::vector<Link> TestDesktop::links(WebBrowser& browser) {
+    std::vector<Link> all;
+    for (Text& address : page_links(shown_[&browser], browser.location_url()))
+        all.push_back({std::move(address)});
+    return all;
+}
+
+Text TestDesktop::fetch(Inet&, const Text& address) {
+    if (on_fetch) on_fetch(address);
+    if (const auto fault = faults.find(address); fault != faults.end()) throw RuntimeFault(fault->second);
+    const auto page = pages.find(address);
+    if (page == pages.end()) throw RuntimeFault(fault_file_not_found);
+    return page->second;
+}
+
+} // namespace twk::test
