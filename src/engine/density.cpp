@@ -111,7 +111,7 @@ struct Segments {
     Run& run;
     const Text& keyword; ///< trimmed
     const std::vector<TextView>& piezas;
-    std::vector<Text> anclas; ///< lower case, trimmed
+    std::vector<Text> anclas; ///< trimmed
     int w;
     Text out;
     Text f; ///< the sentence chosen last
@@ -119,7 +119,7 @@ struct Segments {
     bool is_anchor(TextView pieza) const {
         if (keyword.empty()) return false;
         for (const Text& ancla : anclas)
-            if (same_text(pieza, ancla)) return true;
+            if (pieza.size() == ancla.size() && same_text(pieza, ancla)) return true;
         return false;
     }
 
@@ -170,7 +170,7 @@ Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, std::int16_t densida
     const std::int16_t w = contar_palabras(texto);
     const Text k = Trim(keyword);
     Text medida = k;
-    densidad(texto, medida); // overflows where the counts do; its value is not used
+    densidad(texto, medida); // overflows where its counts do; its value is not used
     quitar_dobles(texto);
     int step = 0;
     const double por_cien = CInt(static_cast<double>(densidad_pedida) * w) / 100.0;
@@ -186,6 +186,7 @@ Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, std::int16_t densida
     for (int i = 0; i <= n; ++i)
         if (!segments.append(static_cast<std::int64_t>(i) * step, step)) break;
     Text out = std::move(segments.out);
+    densidad(out, medida); // likewise
     quitar_dobles(out);
     return Trim(out);
 }

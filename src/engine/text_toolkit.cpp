@@ -18,21 +18,25 @@ constexpr TextView joint = u"$$$";
 /// The search steps over one unit more per blank than it has matched: the count depends on it.
 constexpr TextView long_joint = u"$$$$";
 
+/// Whether every tag has a blank on both sides and no blank follows another. Looks at every unit with the one
+/// before it, without an early exit: compilers vectorise that.
+bool is_spaced(TextView text) {
+    if (text.empty()) return true;
+    if (text.front() == u'<' || text.back() == u'>') return false; // those two lack a neighbour
+    unsigned short wrong = 0;
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        const char16_t before = text[i - 1], here = text[i];
+        const bool blank_before = before == u' ', blank_here = here == u' ';
+        wrong = static_cast<unsigned short>(wrong | ((here == u'<') & !blank_before) |
+                                            ((before == u'>') & !blank_here) | (blank_before & blank_here));
+    }
+    return wrong == 0;
+}
+
 /// "<" to " <", ">" to "> ", then single blanks: the form in which tags are pieces of their own. One pass,
 /// and only when the text is not in that form yet.
 void space_tags(Text& text) {
-    const auto spaced = [](TextView t) {
-        // Each unit with the one before it; both ends lack a neighbour.
-        unsigned wrong = 0;
-        for (std::size_t i = 1; i < t.size(); ++i) {
-            const char16_t before = t[i - 1], here = t[i];
-            wrong |= static_cast<unsigned>((here == u'<') & (before != u' '));
-            wrong |= static_cast<unsigned>((before == u'>') & (here != u' '));
-            wrong |= static_cast<unsigned>((before == u' ') & (here == u' '));
-        }
-        return wrong == 0 && (t.empty() || (t.front() != u'<' && t.back() != u'>'));
-    };
-    if (spaced(text)) return;
+    if (is_spaced(text)) return;
     Text out;
     out.resize(text.size() +
                2 * static_cast<std::size_t>(std::count_if(
@@ -80,10 +84,12 @@ std::int16_t contar_palabras(Text& texto) {
 
 namespace {
 
-/// Counts in the text as it is when the keyword's blanks are joints in it: puts them there, looks, takes them
-/// away again.
-std::int64_t count_joined(Text& texto, TextView keyword, TextView joined, std::size_t step) {
-    replace_all(texto, keyword, joined);
+/// Counts by the letter: the keyword's blanks become joints in the text, and each match takes the search on
+/// by the length that the keyword has with the longer joints.
+std::int64_t count_joined(Text& texto, const Text& keyword) {
+    const Text joined = Replace(keyword, u" ", joint);
+    const std::size_t step = Replace(keyword, u" ", long_joint).size();
+    if (joined != keyword) replace_all(texto, keyword, joined);
     std::int64_t count = 0;
     for (std::size_t at = 1; (at = static_cast<std::size_t>(InStr(texto, joined, static_cast<int>(at)))) != 0;
          at += step)
@@ -91,16 +97,15 @@ std::int64_t count_joined(Text& texto, TextView keyword, TextView joined, std::s
     return count;
 }
 
-/// The same without touching the text, where that is certain to give the same: the matches lie so far apart
-/// that neither the longer step nor a match across two of them can play a part. Otherwise -1.
+/// The same without touching the text, where that is certain to give the same: -1 when two matches stand so
+/// close that the longer step, or a match across both, can play a part.
 std::int64_t count_apart(TextView texto, TextView keyword) {
-    const std::size_t length = keyword.size();
+    const auto length = static_cast<int>(keyword.size());
     std::int64_t count = 0;
-    std::size_t end = 0;
-    for (int at = 1; (at = InStr(texto, keyword, at)) != 0; at += static_cast<int>(length)) {
-        const std::size_t begin = static_cast<std::size_t>(at) - 1;
-        if (count != 0 && begin - end < length) return -1;
-        end = begin + length;
+    int end = 0;
+    for (int at = 1; (at = InStr(texto, keyword, at)) != 0; at = end) {
+        if (count != 0 && at - end < length) return -1;
+        end = at + length;
         ++count;
     }
     return count;
@@ -115,12 +120,12 @@ std::int16_t contar_kw(Text& texto, Text& keyword) {
     const bool phrase = contains(keyword, u" ");
     if (phrase) quitar_dobles(keyword);
     const bool has_joints = contains(texto, joint);
+    // A "$" beside a joint would make the joint another one.
+    const bool plain = !has_joints && !contains(keyword, u"$");
     std::int64_t count = 0;
     if (!keyword.empty()) {
-        count = phrase && !has_joints ? count_apart(texto, keyword) : -1;
-        if (count < 0)
-            count = count_joined(texto, keyword, Replace(keyword, u" ", joint),
-                                 Replace(keyword, u" ", long_joint).size());
+        count = plain && phrase ? count_apart(texto, keyword) : -1;
+        if (count < 0) count = count_joined(texto, keyword);
     }
     if (has_joints || phrase) replace_all(texto, joint, u" ");
     return as_count(count);
@@ -138,7 +143,8 @@ double densidad(const Text& texto, Text& keyword) {
 double densidad2(std::int16_t cuenta, Text& texto, const Text& keyword) {
     replace_all(texto, keyword, Replace(keyword, u" ", joint));
     const std::int64_t blanks = std::count(texto.begin(), texto.end(), u' ');
-    const double piezas = blanks == 0 ? 1 : static_cast<double>(blanks);
+    // One less than the pieces, of which an empty text has none.
+    const double piezas = texto.empty() ? -1 : blanks == 0 ? 1 : static_cast<double>(blanks);
     const double valor = CInt(static_cast<double>(cuenta) * 100) / piezas;
     if (valor == 0) return 0;
     return CInt(Format(valor, u"##.##"));

@@ -41,16 +41,27 @@ const CaseTables& tables() {
     return made;
 }
 
-/// First `unit` in [at, end), or `end`. Looks at blocks without an early exit, which compilers vectorise.
-const char16_t* find_unit(const char16_t* at, const char16_t* end, char16_t unit) {
+/// A text to look for, by its first and its last unit.
+struct Ends {
+    char16_t first;
+    char16_t last;
+    std::size_t distance;
+
+    bool at(const char16_t* place) const { return place[0] == first && place[distance] == last; }
+};
+
+/// First place in [at, end) with both units in their places, or `end`. Looks at blocks without an early exit,
+/// which compilers vectorise.
+const char16_t* find_ends(const char16_t* at, const char16_t* end, Ends ends) {
     constexpr int block = 32;
-    while (end - at >= block) {
-        unsigned found = 0;
-        for (int i = 0; i < block; ++i) found |= static_cast<unsigned>(at[i] == unit);
+    for (; end - at >= block; at += block) {
+        const char16_t* const far = at + ends.distance;
+        unsigned short found = 0;
+        for (int i = 0; i < block; ++i)
+            found = static_cast<unsigned short>(found | ((at[i] == ends.first) & (far[i] == ends.last)));
         if (found != 0) break;
-        at += block;
     }
-    while (at != end && *at != unit) ++at;
+    while (at != end && !ends.at(at)) ++at;
     return at;
 }
 
@@ -60,8 +71,9 @@ std::size_t position(TextView text, TextView what, std::size_t from) {
     if (what.size() > text.size() || from > text.size() - what.size()) return npos;
     if (what.empty()) return from;
     const char16_t* const begin = text.data();
-    const char16_t* const last = begin + (text.size() - what.size()) + 1;
-    for (const char16_t* at = begin + from; (at = find_unit(at, last, what.front())) != last; ++at)
+    const char16_t* const end = begin + (text.size() - what.size()) + 1;
+    const Ends ends{what.front(), what.back(), what.size() - 1};
+    for (const char16_t* at = begin + from; (at = find_ends(at, end, ends)) != end; ++at)
         if (std::equal(what.begin() + 1, what.end(), at + 1)) return static_cast<std::size_t>(at - begin);
     return npos;
 }
