@@ -4,7 +4,10 @@
 
 namespace twk {
 
-/// Shows the help page at an anchor: "form1", "form2", ...
-void mostrar_ayuda(TextView anchor);
+/// Shows the help at an anchor ("form1"), or its beginning for an empty one.
+void mostrar_ayuda(const Text& anchor);
+
+/// Opens the maker's site in the system's browser.
+void open_maker_site();
 
 } // namespace twk

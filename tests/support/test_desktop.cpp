@@ -1,6 +1,7 @@
 #include "support/test_desktop.h"
 
 #include "platform/html.h"
+#include "platform/screens.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/addresses.h"
+#include "platform/screens.h"
+
+namespace twk {
+
+/// The About box.
+class frmVersion {
+  public:
+    static constexpr const char* name = "frmVersion";
+    static constexpr TextView title = u"About";
+
+    PictureBox Picture1, Picture2;
+    Label Label10{u"Date of this version:     09 - 22 - 2003"};
+    Label Label2{u"Programmers:\nEleanor Marsh\nTomas Ibarra\nPriya Nandakumar"};
+    Label Label5{u"Thanks for your support and suggestions: support@tarnwick.example"};
+    Label Label4{Text(addresses::maker_site)};
+    CommandButton Command1{u"Close"};
+
+    void enumerate(ScreenMap& map);
+    void Command1_Click();
+    void Label4_Click();
+};
+
+} // namespace twk
