@@ -141,7 +141,11 @@ std::vector<TextView> split_views(TextView text, TextView separator) {
     if (text.empty()) return pieces;
     if (separator.empty()) return {text};
     std::size_t from = 0;
-    for (std::size_t at; (at = position(text, separator, from)) != npos; from = at + separator.size())
+    // Pieces between single units are mostly short words: no use in looking at whole blocks.
+    const auto next = [&](std::size_t at) {
+        return separator.size() == 1 ? text.find(separator.front(), at) : position(text, separator, at);
+    };
+    for (std::size_t at; (at = next(from)) != npos; from = at + separator.size())
         pieces.push_back(text.substr(from, at - from));
     pieces.push_back(text.substr(from));
     return pieces;
