@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/screens.h"
+#include "store/database.h"
 
 #include <array>
 
@@ -24,6 +25,30 @@ class Form2 {
     CommandButton Command2{u"&Next"};
     CommandButton Command1{u"&Exit"};
     CommandButton Command3{u"&Help"};
+    /// The labels beside and below the boxes.
+    std::array<Label, 16> Label1{
+        Label{u"Project Name:"},
+        Label{u"Will be used as project's directory name"},
+        Label{u"Target Site Name:"},
+        Label{
+            u"Target Site is the website that you want to lead visitors to. The Site Name is used in the gateway "
+            u"pages as part of the title, also is the text for the links to the target URL. 2 or 3 words is "
+            u"optimal."},
+        Label{u"Target Site URL:"},
+        Label{u"Other Target URL:"},
+        Label{u"It's convenient to include secondary  pages from the target website."},
+        Label{u"Gateway pages can link to a domain, subdomain, directory, or file, such as:"},
+        Label{
+            u"http://www.yourdomain.com\nhttp://subdomain.yourdomain.com\nhttp://www.yourdomain.com/page.htm"},
+        Label{u"Subject:"},
+        Label{u"Category:"},
+        Label{u"Description:"},
+        Label{
+            u"A brief, accurate description of what your target site is about is very important for most search "
+            u"engines."},
+        Label{u"Webmaster Name:"},
+        Label{u"This is Optional"},
+        Label{u"Webmaster URL:"}};
 
     void enumerate(ScreenMap& map);
     void Form_Load();
@@ -38,6 +63,21 @@ class Form2 {
     /// 1 when the Target Site Name was refused (told, emptied, focused), 0 when it passed. Looks at
     /// `Text2[0]` whatever is passed in.
     int Revisar_Target(TextView text);
+
+  private:
+    bool properties_complete();
+    bool urls_valid();
+    bool slashes_absent();
+    void save_new_project();
+    void replace_old_project();
+    void update_project();
+    void save_targets();
+    void make_project_folder(const Text& name);
+    static Text clean(const Text& text);
+
+    Database base_datos_;
+    std::int16_t pid_hallado_ = 0; ///< of the project found under the same name
+    bool existe_ = false;          ///< such a project exists and is not to be replaced
 };
 
 } // namespace twk
