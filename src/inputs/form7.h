@@ -3,21 +3,40 @@
 #include "platform/screens.h"
 #include "store/database.h"
 
+#include <cstdint>
+
 namespace twk {
 
-/// Step 4: the directories that will serve the pages.
+/// Step 4: the directories that will serve the pages. The run reads `Text2` and `List1` here, not the store.
 class Form7 {
   public:
     static constexpr const char* name = "Form7";
     static constexpr TextView title = u"Step 4 of 6 - Hosts and Domains";
 
-    TextBox Text2;             ///< main gateway directory
+    Label lbl_main{u"Main gateway directory to host gateway pages (if other than target site)."};
+    TextBox Text2; ///< main gateway directory
+    Label lbl_main_note{
+        u"This directory will host the hallway page and the primary and secondary level gateway pages."};
+    Label lbl_separate{
+        u"You can host all the generated gateway pages in a separated directory, for easy maintenance. For "
+        u"PageRank purposes the root directory is better."};
+    Label lbl_target{
+        u"Target Site or Target URL, as defined in Step 2, is the address where gateway pages point to, while "
+        u"Gateway Directories are the WWW locations of the Gateway pages. A Gateway directory can be the same as "
+        u"a Target Directory, or a different directory, domain or subdomain."};
     TextBox Text1{u"http://"}; ///< entry of a secondary one
     ListBox List1;             ///< the secondary directories
     CommandButton Command2{u"Add secondary gateway domain/directory"};
     CommandButton Command3{u"Delete"};
+    Label lbl_folders{
+        u"If you define one or more gateway directories TWK will create additional folders to facilitate FTP "
+        u"uploading."};
     CommandButton Command1{u"Next"};
     CommandButton Command7{u"Help"};
+
+    std::int16_t pid_form = 0;
+    int estado = 1; ///< 2 once adding has been refused
+    Database base_datos;
 
     void enumerate(ScreenMap& map);
     void Form_Load();
@@ -27,9 +46,9 @@ class Form7 {
     void Command3_Click();
     void Command7_Click();
 
-    std::int16_t pid_form = 0;
-    int estado = 1; ///< 2 once a check has refused
-    Database base_datos;
+  private:
+    bool principal_valido();
+    bool entrada_valida();
 };
 
 } // namespace twk

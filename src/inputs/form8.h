@@ -1,16 +1,36 @@
 #pragma once
 
 #include "platform/screens.h"
+#include "store/database.h"
+
+#include <cstdint>
 
 namespace twk {
 
-/// The synonyms of the keyword selected in Step 2.
+/// The synonyms of the keyword that is selected in Step 2.
 class Form8 {
   public:
     static constexpr const char* name = "Form8";
     static constexpr TextView title = u"Synonym";
 
+    Label Label1{u"Synonyms for "}; ///< and the keyword
+    TextBox Text1;
+    CommandButton Command2{u"Set as Synonym"};
+    CommandButton Command3{u"Delete"};
+    CommandButton Command1{u"Exit - Go Back"};
+
     void enumerate(ScreenMap& map);
+    void Form_Load();
+    void Form_Unload();
+    void Command1_Click();
+    void Command2_Click();
+    void Command3_Click();
+
+  private:
+    Database base_datos_;
+    Database sinonimos_;
+    std::int16_t pid_form_ = 0;   ///< kept, used by nothing
+    std::int16_t keyid_form_ = 0; ///< likewise
 };
 
 } // namespace twk

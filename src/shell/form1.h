@@ -4,13 +4,18 @@
 #include "platform/screens.h"
 #include "store/database.h"
 
+#include <cstdint>
+
 namespace twk {
 
-/// The project manager: lists the projects, opens, deletes and copies them.
+/// The project manager: lists the projects, starts the wizard on a new or an existing one, deletes one with
+/// its folder, copies one under a new name.
 class Form1 {
   public:
     static constexpr const char* name = "Form1";
     static constexpr TextView title = u"Tarnwick";
+
+    Form1();
 
     ComboBox combo1{u"Select an existing Project"};
     TextBox Text1; ///< name of the copy
@@ -24,12 +29,14 @@ class Form1 {
     Label Label2{Text(addresses::maker_site)};
     Label Label4{u"Tarnwick"};
     Label Label5{u"Search Engine Optimization Tool"};
-    DirListBox Dir1;         ///< walks a project's folder, unseen
-    FileListBox File1{u"*"}; ///< likewise
+    DirListBox Dir1;   ///< walks a project's folder when it is deleted
+    FileListBox File1; ///< likewise
 
     void enumerate(ScreenMap& map);
     void Form_Load();
     void Form_Unload();
+    /// Adds every project's name to the list, which it does not clear.
+    void llenar_proyectos();
     void combo1_Click();
     void Command1_Click();
     void Command2_Click();
@@ -39,22 +46,25 @@ class Form1 {
     void Command6_Click();
     void Command7_Click();
     void Label2_Click();
-    /// Adds every project's name to the list, which it does not clear.
-    void llenar_proyectos();
 
   private:
-    void close_project_screens();
-    void open_selected();
-    void erase_folder(const Text& project);
-    void delete_rows();
-    void copy_rows(const Text& nombre);
-    void copy_keywords();
+    void abrir_proyecto();
+    void borrar_carpeta(const Text& nombre);
+    void borrar_filas(std::int16_t pid);
+    bool copia_permitida(const Text& nombre) const;
+    void copiar_fila(const Recordset& origen);
+    void copiar_keywords();
+    void copiar_contenidos();
+    void copiar_lista(TextView tabla, TextView columna);
 
     Database base_datos_;
-    Text sql_;
-    Text nombre_hallado_;          ///< project found by the last deletion
-    std::int16_t pid_hallado_ = 0; ///< found by the last deletion or copy
-    std::int16_t pid_copia_ = 0;
+    Text nombre_;                ///< name found on deletion
+    std::int16_t pid_ = 0;       ///< key found on deletion or copy
+    std::int16_t pid_copia_ = 0; ///< key of the copy
 };
+
+/// Unloads the screens of a project under way: numbers 2 to 18 in ascending order, then Form21. Other screens
+/// without a number stay.
+void cerrar_formas();
 
 } // namespace twk

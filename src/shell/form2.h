@@ -4,51 +4,51 @@
 #include "store/database.h"
 
 #include <array>
+#include <cstdint>
 
 namespace twk {
 
 /// Step 1: the project's name and the properties of the target site. The only place where a project's row is
-/// made or changed.
+/// made or changed. Later steps read `txt_name[0]` and `Text2[0]` here, so that the screen stays loaded.
 class Form2 {
   public:
     static constexpr const char* name = "Form2";
     static constexpr TextView title = u"Step 1 of 6 - Project Properties";
 
+    Label lbl_name{u"Project Name:"};
     std::array<TextBox, 1> txt_name;
-    std::array<TextBox, 1> Text2;
+    Label lbl_name_note{u"Will be used as project's directory name"};
+    Label lbl_site_name{u"Target Site Name:"};
+    std::array<TextBox, 1> Text2; ///< Target Site Name
+    Label lbl_site_url{u"Target Site URL:"};
+    Label lbl_other_url{u"Other Target URL:"};
+    Label lbl_webmaster_url{u"Webmaster URL:"};
+    /// Target Site URL, entry of another target URL, Webmaster URL.
     std::array<TextBox, 3> txt_url{TextBox{u"http://"}, TextBox{u"http://"}, TextBox{u"http://"}};
-    std::array<TextBox, 3> txt_dat; ///< subject, category, description
-    TextBox Text7;                  ///< webmaster's name
-    ListBox List1;                  ///< the other target URLs
+    ListBox List1; ///< the other target URLs
     CommandButton Command7{u"Add"};
     CommandButton Command8{u"Delete"};
+    Label lbl_subject{u"Subject:"};
+    Label lbl_category{u"Category:"};
+    Label lbl_description{u"Description:"};
+    std::array<TextBox, 3> txt_dat; ///< subject, category, description
+    Label lbl_webmaster{u"Webmaster Name:"};
+    Label lbl_optional{u"This is Optional"};
+    TextBox Text7; ///< webmaster's name
     CommandButton Command2{u"&Next"};
     CommandButton Command1{u"&Exit"};
     CommandButton Command3{u"&Help"};
-    /// The labels beside and below the boxes.
-    std::array<Label, 16> Label1{
-        Label{u"Project Name:"},
-        Label{u"Will be used as project's directory name"},
-        Label{u"Target Site Name:"},
-        Label{
-            u"Target Site is the website that you want to lead visitors to. The Site Name is used in the gateway "
-            u"pages as part of the title, also is the text for the links to the target URL. 2 or 3 words is "
-            u"optimal."},
-        Label{u"Target Site URL:"},
-        Label{u"Other Target URL:"},
-        Label{u"It's convenient to include secondary  pages from the target website."},
-        Label{u"Gateway pages can link to a domain, subdomain, directory, or file, such as:"},
-        Label{
-            u"http://www.yourdomain.com\nhttp://subdomain.yourdomain.com\nhttp://www.yourdomain.com/page.htm"},
-        Label{u"Subject:"},
-        Label{u"Category:"},
-        Label{u"Description:"},
-        Label{
-            u"A brief, accurate description of what your target site is about is very important for most search "
-            u"engines."},
-        Label{u"Webmaster Name:"},
-        Label{u"This is Optional"},
-        Label{u"Webmaster URL:"}};
+
+    Label lbl_about_site{
+        u"Target Site is the website that you want to lead visitors to. The Site Name is used in the gateway "
+        u"pages as part of the title, also is the text for the links to the target URL. 2 or 3 words is optimal."};
+    Label lbl_about_other{u"It's convenient to include secondary  pages from the target website."};
+    Label lbl_about_url{u"Gateway pages can link to a domain, subdomain, directory, or file, such as:"};
+    std::array<Label, 3> lbl_sample{Label{u"http://www.example.com"}, Label{u"http://shop.example.com"},
+                                    Label{u"http://www.example.com/page.htm"}};
+    Label lbl_about_description{
+        u"A brief, accurate description of what your target site is about is very important for most search "
+        u"engines."};
 
     void enumerate(ScreenMap& map);
     void Form_Load();
@@ -56,6 +56,8 @@ class Form2 {
     void Text2_LostFocus(int index);
     void txt_url_LostFocus(int index);
     void Command1_Click();
+    /// Checks, saves, and only then looks at slashes at the end of the URLs: a project can be saved and still
+    /// be refused. Fault 75 for a name that no folder can bear, after the row has been saved.
     void Command2_Click();
     void Command3_Click();
     void Command7_Click();
@@ -65,19 +67,18 @@ class Form2 {
     int Revisar_Target(TextView text);
 
   private:
-    bool properties_complete();
-    bool urls_valid();
-    bool slashes_absent();
-    void save_new_project();
-    void replace_old_project();
-    void update_project();
-    void save_targets();
-    void make_project_folder(const Text& name);
-    static Text clean(const Text& text);
+    bool campos_completos();
+    bool direcciones_validas() const;
+    bool direcciones_sin_barra() const;
+    bool proyecto_nuevo();
+    void reemplazar(std::int16_t pid);
+    void insertar_proyecto();
+    void modificar_proyecto();
+    void guardar_targets();
+    void crear_carpeta() const;
 
     Database base_datos_;
-    std::int16_t pid_hallado_ = 0; ///< of the project found under the same name
-    bool existe_ = false;          ///< such a project exists and is not to be replaced
+    std::int16_t pid_igual_ = 0; ///< key of a project found under the same name
 };
 
 } // namespace twk

@@ -6,35 +6,33 @@
 
 namespace twk {
 
-/// An entry of the main menu. A top entry has no parent; "-" is a separator.
+/// One entry of the main window's menu, as a front end shows it.
 struct MenuEntry {
     const char* name;
-    const char* parent;
-    TextView caption;
-    TextView shortcut;
+    TextView caption;     ///< "-" for a separator; "&" marks the letter of the shortcut
+    TextView shortcut;    ///< "Ctrl+N", empty for none
+    const char* parent;   ///< name of the top entry it belongs to, empty for a top entry
+    bool command = false; ///< choosing it fires the event (name, "Click")
 };
 
-/// The main window: contains all other screens, and has a menu for its only controls. Every entry with a
-/// command has a Click event of its name.
+/// The main window: a menu, and the room in which the other screens stand.
 class mdi1 {
   public:
     static constexpr const char* name = "mdi1";
     static constexpr TextView title = u"Tarnwick";
 
-    /// Top to bottom.
+    /// The menu, top to bottom. The front end keeps the list of open screens under `win`.
     static const std::vector<MenuEntry>& menu();
 
     void enumerate(ScreenMap& map);
-    void Form_Load() {}
-    void a2_Click(); ///< projects
-    void a3_Click(); ///< synonyms
-    void a4_Click(); ///< find and replace
-    void b2_Click(); ///< help
-    void b3_Click(); ///< tips
-    void c1_Click(); ///< about
-    void c2_Click(); ///< disclaimer
+    void a2_Click(); ///< Projects
+    void a3_Click(); ///< Synonyms
+    void b2_Click(); ///< Help
+    void b3_Click(); ///< Tips
+    void c1_Click(); ///< About
+    void c2_Click(); ///< Disclaimer
     void c3_Click(); ///< the maker's site
-    void D_Click();  ///< ends the program, whatever is open
+    void D_Click();  ///< ends the program at once, whatever is open
 };
 
 } // namespace twk
