@@ -1,0 +1,227 @@
+#include "engine/density.h"
+#include "engine/run.h"
+#include "platform/chance.h"
+#include "platform/faults.h"
+#include "settings/form6.h"
+#include "shell/module1.h"
+#include "support/temp_app.h"
+
+#include <gtest/gtest.h>
+
+namespace twk {
+namespace {
+
+std::string utf8(TextView text) {
+    return to_utf8(text);
+}
+
+/// "w0 w1 ..." from word `first` to word `last`.
+Text numbered(int first, int last) {
+    Text text;
+    for (int i = first; i <= last; ++i) text += (i == first ? u"w" : u" w") + from_utf8(std::to_string(i));
+    return text;
+}
+
+/// A run of one keyword with one sentence, "See <link> now", before the word "and".
+class DensityAdjustment : public testing::Test {
+  protected:
+    DensityAdjustment() {
+        module1().url_principal = u"http://main";
+        form.settings.palabras_ancla[9] = u" And ";
+        form.settings.frases_link[3] = u"See *LINK* now";
+        run.tabla_kw.resize(1);
+        run.tabla_kw.cell(0) = u"rose";
+        run.n_keywords = 1;
+        form.Combo9.text = u"3";
+    }
+
+    /// The adjusted form of a text that the test does not need afterwards.
+    std::string adjusted(Text text, std::int16_t per_cent, const Text& keyword = u"rose") {
+        return utf8(Ajustar_KW(run, text, keyword, per_cent));
+    }
+
+    int fault_of(const std::function<void()>& action) {
+        try {
+            action();
+        } catch (const RuntimeFault& fault) {
+            fault_text = utf8(fault.text());
+            return fault.number();
+        }
+        return 0;
+    }
+
+    test::TempApp app;
+    Form6 form;
+    twk::Run run{form};
+    std::string fault_text;
+    const Text sentence = u"See <a href=\"http://main\">rose</a> now";
+};
+
+TEST_F(DensityAdjustment, writes_boundary_pieces_twice_and_drops_the_tail) {
+    // 100 words at 3 per cent: steps of 33 pieces, three segments.
+    EXPECT_EQ(adjusted(numbered(0, 99) + u" <p> <br>", 3),
+              utf8(numbered(0, 33) + u" " + numbered(33, 66) + u" " + numbered(66, 99)));
+}
+
+TEST_F(DensityAdjustment, gives_nothing_for_no_text_no_density_or_one_over_fifty) {
+    Text untouched = u"a<p>b";
+    EXPECT_EQ(utf8(Ajustar_KW(run, untouched, u"rose", 0)), "");
+    EXPECT_EQ(utf8(untouched), "a<p>b");
+    EXPECT_EQ(adjusted(u"   ", 3), "");
+    EXPECT_EQ(adjusted(u"<p> <br>", 3), "");
+    EXPECT_EQ(adjusted(numbered(0, 99), 60), "");
+    EXPECT_EQ(adjusted(numbered(0, 9), 3), ""); // less than one sentence due
+    Text spaced = numbered(0, 99) + u"<p>";
+    EXPECT_EQ(utf8(Ajustar_KW(run, spaced, u"rose", 51)), "");
+    EXPECT_EQ(utf8(spaced), utf8(numbered(0, 99) + u" <p> "));
+}
+
+TEST_F(DensityAdjustment, puts_one_sentence_a_segment_before_its_first_anchor) {
+    // Two segments of 50 pieces; the anchors are matched without regard to case, in the first only once.
+    const Text text = u"<p> " + numbered(0, 8) + u" AND " + numbered(10, 18) + u" and " + numbered(20, 58) +
+                      u" and " + numbered(60, 99) + u" <p>";
+    EXPECT_EQ(adjusted(text, 2), utf8(u"<p> " + numbered(0, 8) + u" " + sentence + u" AND " +
+                                      numbered(10, 18) + u" and " + numbered(20, 49) + u" " +
+                                      numbered(49, 58) + u" " + sentence + u" and " + numbered(60, 98)));
+}
+
+TEST_F(DensityAdjustment, glues_the_last_sentence_to_a_segment_without_anchor) {
+    const Text text = u"and " + numbered(1, 99) + u" <p>";
+    EXPECT_EQ(adjusted(text, 2),
+              utf8(sentence + u" and " + numbered(1, 50) + u" " + numbered(50, 99) + u" <p>" + sentence));
+}
+
+TEST_F(DensityAdjustment, ends_with_the_words_once_a_sentence_stands) {
+    // 104 pieces: the last segment leaves off at piece 100, the number of words.
+    const Text text = numbered(0, 59) + u" and " + numbered(61, 99) + u" <p> <br> <hr> <p>";
+    EXPECT_EQ(adjusted(text, 2), utf8(numbered(0, 50) + u" " + numbered(50, 59) + u" " + sentence + u" and " +
+                                      numbered(61, 99)));
+}
+
+TEST_F(DensityAdjustment, looks_past_the_last_piece_of_a_text_without_tags) {
+    EXPECT_EQ(fault_of([&] { adjusted(numbered(0, 99), 4); }), fault_subscript);
+    EXPECT_NE(adjusted(u"<p>" + numbered(0, 99) + u"<p>", 4), "");
+}
+
+TEST_F(DensityAdjustment, links_the_keyword_as_given_and_looks_for_it_in_lower_case) {
+    form.settings.frases_link[3] = u"*KEYWORD*:*LINK*";
+    const Text keyword = u" Red Rose ";
+    const std::string out = adjusted(u"and " + numbered(1, 100), 2, keyword);
+    EXPECT_TRUE(out.starts_with(" Red Rose :<a href=\"http://main\">Red Rose</a> and") ||
+                out.starts_with("Red Rose :<a href=\"http://main\">Red Rose</a> and"))
+        << out;
+    EXPECT_EQ(utf8(keyword), " Red Rose ");
+    EXPECT_EQ(adjusted(u"and " + numbered(1, 100), 2, u"  ").find("href"), std::string::npos);
+}
+
+TEST_F(DensityAdjustment, draws_until_a_sentence_is_not_empty) {
+    form.settings.frases_link[10] = u"never picked";
+    chance().fix_seed(77);
+    Chance same;
+    same.fix_seed(77);
+    adjusted(u"and " + numbered(1, 49) + u" <p>", 2);
+    while (static_cast<int>(same.Rnd() * 10) != 3) {
+    }
+    EXPECT_EQ(chance().Rnd(), same.Rnd());
+}
+
+TEST_F(DensityAdjustment, tells_what_the_settings_lack_when_every_sentence_is_empty) {
+    form.settings.frases_link[3].clear();
+    form.settings.frases_link[10] = u"never picked";
+    EXPECT_EQ(fault_of([&] { adjusted(u"and " + numbered(1, 50), 2); }), fault_project_lacks);
+    EXPECT_NE(fault_text.find("6.c"), std::string::npos);
+    EXPECT_NE(adjusted(numbered(0, 50), 2), ""); // no anchor word, no sentence wanted
+}
+
+TEST_F(DensityAdjustment, holds_words_times_density_in_sixteen_bits) {
+    Text text = numbered(0, 699);
+    EXPECT_EQ(fault_of([&] { adjusted(text, 50); }), fault_overflow);
+}
+
+TEST_F(DensityAdjustment, wraps_the_text_in_paragraphs_and_leaves_the_keyword_alone) {
+    const Text keyword = u"Rose";
+    EXPECT_EQ(utf8(recalcular(run, numbered(0, 99) + u"...-", keyword)),
+              utf8(u"<p> " + numbered(0, 32) + u" " + numbered(32, 65) + u" " + numbered(65, 98)));
+    EXPECT_EQ(utf8(keyword), "Rose");
+    form.Combo9.text = u"0";
+    EXPECT_EQ(utf8(recalcular(run, numbered(0, 99), keyword)), "");
+    form.Combo9.text = u"three";
+    EXPECT_EQ(fault_of([&] { recalcular(run, u"a", keyword); }), fault_type);
+    EXPECT_EQ(utf8(recalcular(run, u"  ", keyword)), " "); // no text, the density is not read
+}
+
+TEST_F(DensityAdjustment, replaces_one_surplus_keyword_at_the_end_or_cuts_fifty_units) {
+    form.settings.max_repeticiones = 1;
+    form.settings.kw_sustituto = u"flower";
+    Text near_end = numbered(0, 99), early = near_end;
+    near_end = Replace(near_end, u"w60", u"rose");
+    near_end = Replace(near_end, u"w92 w93 ", u"rose rose ");
+    early = Replace(Replace(early, u"w4", u"rose"), u"w5 ", u"rose ");
+    for (const Text& text : {near_end, early}) {
+        form.Check8.value = false;
+        const Text whole = recalcular(run, text, u"rose");
+        EXPECT_FALSE(form.Check8.value());
+        form.Check8.value = true;
+        Text expected = u" " + Left(whole, Len(whole) - 50); // the first tag gets its blank
+        if (text == near_end) expected += Replace(Right(whole, 50), u" rose ", u" flower ", 1);
+        EXPECT_EQ(utf8(recalcular(run, text, u"rose")), utf8(expected));
+        EXPECT_TRUE(form.Check8.value());
+        EXPECT_EQ(contains(expected, u" flower rose "), text == near_end);
+    }
+    form.settings.max_repeticiones = 9;
+    EXPECT_EQ(contains(recalcular(run, near_end, u"rose"), u"flower"), false);
+    EXPECT_TRUE(form.Check8.value());
+}
+
+TEST_F(DensityAdjustment, grows_a_short_text_five_times_at_most) {
+    form.settings.min_palabras = 30;
+    run.ultima_caja = 0;
+    run.contenidos[0] = numbered(0, 9);
+    Text text = u"a b";
+    const Text ten = u" " + numbered(0, 9);
+    EXPECT_EQ(utf8(pocas_palabras(run, text)), utf8(u"a b" + ten + ten + u" " + numbered(0, 8)));
+    form.settings.min_palabras = 5;
+    text = u"a b";
+    EXPECT_EQ(utf8(pocas_palabras(run, text)), utf8(u"a b " + numbered(0, 3))); // one word over
+    text = u"a b";
+    run.contenidos[0] = u"<p> <p> <p> <p> <p> x y z"; // tags use up what is needed
+    EXPECT_EQ(utf8(pocas_palabras(run, text)).find('x'), std::string::npos);
+
+    run.contenidos[0] = u"";
+    chance().fix_seed(3);
+    Chance same;
+    same.fix_seed(3);
+    text = u"a";
+    EXPECT_EQ(utf8(pocas_palabras(run, text)), "a");
+    for (int i = 0; i < 5; ++i) same.Rnd();
+    EXPECT_EQ(chance().Rnd(), same.Rnd());
+}
+
+TEST_F(DensityAdjustment, moves_only_long_texts_which_must_have_five_hundred_pieces) {
+    form.settings.max_palabras = 100;
+    Text enough = numbered(0, 99) + u"  <p>";
+    EXPECT_EQ(utf8(muchas_palabras(run, enough)), utf8(numbered(0, 99) + u" <p> "));
+    Text between = numbered(0, 488);
+    EXPECT_EQ(fault_of([&] { muchas_palabras(run, between); }), fault_subscript);
+}
+
+TEST_F(DensityAdjustment, marks_keywords_that_stand_between_blanks) {
+    form.settings.hl_abre = u"<b>";
+    form.settings.hl_cierra = u"</b>";
+    EXPECT_EQ(utf8(highLight(run, u"rose a rose, Rose rose roses rose ")),
+              "rose a rose, Rose <b>rose</b> roses <b>rose</b> ");
+}
+
+TEST_F(DensityAdjustment, makes_file_names) {
+    form.Combo6.text = u"-";
+    EXPECT_EQ(utf8(rspaces(form, u"A\u00F1o Nuevo!")), "ano-nuevo");
+    EXPECT_EQ(utf8(rspaces(form, u"\u00C7\u20AC\u00A3\u0152 \u00C4\u00D6\u00DC \u00E0\u00C8\u00D9")),
+              "cepc-aou-aeu");
+    EXPECT_EQ(utf8(rspaces(form, u"a?!#$%()@=\u00BF\u00A1:\"*'[]{+\u00AC<>b}")), "ab}");
+    EXPECT_EQ(utf8(rspaces(form, u"\u00D1 c,d/e\\f.g")), "\u00F1-c,d/e\\f.g"); // the capital stays itself
+    form.Combo6.text = u"*_"; // part of a separator may go again
+    EXPECT_EQ(utf8(rspaces(form, u"a b")), "a_b");
+}
+
+} // namespace
+} // namespace twk
