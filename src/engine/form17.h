@@ -11,12 +11,14 @@ class Form17 {
     static constexpr TextView title = u"Step 6 of 6 - Random Pages Filename Save/Load";
     static constexpr bool shown_when_loaded = false; // the run fills it first and shows it modal
 
-    Label Label46;
+    Label Label46; ///< how many pages there will be
+    Label Label1{u"To modify a file name click it in the side box and type your modifications in the above "
+                 u"text-box, then click in the \"Update\" button."};
     ListBox List1; ///< file names
     ListBox List2; ///< their hosts
     Label Label2{u"HOST:"};
     Label Label3;
-    TextBox Text1;
+    TextBox Text1; ///< the name being edited
     CommandButton Command2{u"Update"};
     CommandButton Command3{u"Load from file"};
     CommandButton Command4{u"Save to file"};
@@ -24,20 +26,49 @@ class Form17 {
     CommandButton Command5{u"Help"};
     CommandButton Command1{u"Next"};
     CommandButton Command9{u"Cancel"};
+
     Frame Frame1{u"Find/Replace in File Names"};
+    Label lbl_find{u"Find:"};
+    Label lbl_replace{u"Replace:"};
     TextBox Text2, Text3;
     CommandButton Command8{u"Find/Replace"};
     CommandButton Command7{u"Cancel"};
-    Frame Frame2{u"Setp 6 - Help"};
+
+    Frame Frame2{u"Setp 6 - Help"}; ///< the caption's own spelling
     Label Label7{u"Random Pages Name (Step 6)"};
+    Label lbl_help_names{
+        u"TWK generates file names for 1st and 2nd level pages that correspond to the keyword for which they "
+        u"are optimized. Random pages use randomly taken keyword  pairs, adding the js letters at the end to "
+        u"identify pages that use Javascript redirection. Thus, a new page generation process can use "
+        u"different file names."};
+    Label lbl_help_lists{
+        u"This option helps to repeat the gateway generation process keeping the file names constant. Thus, "
+        u"those pages that already obtained a good SE ranking are preserved. If there are too few or too many "
+        u"names in the list, the TWK software will make up for the difference."};
+    Label lbl_help_replace{u"Use the Find/Replace of this Step to shorten long file names when one keyphrase "
+                           u"repeats in many of them."};
     CommandButton Command11{u"Close"};
-    Label Label1;
     CommonDialog CommonDialog1;
 
     void enumerate(ScreenMap& map);
     void Form_Load();
     void Form_Activate();
+    /// Leaves the mark of a Cancel, whatever the reason of the unload.
     void Form_Unload();
+    void List1_Click();
+    void Command1_Click();
+    void Command2_Click();
+    /// Loads names from a list file. Any fault, a cancelled dialog among them, is told and brings the names
+    /// back as they were.
+    void Command3_Click();
+    /// Saves the names to a list file; any fault ends it quietly.
+    void Command4_Click();
+    void Command5_Click();
+    void Command6_Click();
+    void Command7_Click();
+    void Command8_Click();
+    void Command9_Click();
+    void Command11_Click();
 };
 
 } // namespace twk
