@@ -38,8 +38,14 @@ class Form12 {
     static constexpr const char* name = "Form12";
     static constexpr TextView title = u"Generated Pages Report";
 
+    Form12(); ///< lists, report and buttons stay disabled until a run has ended
+
     Frame Frame1{u"Report"};
-    Label Label6;
+    Label Label6{
+        u"These reports describe several settings in your generated pages: words, keywords, page weight, "
+        u"number of links. You can use it to adjust your TWK settings and repeat the page generation step "
+        u"(exit the program and reenter to clean old files). Remember to upload each page to its corresponding "
+        u"directory, as saved in your hard disk."};
     Label Label3{u"Now Performing Action:"};
     Label Label2; ///< status line
     ProgressBar ProgressBar1;
@@ -80,7 +86,13 @@ class Form12 {
     std::vector<PageAnalysis> informe;
     std::int16_t n_kw = 0;
     std::int16_t n_sub = 0;
-    std::int16_t inicio2 = 0, inicio3 = 0;
+    std::int16_t inicio2 = 0, inicio3 = 0; ///< first page of the second-level and of the random pages
+
+  private:
+    void analyse_body(PageAnalysis& page, const Text& html);
+    void analyse_title(PageAnalysis& page, const Text& html);
+    void fill_list(ListBox& list, int first, int end, int width);
+    Text report_text(const PageAnalysis& page, int list) const;
 };
 
 } // namespace twk

@@ -1,0 +1,286 @@
+#include "reports/form12.h"
+
+#include "engine/density.h"
+#include "engine/run.h"
+#include "engine/text_toolkit.h"
+#include "inputs/form3.h"
+#include "inputs/form7.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/faults.h"
+#include "platform/files.h"
+#include "platform/html.h"
+#include "platform/numbers.h"
+#include "settings/form6.h"
+#include "shell/form2.h"
+#include "shell/module1.h"
+
+namespace twk {
+
+namespace {
+
+constexpr int screen_number = 12;
+
+/// Runs one statement of an analysis; a fault of it leaves its field empty and the analysis goes on.
+template <class F> void ignoring_faults(F statement) {
+    try {
+        statement();
+    } catch (const RuntimeFault&) {
+    }
+}
+
+/// Bare name, with ".htm" behind it: an "x.html" comes out as "xl.htm".
+Text bare_file_name(const Text& path) {
+    const Text name = Replace(path, u".htm", u"");
+    const std::size_t cut = name.rfind(path_separator);
+    return (cut == Text::npos ? name : name.substr(cut + path_separator.size())) + u".htm";
+}
+
+Text title_of(const Text& page) {
+    const int from = InStr(page, u"<title>");
+    return Replace(Mid(page, from, InStr(page, u"</title>") - from), u"<title>", u"");
+}
+
+/// The URL comment up to the first comment's end of the whole page; fault 5 when that stands before it.
+Text commented_url(const Text& page) {
+    const int from = InStr(page, u"<!-- url");
+    return Replace(Mid(page, from, InStr(page, u"-->") - from), u"<!-- url", u"");
+}
+
+int occurrences(TextView text, TextView find) {
+    int n = 0;
+    for (int at = 1; (at = InStr(text, find, at)) != 0; ++at) ++n;
+    return n;
+}
+
+} // namespace
+
+Form12::Form12() {
+    for (ListBox* list : {&List1, &List2, &List3}) list->enabled = false;
+    RichTextBox1.enabled = false;
+    Command2.enabled = false;
+    Command3.enabled = false;
+}
+
+void Form12::Form_Load() {
+    marcar_forma(screen_number, true);
+    xKeyWords.assign(static_cast<std::size_t>(screen<Form3>().List1.list_count()) + 1, Text());
+    ProgressBar1.set_value(CDbl(u"0,0001"));
+    desktop().navigate(wb1, u"about:blank");
+    DoEvents();
+    esperar(1);
+}
+
+void Form12::Form_Unload() {
+    marcar_forma(screen_number, false);
+}
+
+void Form12::reporte2(int subkeywords) {
+    n_sub = CInt(static_cast<double>(subkeywords));
+}
+
+void Form12::Reporte(const KeywordTable& tabla, int keywords) {
+    n_kw = CInt(static_cast<double>(keywords));
+    const double pages =
+        Val(screen<Form6>().Combo2.text()) + 2 * n_kw + screen<Form7>().List1.list_count() + 1 + 10 + n_sub;
+    informe.clear();
+    informe.resize(static_cast<std::size_t>(CLng(pages)) + 1);
+    xKeyWords.resize(static_cast<std::size_t>(n_kw));
+    for (int k = 0; k < n_kw; ++k) xKeyWords[static_cast<std::size_t>(k)] = tabla.at(k);
+}
+
+void Form12::analyse_body(PageAnalysis& page, const Text& html) {
+    Text cuerpo = visible_text(html);
+    std::int16_t words = 0;
+    ignoring_faults([&] {
+        words = contar_palabras(cuerpo);
+        page.words = to_text(words);
+    });
+    for (std::size_t k = 0; k < page.keywords.size(); ++k) {
+        if (xKeyWords[k].empty()) continue;
+        KeywordAnalysis& found = page.keywords[k];
+        ignoring_faults([&] {
+            const std::int16_t n = contar_kw(cuerpo, xKeyWords[k]);
+            found.count = to_text(n);
+            if (words != 0) found.density = Format(n * 100.0 / words, u"##.##");
+        });
+    }
+}
+
+void Form12::analyse_title(PageAnalysis& page, const Text& html) {
+    if (!contains(html, u"<title>")) return;
+    Text titulo;
+    ignoring_faults([&] { titulo = page.title = title_of(html); });
+    ignoring_faults([&] { page.title_words = to_text(contar_palabras(titulo)); });
+    for (std::size_t k = 0; k < page.keywords.size(); ++k) {
+        KeywordAnalysis& found = page.keywords[k];
+        ignoring_faults([&] {
+            const std::int16_t n = contar_kw(titulo, xKeyWords[k]);
+            found.title_count = to_text(n);
+            found.title_density = to_text(densidad2(n, titulo, xKeyWords[k]));
+        });
+    }
+}
+
+void Form12::reporte2_2(const Text& path, const Text& page, std::int16_t& index, int kind, const Text& s1,
+                        const Text& s2, const Text&) {
+    Label2.caption =
+        u"Creating + Analizing " + (Len(path) < 71 ? path : Left(path, 10) + u"..." + Right(path, 50));
+    ignoring_faults([&] {
+        desktop().show_html(wb1, u"starting browser...");
+        desktop().show_html(wb1, page);
+        DoEvents();
+    });
+    if (index < 0 || static_cast<std::size_t>(index) >= informe.size()) return;
+    PageAnalysis& entry = informe[static_cast<std::size_t>(index)];
+    entry = {};
+    entry.keywords.resize(static_cast<std::size_t>(n_kw));
+    entry.path = path;
+    entry.file = bare_file_name(path);
+    ignoring_faults([&] { entry.kb = to_text(static_cast<double>(FileLen(path)) / 1000); });
+    entry.kind = to_text(kind);
+    analyse_body(entry, page);
+    analyse_title(entry, page);
+    if (contains(page, u"<!-- url")) ignoring_faults([&] { entry.url = commented_url(page); });
+    entry.links = to_text(occurrences(page, u"href") - 1); // leaves one out
+    if (kind == 2 || kind == 3) entry.links_to = s1;
+    if (kind == 3) entry.redirect = s2;
+}
+
+/// Tails of the file names of a range of pages; past the analysis there is none.
+void Form12::fill_list(ListBox& list, int first, int end, int width) {
+    list.clear();
+    for (int i = first; i < end && i < static_cast<int>(informe.size()); ++i)
+        list.add_item(Right(informe[static_cast<std::size_t>(i)].file, width));
+}
+
+void Form12::reporte2_3(int first_level_pages) {
+    fill_list(List1, 0, first_level_pages, 35);
+}
+
+void Form12::reporte_nivel2(int first, int end) {
+    inicio2 = CInt(static_cast<double>(first));
+    fill_list(List2, first, end, 40);
+}
+
+void Form12::reporte_nivel3(int first, int end) {
+    inicio3 = CInt(static_cast<double>(first));
+    fill_list(List3, first, end, 50);
+    DoEvents();
+    Command3.enabled = true;
+    for (ListBox* list : {&List1, &List2, &List3}) list->enabled = true;
+    RichTextBox1.enabled = true;
+    Label2.caption = u"Action Complete. Select the pages in the diferent boxes to see the analysis.";
+}
+
+void Form12::List_Click(int list) {
+    ListBox* const lists[] = {&List1, &List2, &List3};
+    const ListBox& clicked = *lists[list - 1];
+    if (clicked.list_index() >= 0 && !trim_view(clicked.text()).empty())
+        Show_reporte(clicked.list_index(), list);
+    for (ListBox* other : lists)
+        if (other != &clicked) other->list_index = -1;
+}
+
+void Form12::Show_reporte(int position, int list) {
+    Command3.enabled = true;
+    const int index = position + (list == 2 ? inicio2 : list == 3 ? inicio3 : 0);
+    if (index < 0 || static_cast<std::size_t>(index) >= informe.size()) throw RuntimeFault(fault_subscript);
+    const PageAnalysis& page = informe[static_cast<std::size_t>(index)];
+    desktop().navigate(wb1, page.path);
+    RichTextBox1.text = report_text(page, list);
+}
+
+Text Form12::report_text(const PageAnalysis& page, int list) const {
+    static const TextView kinds[] = {u"", u"First-Level Page", u"Second-Level Page", u"Random-Generated Page",
+                                     u"SiteMAP"};
+    Text r;
+    const auto line = [&r](const Text& text) { r.append(text).append(vbCrLf); };
+    line(u"File: " + page.file);
+    line(u"Local Path: " + page.path);
+    line(u"FileSize: " + page.kb + u" Kb.");
+    const int kind = static_cast<int>(Val(page.kind));
+    line(u"Page Type: " + Text(kinds[kind >= 1 && kind <= 4 ? kind : 0]));
+    if (list == 2) line(u"Links to First-Level Page: " + rspaces(screen<Form6>(), page.links_to));
+    if (list == 3) {
+        line(u"JavaScript Redirection to Target Site?: " + page.redirect);
+        line(u"");
+    }
+    line(u"Body Word Count: " + page.words + u" words");
+    for (std::size_t k = 0; k < page.keywords.size(); ++k) {
+        const KeywordAnalysis& found = page.keywords[k];
+        const Text named = u"[" + xKeyWords[k] + u"]";
+        if (found.count == u"0") {
+            line(u"No KeyWords for " + named);
+            continue;
+        }
+        line(u"KeyWord Count for " + named + u": " + found.count + u" repetitions");
+        line(u"   KeyWord Density for " + named + u": " + found.density + u" %");
+    }
+    line(u"");
+    line(u"Title: " + page.title);
+    line(u"Title Word Count: " + page.title_words + u" words");
+    for (std::size_t k = 0; k < page.keywords.size(); ++k) {
+        const KeywordAnalysis& found = page.keywords[k];
+        const Text named = u"[" + xKeyWords[k] + u"]";
+        if (found.title_count == u"0") {
+            line(u"No KeyWords in title for " + named);
+            continue;
+        }
+        line(u"KeyWord Count in Title for " + named + u": " + found.title_count + u" repetitions");
+        line(u"   KeyWord Density in Title for " + named + u": " + found.title_density + u" %");
+    }
+    line(u"URL: " + (list == 1 ? screen<Form7>().Text2.text() + u"\\" + page.file : page.url));
+    line(u"");
+    line(u"Make sure this file is uploaded to the directory above. Otherwise generated-pages will not be "
+         u"interlinked.");
+    line(
+        u"As you can see in the directory " + app_path() +
+        u"\\Projects\\ [project's name] \\ there are several directories. Each directory indicates where you "
+        u"must upload your gateway pages. Consult the Manual for help.");
+    line(u"Links Count: " + page.links);
+    return r + u"Report Generated at " + ahora();
+}
+
+void Form12::Command2_Click() {
+    screens().unload<Form12>();
+}
+
+void Form12::Command3_Click() {
+    const Text& project = screen<Form2>().txt_name[0].text();
+    const Text sep(path_separator);
+    try {
+        desktop().start(app_path() + sep + u"Projects" + sep + project + sep + u"sitemap-do-not-upload.htm");
+    } catch (const RuntimeFault&) {
+        Message message{u"Your pages are ready.Open your browser to see them \rProjects\\" + project +
+                        u"\\sitemap-do-not-upload.htm"};
+        message.critical = true;
+        desktop().MsgBox(message);
+    }
+}
+
+void Form12::enumerate(ScreenMap& map) {
+    map.control("Frame1", Frame1);
+    map.control("Label6", Label6);
+    map.control("Label3", Label3);
+    map.control("Label2", Label2);
+    map.control("ProgressBar1", ProgressBar1);
+    map.control("Label5", Label5);
+    map.control("List1", List1);
+    map.control("Label4", Label4);
+    map.control("List2", List2);
+    map.control("Label1", Label1);
+    map.control("List3", List3);
+    map.control("RichTextBox1", RichTextBox1);
+    map.control("wb1", wb1);
+    map.control("Label7", Label7);
+    map.control("Command3", Command3);
+    map.control("Command2", Command2);
+    map.event("List1", "Click", [this] { List_Click(1); });
+    map.event("List2", "Click", [this] { List_Click(2); });
+    map.event("List3", "Click", [this] { List_Click(3); });
+    map.event("Command2", "Click", [this] { Command2_Click(); });
+    map.event("Command3", "Click", [this] { Command3_Click(); });
+}
+
+} // namespace twk
