@@ -1,0 +1,11 @@
+#pragma once
+
+namespace twk {
+
+struct Run;
+
+/// Appends to every page of the destination's folder the links to all of them and the closing tags, and hands
+/// it to the report. Pages whose name does not match "*.htm*" are not seen.
+void cross_link_pass(Run& run);
+
+} // namespace twk
