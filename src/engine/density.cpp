@@ -82,8 +82,7 @@ Text pocas_palabras(Run& run, Text& texto) {
         const int need = run.settings.min_palabras - w;
         // The last box is never drawn.
         const auto index = static_cast<int>(Int(chance().Rnd() * run.ultima_caja));
-        if (index < 0 || index >= max_boxes) throw RuntimeFault(fault_subscript);
-        const Text& b = run.contenidos[static_cast<std::size_t>(index)];
+        const Text& b = run.box(index);
         if (!trim_view(b).empty()) texto += u" " + cortar_palabras(b, need + 1);
         w = contar_palabras(texto);
     }

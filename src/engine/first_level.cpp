@@ -12,7 +12,6 @@
 #include "engine/text_toolkit.h"
 #include "platform/chance.h"
 #include "platform/desktop.h"
-#include "platform/faults.h"
 #include "platform/numbers.h"
 #include "reports/form12.h"
 
@@ -87,14 +86,13 @@ std::optional<Text> tied_text(Run& run, const Text& keyword) {
 }
 
 /// Box for a keyword without a tie.
-std::size_t chosen_box(Run& run, int k) {
+int chosen_box(Run& run, int k) {
     int b = 0;
     for (int i = 0; i <= run.ultima_caja;
          ++i) // the density is compared with the index held, not with a density
         if (run.densidades[static_cast<std::size_t>(i)].at(static_cast<std::size_t>(k)) > b) b = i;
     if (b == 0) b = static_cast<int>(Int(chance().Rnd() * run.ultima_caja));
-    if (b < 0 || b >= max_boxes) throw RuntimeFault(fault_subscript);
-    return static_cast<std::size_t>(b);
+    return b;
 }
 
 } // namespace
@@ -155,7 +153,7 @@ Text TP1_content(Run& run, int k) {
         t = std::move(*tied); // as it was typed
         if (run.form.Check15.value()) t = recalcular(run, t, keyword);
     } else {
-        t = recalcular(run, run.contenidos[chosen_box(run, k)], keyword);
+        t = recalcular(run, run.box(chosen_box(run, k)), keyword);
     }
     status(run, u"Optimizing First-Level Page");
     if (run.form.Check6.value()) t = highLight(run, t);
@@ -166,7 +164,7 @@ Text TP1_content(Run& run, int k) {
 
 Text TP1_hiddenform(Run& run) {
     if (!run.form.Check3.value()) return {};
-    return hidden_list(run) + hidden_field(run.tabla_kw.at(0), run.contenidos[0]);
+    return hidden_list(run) + hidden_field(run.tabla_kw.at(0), run.box(0));
 }
 
 Text TP1_elresto(Run& run) {

@@ -56,6 +56,7 @@ void finish_report(Run& run) {
     report.reporte_nivel2(run.cuenta1, run.cuenta2);
     report.reporte_nivel3(run.cuenta2, run.cuenta3);
     report.ProgressBar1.set_value(100);
+    DoEvents();
 }
 
 void run_phases(Run& run) {

@@ -26,6 +26,7 @@ void close_page(Run& run, const Text& path) {
     run.fso.DeleteFile(aux);
     ++run.pages_written;
     run.bytes_written += FileLen(path);
+    run.pagina_actual.clear();
 }
 
 Text destination_folder(Run& run, TextView address) {

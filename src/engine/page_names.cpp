@@ -25,6 +25,11 @@ std::int16_t redirect_step(int total, int share) {
     return CInt((total - f) / f);
 }
 
+PlannedPage& planned(Run& run, int n) {
+    if (n < 0 || n >= static_cast<int>(run.paginas.size())) throw RuntimeFault(fault_subscript);
+    return run.paginas[static_cast<std::size_t>(n)];
+}
+
 /// Position 0 from the front, 1 from the end, 2 from the front ...: with an even count some names double and
 /// some are lost; the doubles get numbers later.
 void reorder(std::vector<Text>& names, std::size_t count) {
@@ -82,7 +87,7 @@ void distribute_pages(Run& run) {
         std::unordered_set<Text> compared;
         for (int c = 0; c < run.paginas_host; ++c, ++n) {
             if (n >= run.nombres.size()) throw RuntimeFault(fault_subscript);
-            PlannedPage& page = run.paginas.at(n);
+            PlannedPage& page = planned(run, static_cast<int>(n));
             const Text& name = run.nombres[n];
             if (!compared.contains(name))
                 page.name = name;
@@ -102,7 +107,7 @@ bool offer_page_names(Run& run) {
     form17.List2.clear();
     const int shown = static_cast<int>(Int(Val(run.form.Combo2.text())));
     for (int n = 0; n < shown; ++n) {
-        const PlannedPage& page = run.paginas.at(static_cast<std::size_t>(n));
+        const PlannedPage& page = planned(run, n);
         if (trim_view(page.name).empty()) continue;
         form17.List1.add_item(page.name + run.extension);
         form17.List2.add_item(page.host);
@@ -115,8 +120,7 @@ bool offer_page_names(Run& run) {
         module1().paso6_cancelado = u"0";
         return false;
     }
-    for (int i = 0; i < form17.List1.list_count(); ++i)
-        run.paginas.at(static_cast<std::size_t>(i)).name = Trim(form17.List1.list(i));
+    for (int i = 0; i < form17.List1.list_count(); ++i) planned(run, i).name = Trim(form17.List1.list(i));
     screens().unload<Form17>(); // leaves the flag at "1": the next pass reads it as a Cancel
     return true;
 }

@@ -33,8 +33,9 @@ void write_read_more(Run& run, const Text& path, const Text& t) {
     const TextStreamPtr page = run.fso.OpenTextFile(path, OpenMode::reading, true, TextKind::page);
     const Text aux = path + u"aux2";
     const TextStreamPtr out = run.fso.OpenTextFile(aux, OpenMode::writing, true, TextKind::page);
-    out->writeline(u"<html><head><title>" + run.tabla_kw.at(run.indice_kw) + u" Complete Article" +
-                   u"</title>");
+    if (run.indice_kw < run.tabla_kw.rows()) // faults are passed over: the line alone is missing then
+        out->writeline(u"<html><head><title>" + run.tabla_kw.at(run.indice_kw) +
+                       u" Complete Article</title>");
     out->writeline(u"<body>");
     if (run.fase == 1 || run.fase == 3)
         out->writeline(u"<h1>" + cortar_palabras(t, 15) + u"</h1><h3>" + t + u"</h3>");

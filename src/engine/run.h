@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/faults.h"
 #include "platform/files.h"
 #include "platform/text.h"
 #include "settings/form6.h"
@@ -111,6 +112,11 @@ struct Run {
     Text project_folder;
     Text main_folder;
 
+    /// Prepared text of a content box. Fault 9 outside 0 to 100.
+    const Text& box(int index) const {
+        if (index < 0 || index >= max_boxes) throw RuntimeFault(fault_subscript);
+        return contenidos[static_cast<std::size_t>(index)];
+    }
     void writeline(TextView line) { salida->writeline(line); }
 };
 

@@ -83,9 +83,7 @@ Text list_of_keyword(const Run& run) {
 
 /// The box for the hidden block; drawn again while it is empty, as all boxes past the last are.
 int hidden_box(Run& run, std::int16_t boxes) {
-    const auto empty = [&](int b) {
-        return b >= max_boxes || run.contenidos[static_cast<std::size_t>(b)].empty();
-    };
+    const auto empty = [&](int b) { return b >= max_boxes || run.box(b).empty(); };
     bool any = !empty(0);
     for (int b = 1; b < boxes && !any; ++b) any = !empty(b);
     if (!any) throw RuntimeFault(fault_project_lacks, u"All content boxes that a page could draw are empty.");
@@ -133,14 +131,13 @@ void write_link_stack(Run& run, TextView heading, bool always) {
 
 void write_content_block(Run& run, bool split_sentences, bool count_file) {
     const Text k = run.tabla_kw.at(run.indice_kw);
-    const auto box = [&run] { return static_cast<std::size_t>(xrnum2(run.ultima_caja)); };
-    const std::size_t a = box();
-    const std::size_t b = box();
-    const Text& first = run.contenidos.at(a);
+    const int a = xrnum2(run.ultima_caja);
+    const int b = xrnum2(run.ultima_caja);
+    const Text& first = run.box(a);
     Text& text = run.texto_pagina;
     text = first;
     if (split_sentences) replace_all(text, u". ", u". <p>");
-    if (Len(first) < 300) text = first + u"<p>" + run.lista_kw + u"<p>" + run.contenidos.at(b);
+    if (Len(first) < 300) text = first + u"<p>" + run.lista_kw + u"<p>" + run.box(b);
     if (!run.subkw_actual.empty()) text = Ajustar_KW(run, text, run.subkw_actual, 3);
     text = Ajustar_KW(run, text, k, 2);
     status(run, u"Updating Second-Level Page");
@@ -175,8 +172,7 @@ void write_second_level_end(Run& run, std::int16_t boxes) {
     if (run.form.Check3.value()) {
         run.writeline(hidden_list(run));
         const int b = hidden_box(run, boxes);
-        run.writeline(
-            hidden_field(run.tabla_kw.at(run.indice_kw), run.contenidos[static_cast<std::size_t>(b)]));
+        run.writeline(hidden_field(run.tabla_kw.at(b), run.box(b))); // the keyword of the box's number
     }
     run.writeline(link_line(run, u"h3"));
 }
