@@ -218,9 +218,9 @@ class SettingsFile : public testing::Test {
 };
 
 TEST_F(SettingsFile, is_written_in_the_order_of_its_keys_with_its_own_forms) {
-    // What the value of 6.d loses at its "=", the screen cannot hold either: it is set here.
+    form().settings = GatewaySettings();
     ASSERT_EQ(load(all_keys), 0);
-    EXPECT_EQ(utf8(form().settings.hl_abre), "\"hl\">"); // cut behind its last "=" and one unit more
+    EXPECT_EQ(utf8(form().settings.hl_abre), "''*hl\">"); // one unit less than stands behind its "="
     form().settings.hl_abre = u"<b class=\"hl\">";
     guardar_dat(form(), app.path(u"saved"));
     const std::string text = app.read(u"saved.dat");
