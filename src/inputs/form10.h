@@ -11,7 +11,10 @@ class Form10 {
     static constexpr const char* name = "Form10";
     static constexpr TextView title = u"Synonym Dictionary";
 
-    Form10() { MSFlexGrid1.visible = false; } // laid out, used by nothing
+    Form10() {
+        Data1.visible = false;
+        MSFlexGrid1.visible = false;
+    }
 
     ListBox List1; ///< the words, in their order
     TextBox Text2; ///< word to add
@@ -21,7 +24,8 @@ class Form10 {
     CommandButton Command4{u"Delete Word"};
     CommandButton Command5{u"Help"};
     CommandButton Command1{u"Exit"};
-    Grid MSFlexGrid1;
+    Label Data1;      ///< laid out, used by nothing
+    Grid MSFlexGrid1; ///< likewise
 
     void enumerate(ScreenMap& map);
     void Form_Load();

@@ -52,10 +52,10 @@ class Form1 {
     void borrar_carpeta(const Text& nombre);
     void borrar_filas(std::int16_t pid);
     bool copia_permitida(const Text& nombre) const;
-    void copiar_fila(const Recordset& origen);
+    void copiar_fila(const Text& nombre);
     void copiar_keywords();
     void copiar_contenidos();
-    void copiar_lista(TextView tabla, TextView columna);
+    void copiar_lista(TextView tabla);
 
     Database base_datos_;
     Text nombre_;                ///< name found on deletion

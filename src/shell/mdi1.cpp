@@ -7,28 +7,26 @@
 #include "inputs/form10.h"
 #include "platform/desktop.h"
 #include "shell/form1.h"
-#include "tools/form23.h"
 
 namespace twk {
 
 const std::vector<MenuEntry>& mdi1::menu() {
-    static const std::vector<MenuEntry> entries{
-        {"a", "", u"&Main Menu", u""},
-        {"a2", "a", u"Projects", u"Ctrl+N"},
-        {"kjg", "a", u"-", u""},
-        {"a3", "a", u"Synonyms", u"Ctrl+S"},
-        {"a4", "a", u"Find && Replace in Files", u""},
-        {"b", "", u"&Help", u""},
-        {"b2", "b", u"Help", u"Ctrl+H"},
-        {"b3", "b", u"Tips", u"Ctrl+I"},
-        {"c", "", u"&About", u""},
-        {"c1", "c", u"About", u""},
-        {"c2", "c", u"Disclaimer", u"Ctrl+D"},
-        {"c9", "c", u"-", u""},
-        {"c5", "c", u"-", u""},
-        {"c3", "c", u"TWK WebSite", u"Ctrl+W"},
-        {"win", "", u"&Windows", u""}, // the front end lists the open screens in it
-        {"D", "", u"&Quit", u""},
+    static const std::vector<MenuEntry> entries = {
+        {"a", u"&Main Menu", u"", ""},
+        {"a2", u"Projects", u"Ctrl+N", "a", true},
+        {"kjg", u"-", u"", "a"},
+        {"a3", u"Synonyms", u"Ctrl+S", "a", true},
+        {"b", u"&Help", u"", ""},
+        {"b2", u"Help", u"Ctrl+H", "b", true},
+        {"b3", u"Tips", u"Ctrl+I", "b", true},
+        {"c", u"&About", u"", ""},
+        {"c1", u"About", u"", "c", true},
+        {"c2", u"Disclaimer", u"Ctrl+D", "c", true},
+        {"c9", u"-", u"", "c"}, // two separators in a row, as designed
+        {"c5", u"-", u"", "c"},
+        {"c3", u"TWK WebSite", u"Ctrl+W", "c", true},
+        {"win", u"&Windows", u"", ""},
+        {"D", u"&Quit", u"", "", true},
     };
     return entries;
 }
@@ -36,7 +34,6 @@ const std::vector<MenuEntry>& mdi1::menu() {
 void mdi1::enumerate(ScreenMap& map) {
     map.event("a2", "Click", [this] { a2_Click(); });
     map.event("a3", "Click", [this] { a3_Click(); });
-    map.event("a4", "Click", [this] { a4_Click(); });
     map.event("b2", "Click", [this] { b2_Click(); });
     map.event("b3", "Click", [this] { b3_Click(); });
     map.event("c1", "Click", [this] { c1_Click(); });
@@ -51,17 +48,12 @@ void mdi1::a2_Click() {
 void mdi1::a3_Click() {
     screens().bring_forward<Form10>();
 }
-void mdi1::a4_Click() {
-    screens().bring_forward<Form23>();
-}
 void mdi1::b2_Click() {
     mostrar_ayuda(u"");
 }
-
 void mdi1::b3_Click() {
     screens().bring_forward<frmTip>();
 }
-
 void mdi1::c1_Click() {
     screens().bring_forward<frmVersion>();
 }

@@ -1,0 +1,151 @@
+#include "inputs/form7.h"
+
+#include "assist/help.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "settings/form6.h"
+#include "shell/form2.h"
+#include "shell/module1.h"
+#include "store/stores.h"
+
+#include <algorithm>
+
+namespace twk {
+
+namespace {
+
+constexpr int screen_number = 7;
+constexpr TextView scheme = u"http://";
+
+/// What stands in the box until a main directory has been chosen.
+Text placeholder() {
+    return module1().url_sitio + u"/HOST";
+}
+
+bool ends_in_slash(TextView url) {
+    return url.ends_with(u'/') || url.ends_with(u'\\');
+}
+
+} // namespace
+
+void Form7::enumerate(ScreenMap& map) {
+    map.control("lbl_main", lbl_main);
+    map.control("Text2", Text2);
+    map.control("lbl_main_note", lbl_main_note);
+    map.control("lbl_separate", lbl_separate);
+    map.control("lbl_target", lbl_target);
+    map.control("Text1", Text1);
+    map.control("Command2", Command2);
+    map.control("List1", List1);
+    map.control("Command3", Command3);
+    map.control("lbl_folders", lbl_folders);
+    map.control("Command1", Command1);
+    map.control("Command7", Command7);
+    map.event("Command1", "Click", [this] { Command1_Click(); });
+    map.event("Command2", "Click", [this] { Command2_Click(); });
+    map.event("Command3", "Click", [this] { Command3_Click(); });
+    map.event("Command7", "Click", [this] { Command7_Click(); });
+}
+
+void Form7::Form_Load() {
+    marcar_forma(screen_number, true);
+    base_datos = open_hive();
+    for (Recordset row = base_datos.OpenRecordset(u"select Projects.pid as X1 from Projects where name = '" +
+                                                  screen<Form2>().txt_name[0].text() + u"' ");
+         !row.eof(); row.MoveNext())
+        pid_form = CInt(row.Fields(u"x1").number());
+    Text2.text = placeholder();
+    for (Recordset row = base_datos.OpenRecordset(u"select * from host1 where pid = " + to_text(pid_form));
+         !row.eof(); row.MoveNext())
+        Text2.text = Trim(row.Fields(u"host").text());
+    for (Recordset row = base_datos.OpenRecordset(u"select * from host where pid = " + to_text(pid_form));
+         !row.eof(); row.MoveNext())
+        List1.add_item(row.Fields(u"host").text());
+}
+
+void Form7::Form_Unload() {
+    marcar_forma(screen_number, false);
+}
+
+bool Form7::principal_valido() {
+    const auto refuse = [](const Text& message) {
+        MsgBox(message);
+        return false;
+    };
+    if (!contains(Text2.text(), scheme)) return refuse(u"URL must have 'http://'");
+    Text2.text = Trim(Text2.text());
+    if (Text2.text() == placeholder()) return refuse(u"You must enter an URL to host the gateway pages");
+    const Text main_host = LCase(Text2.text());
+    const auto same = [&](const Text& other) { return LCase(Trim(other)) == main_host; };
+    if (std::any_of(List1.entries().begin(), List1.entries().end(), same))
+        return refuse(u"Main host can't be the same as Other Host!");
+    if (ends_in_slash(Text2.text())) return refuse(u"Main Gateway Domain can't end in / or \\");
+    return true;
+}
+
+void Form7::Command1_Click() {
+    if (!principal_valido()) return;
+    base_datos = open_hive();
+    if (trim_view(Text2.text()).empty()) { // a safety only
+        MsgBox(u"Main Gateway Domain to Host is not valid!");
+        return;
+    }
+    base_datos.Execute(u"delete from host1 where pid = " + to_text(pid_form));
+    base_datos.Execute(u"insert into host1 ( pid , host ) values ( " + to_text(pid_form) + u" , '" +
+                       Text2.text() + u"' ) ");
+    screens().bring_forward<Form6>(); // as it is, when it is loaded
+}
+
+bool Form7::entrada_valida() {
+    const auto refuse = [this](const Text& message) {
+        MsgBox(message);
+        Text1.set_focus();
+        return false;
+    };
+    if (!contains(Text1.text(), scheme)) return refuse(u"URL must have 'http://'");
+    if (Left(LCase(Trim(Text1.text())), Len(scheme)) != scheme)
+        return refuse(u"URL must start with 'http://'");
+    if (Len(Text1.text()) == Len(scheme)) return refuse(u"URL must contain a site");
+    return !trim_view(Text1.text()).empty();
+}
+
+void Form7::Command2_Click() {
+    if (!entrada_valida()) return;
+    if (ends_in_slash(Text1.text())) Text1.text = Left(Text1.text(), Len(Text1.text()) - 1); // one, silently
+    // Exactly 19: the main directory is the twentieth, and a longer list from the store takes more.
+    if (List1.list_count() == 19) {
+        MsgBox(u"You can define just 20 domain names");
+        return;
+    }
+    base_datos = open_hive();
+    if (!base_datos
+             .OpenRecordset(u"select * from host where host = '" + Text1.text() + u"' and pid = " +
+                            to_text(pid_form))
+             .eof()) {
+        MsgBox(u"You can't define 2 equal host");
+        return;
+    }
+    estado = 1;
+    if (trim_view(Text1.text()) == trim_view(Text2.text())) {
+        estado = 2;
+        MsgBox(u"You can't define the same URL in Main Host and other Domain/Directory");
+    }
+    if (estado != 1) return;
+    base_datos = open_hive();
+    base_datos.Execute(u"insert into host ( pid , host ) values ( " + to_text(pid_form) + u" , '" +
+                       Text1.text() + u"' ) ");
+    List1.add_item(Text1.text());
+    Text1.set_focus(); // keeps its text, ready for a variation
+}
+
+void Form7::Command3_Click() {
+    base_datos.Execute(u"delete from host where pid = " + to_text(pid_form) + u" and host= '" + List1.text() +
+                       u"' ");
+    if (List1.list_index() >= 0) List1.remove_item(List1.list_index());
+}
+
+void Form7::Command7_Click() {
+    mostrar_ayuda(u"form7");
+}
+
+} // namespace twk

@@ -1,0 +1,82 @@
+#include "inputs/form8.h"
+
+#include "engine/text_toolkit.h"
+#include "inputs/form3.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "shell/form2.h"
+#include "shell/module1.h"
+#include "store/stores.h"
+
+namespace twk {
+
+namespace {
+
+constexpr int screen_number = 8;
+
+const Text& selected_keyword() {
+    return screen<Form3>().List1.text();
+}
+
+} // namespace
+
+void Form8::enumerate(ScreenMap& map) {
+    map.control("Label1", Label1);
+    map.control("Text1", Text1);
+    map.control("Command2", Command2);
+    map.control("Command3", Command3);
+    map.control("Command1", Command1);
+    map.event("Command1", "Click", [this] { Command1_Click(); });
+    map.event("Command2", "Click", [this] { Command2_Click(); });
+    map.event("Command3", "Click", [this] { Command3_Click(); });
+}
+
+void Form8::Form_Load() {
+    marcar_forma(screen_number, true);
+    const Text keyword = selected_keyword();
+    const Text project = screen<Form2>().txt_name[0].text();
+    Label1.caption = u"Synonyms for " + keyword;
+    base_datos_ = open_hive();
+    sinonimos_ = open_synonyms();
+    for (
+        Recordset row = base_datos_.OpenRecordset(
+            u"select Projects.pid as X1 , keywords.keyid as X2 , keywords.pid as X3 from Projects , keywords "
+            u"where name = '" +
+            project + u"' and keyword = '" + keyword + u"' and Projects.name = '" + project + u"'");
+        !row.eof(); row.MoveNext()) {
+        pid_form_ = CInt(row.Fields(u"x1").number());
+        keyid_form_ = CInt(row.Fields(u"X2").number());
+    }
+    for (Recordset row =
+             sinonimos_.OpenRecordset(u"select * from synonyms  where keyword = '" + keyword + u"'");
+         !row.eof(); row.MoveNext()) {
+        // A word of the dictionary that has no synonyms yet shows none.
+        const Field synonyms = row.Fields(u"synonyms");
+        Text1.text = synonyms.is_null() ? Text() : synonyms.text();
+    }
+}
+
+void Form8::Form_Unload() {
+    marcar_forma(screen_number, false);
+}
+
+void Form8::Command1_Click() {
+    screens().unload<Form8>();
+}
+
+void Form8::Command2_Click() {
+    if (trim_view(Text1.text()).empty()) return;
+    base_datos_ = open_hive();
+    // Always a further row, also for a word that has one.
+    sinonimos_.Execute(u"insert into synonyms  ( keyword , synonyms  ) values ( '" +
+                       Trim(selected_keyword()) + u"' , '" + preparar_texto(Text(Text1.text())) + u"' ) ");
+    screens().unload<Form8>();
+}
+
+void Form8::Command3_Click() {
+    sinonimos_.Execute(u"delete from synonyms  where keyword = '" + Trim(selected_keyword()) +
+                       u"' and synonyms  = '" + Text1.text() + u"' ");
+    Text1.text = u"";
+}
+
+} // namespace twk

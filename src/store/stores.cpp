@@ -1,0 +1,19 @@
+#include "store/stores.h"
+
+#include "platform/desktop.h"
+
+namespace twk {
+
+Text beside_program(TextView file) {
+    return app_path() + Text(path_separator) + Text(file);
+}
+
+Database open_hive() {
+    return OpenDatabase(beside_program(u"hive.mdb"), false, false, u";pwd=lantern4821");
+}
+
+Database open_synonyms() {
+    return OpenDatabase(beside_program(u"synonyms.mdb"), false, false);
+}
+
+} // namespace twk
