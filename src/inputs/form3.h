@@ -1,9 +1,11 @@
 #pragma once
 
+#include "platform/files.h"
 #include "platform/screens.h"
 #include "store/database.h"
 
 #include <array>
+#include <cstdint>
 
 namespace twk {
 
@@ -14,11 +16,16 @@ class Form3 {
     static constexpr const char* name = "Form3";
     static constexpr TextView title = u"Step 2 of 6 - Keywords";
 
-    Form3() {
-        List1.multi_select = true;
-        List2.multi_select = true;
-    }
+    Form3();
 
+    Label lbl_keywords{u"Keywords / Keyword Phrases."};
+    Label lbl_intro{
+        u"You can create 3 kinds of gateway pages: first level (based on primary keywords),  second level "
+        u"(based in subkeywords) and random (all keywords). Each type of page has different structure "
+        u"and linking profile. Use all the possible, relevant keywords."};
+    Label lbl_advice{
+        u"Use Keywords or keyword phrases for important concepts and add SubKeywords to them for added "
+        u"weight."};
     TextBox Text1; ///< keyword entry
     ListBox List1; ///< the keywords, in store order, then in order of adding
     CommandButton Command2{u"&Add Keyword"};
@@ -29,11 +36,15 @@ class Form3 {
     CommandButton Command3{u"A&dd SubKeyword"};
     CommandButton Command22{u"Edit SubKeyword"};
     CommandButton Command10{u"Delete &SubKeyword"};
+    Label lbl_keyw{u"Keywords: "}, lbl_skeyw{u"Subkeywords:"};
     Label keyw, skeyw; ///< counts of the two lists
     CommandButton Command8{u"E&dit Synonym for this Keyword"};
     CommandButton Command6; ///< opens the spider
+    CommandButton cmd_wizard{u"Keyword Wizard"};
+    CommandButton cmd_wizard_sub{u"Subkeyword Wizard"};
     CommandButton Command5{u"&Next"};
     CommandButton Command1{u"&Help"};
+    Label lbl_copy{u"Use keywords from another project?"};
     ComboBox Combo1{u"Pick a project"};
 
     // Moving a subkeyword
@@ -51,6 +62,7 @@ class Form3 {
     CommandButton Command12{u">>"};
     Frame Frame2{u"Move Keywords and Subkeywords"};
     Label Label10{u"xxxxxxxxxxxxxxxxxxxxxxxxxxxx"};
+    Label lbl_pick{u"Pick a keyword from this list."};
     ListBox List4;
     CommandButton Command16{u"Move this Keyword"};
     CommandButton Command18{u"Cancel"};
@@ -64,17 +76,95 @@ class Form3 {
     DirListBox Dir2;
     FileListBox File2{u"*.exp"};
     std::array<OptionButton, 2> op_imp{OptionButton{u"Exported file", true}, OptionButton{u"General"}};
+    Label lbl_separator{u"Separation Method:"};
     ComboBox Cmb_separator{u"Enter"};
     CommandButton Command20{u"&Import"};
     CommandButton Command19{u"&Cancel"};
-    Frame Frame4{u"Import Keywords"}; ///< "Please Wait......."
+    Frame Frame4{u"Import Keywords"};
+    Label lbl_wait{u"Please Wait......."};
     CommonDialog CommonDialog1;
 
     void enumerate(ScreenMap& map);
     void Form_Load();
     void Form_Unload();
+
+    void Text1_Click(); ///< entering the box ends the selection of List1
+    void Text2_Change() {}
+    void List1_Click();
+    void List2_Click();
+    void Command2_Click();
+    void Command21_Click();
+    void Command7_Click();
+    void Command3_Click();
+    void Command22_Click();
+    void Command10_Click();
+    void Command8_Click();
+    void Command6_Click();
+    void cmd_wizard_Click();
+    void cmd_wizard_sub_Click();
+    void Command5_Click();
+    void Command1_Click();
+
+    void Command11_Click();
+    void Command12_Click();
+    void Option1_Click(int index);
+    void Command13_Click();
+    void Command14_Click();
+    void Command15_Click();
+    void Command16_Click();
+    void Command17_Click();
+    void Command18_Click();
+    void Combo1_Click();
+
+    void cmd_import_Click();
+    void Command4_Click();
+    void Drive2_Change();
+    void Dir2_Change();
+    void op_imp_Click(int index);
+    void Command19_Click();
+    void Command20_Click();
+
     /// Adds a keyword as if typed.
     void agregar_keyword(TextView palabra);
+
+    std::int16_t pid_form = 0; ///< key of the project as read at load
+    std::int16_t keyid = 0;    ///< key of the keyword selected last
+    int estado = 1;            ///< 1 at the start of a check, 2 once a check has refused
+    std::int16_t silencio = 0; ///< 1 while importing: some refusals of keywords are not shown
+
+  private:
+    void enumerate_moves(ScreenMap& map);
+    void enumerate_lists(ScreenMap& map);
+    void abrir();
+    void refrescar_cuentas();
+    /// Shows the message unless the silent switch is on.
+    void avisar(TextView mensaje) const;
+    /// Rows of the project's keyword of that name.
+    Recordset filas_keyword(const Text& palabra);
+    /// Key of the project's keyword of that name, 0 when there is none.
+    std::int16_t buscar_keyid(const Text& palabra);
+    bool demasiadas_palabras();
+    bool borrar_keyword(const Text& palabra);
+    void quitar_keyword(int index);
+    bool hay_elemento(std::int16_t catid, const Text& palabra);
+
+    void llenar_proyectos();
+    void abrir_movimiento(ListBox& from, ListBox& to, Label& label, TextView what, Frame& frame);
+    void mover_como_keyword(const Text& palabra);
+    void mover_como_subkeyword(const Text& palabra);
+    bool mover_subkeywords(std::int16_t from, const Text& destination);
+    void borrar_elemento(const Text& palabra);
+
+    void exportar();
+    void exportar_keyword(TextStream& out, int number, const Text& palabra);
+    void importar(const Text& path);
+    void importar_general(const Text& path);
+    void importar_exportado(const Text& path);
+    void importar_linea(const Text& line, std::int16_t& current);
+
+    Database base_datos_;
+    std::int16_t encontrada_ = 0; ///< while copying: the current keyword is here already
+    std::int16_t alguna_ = 0;     ///< while copying: at least one was
 };
 
 } // namespace twk

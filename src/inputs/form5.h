@@ -1,16 +1,90 @@
 #pragma once
 
+#include "engine/run.h"
+#include "platform/addresses.h"
 #include "platform/screens.h"
+#include "store/database.h"
+
+#include <array>
+#include <cstdint>
 
 namespace twk {
 
-/// Step 3: the content boxes.
+/// Step 3: the content boxes, their ties to keywords, and the critic that judges the box in the editor.
 class Form5 {
   public:
     static constexpr const char* name = "Form5";
     static constexpr TextView title = u"Step 3 of 6 - Content";
+    static constexpr TextView critic_at_rest = u"Click a content box from the list to calculate.";
+
+    Form5();
+
+    Label Label1{
+        u"Fill one or more Content Boxes to supply content to your gateway pages.  You can copy and paste "
+        u"(Ctrl + V) from other sources. <html tags> are allowed. "};
+    RichTextBox rt1; ///< the box editor
+    ListBox List1;   ///< the project's boxes
+    CommandButton Command2{u"Add"};
+    CommandButton Command5{u"Save"};
+    CommandButton Command3{u"Delete"};
+    CommandButton Command8{u"Clear Box"};
+    CommandButton Command11{u"Font"};
+    CommandButton cmdshow{u"Show-Html"};
+    Label Label6{u"Keywords from this project:"};
+    ComboBox lstkeyword{u"Pick a keyword"}; ///< entries "keyid-keyword"
+    CommandButton cmdtie{u"Tie"};
+    Label Label4{u"Import other project's content boxes."};
+    ComboBox combo1{u"Pick a project"};
+    CommandButton Command7{u"Use"};
+    Label Label2{u"Use the Browser to pick up available text from the WWW."};
+    CommandButton Command4{u"Go"};
+    TextBox Text2{Text(addresses::maker_site)}; ///< start address of the browser
+    CommandButton Command9{u"Help"};
+    CommandButton Command1{u"Next"};
+    Frame Frame1{u"Content Critic"};
+    TextBox Text3; ///< the critic's report
+    CheckBox Check1{u"", true};
+    Label Label5{u"Activate Content Critic"};
+    CommandButton Command6{u"Refresh Content Critic"};
+    Label Label3{u"Content Critic cleans the text from invalid characters. Press 'Save' after use."};
+    CommonDialog CommonDialog1;
 
     void enumerate(ScreenMap& map);
+    void Form_Load();
+    void Form_Unload();
+    void List1_Click();
+    void Command1_Click();
+    void Command2_Click();
+    void Command3_Click();
+    void Command4_Click();
+    void Command5_Click();
+    void Command6_Click();
+    void Command7_Click();
+    void Command8_Click();
+    void Command9_Click();
+    void Command11_Click();
+    void cmdshow_Click();
+    void cmdtie_Click();
+
+    /// Reads the boxes anew and empties the editor. Fault 9 past 101 boxes.
+    void refrescar_cajas();
+    /// Judges the box in the editor, and cleans its text there.
+    void criticar();
+
+    std::array<Text, max_boxes> caja_texto; ///< stored text of the box in the same position of List1
+    std::array<Text, max_boxes> caja_cid;   ///< its key, as text
+    KeywordTable tabla_kw;                  ///< the keywords; the critic lower-cases those it has counted
+    std::int16_t pid_form = 0;
+    Text RTAux; ///< text of the box as last saved or selected
+
+  private:
+    void llenar_tabla();
+    void escribir_contenido(Recordset& row);
+    void importar_cajas(const Text& project);
+
+    Database base_datos_;
+    Text texto_critico_; ///< text that the critic works on
+    Text informe_;       ///< its report
 };
 
 } // namespace twk

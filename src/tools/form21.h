@@ -4,13 +4,23 @@
 
 namespace twk {
 
-/// Previews a content box.
+/// Previews a content box as a page and lets its HTML be edited.
 class Form21 {
   public:
     static constexpr const char* name = "Form21";
     static constexpr TextView title = u"Web Browser";
 
+    WebBrowser WebBrowser1;
+    TextBox Text1; ///< the HTML of the box
+    CommandButton cmdrefresh{u"Refresh"};
+    CommandButton cmdgoback{u"Go Back"};
+
     void enumerate(ScreenMap& map);
+    void cmdrefresh_Click();
+    void cmdgoback_Click();
 };
+
+/// Path of the file that a preview is shown from.
+Text preview_file();
 
 } // namespace twk

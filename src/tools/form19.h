@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/screens.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace twk {
+
+/// Asks a term suggestion service for terms related to the project's keywords. Whoever shows it sets
+/// `modo_asistente` and calls `tomar_web`.
+class Form19 {
+  public:
+    static constexpr const char* name = "Form19";
+    static constexpr TextView title = u"Keywords Wizard";
+
+    Form19() { List1.tick_marks = true; }
+
+    WebBrowser wb1;
+    Label Label4{u"This list of keywords and subkeywords can be usefull in your project."};
+    ListBox List1; ///< the suggestions
+    CommandButton Command5{u"Use keywords"};
+    CommandButton Command1{u"Help"};
+    CommandButton Command4{u"Cancel"};
+    Frame Frame2{u"Help"};
+    Label Label7{u"Keyword Wizard"};
+    Label Label6{
+        u"This feature provides you a list of suggested keywords and subkeywords for your project according "
+        u"to the keywords you have previously added. Just check or uncheck the keywords you want to export "
+        u"from this screen into your keywords list by clicking \"Use Keywords\"."};
+    CommandButton Command11{u"Close"};
+
+    void enumerate(ScreenMap& map);
+    void Form_Load();
+    void Command1_Click();
+    void Command4_Click();
+    void Command5_Click();
+    void Command11_Click();
+
+    /// Runs the lookups of the current mode.
+    void tomar_web();
+    /// One lookup. A suggestion without "&mkt" behind its term is fault 5.
+    void buscar_termino(const Text& termino);
+
+    std::int16_t modo_asistente = 1; ///< 1 keywords, 2 subkeywords
+    /// Mode 2: the words to look up in column 0, behind each the suggestions found.
+    std::vector<std::vector<Text>> tabla_asistente;
+
+  private:
+    bool esperar_navegador();
+    void tomar_sugerencia(const Text& address, const Text& termino);
+    bool conocida(const Text& sugerencia) const;
+
+    int indice_ = -1; ///< entry of Step 2's list that is looked up
+    int fila_ = -1;   ///< row of `tabla_asistente`, likewise
+};
+
+} // namespace twk
