@@ -1,0 +1,112 @@
+#include "engine/synonyms.h"
+
+#include "engine/run.h"
+#include "engine/text_toolkit.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/faults.h"
+#include "platform/numbers.h"
+#include "store/database.h"
+
+#include <algorithm>
+#include <map>
+#include <unordered_map>
+
+namespace twk {
+
+namespace {
+
+/// The dictionary twice, by keyword and by synonym, row by row side by side. A word is looked up in the rows
+/// from the first on: the first row where it equals, in lower case, the keyword of one order or the synonym
+/// of the other.
+class Dictionary {
+  public:
+    void add(Text clave_k, Text sinonimo_k, Text sinonimo_s, Text clave_s) {
+        const std::size_t j = rows_.size();
+        by_keyword_.emplace(LCase(clave_k), j);
+        by_synonym_.emplace(LCase(sinonimo_s), j);
+        rows_.push_back(
+            {first_letter(clave_k), first_letter(sinonimo_s), std::move(sinonimo_k), std::move(clave_s)});
+    }
+
+    /// What stands for the word; null when nothing does.
+    const Text* find(TextView word) {
+        const Text plain = LCase(word);
+        const std::size_t k = row_of(by_keyword_, plain);
+        const std::size_t s = row_of(by_synonym_, plain);
+        const std::size_t first = std::min(k, s);
+        if (first == none || first > last_row(first_letter(plain))) return nullptr;
+        return k <= s ? &rows_[k].sinonimo_k : &rows_[s].clave_s; // the keyword's row comes first
+    }
+
+  private:
+    struct Row {
+        Text letter_k, letter_s; ///< first letters, lower case
+        Text sinonimo_k, clave_s;
+    };
+    using Index = std::unordered_map<Text, std::size_t>;
+    static constexpr std::size_t none = static_cast<std::size_t>(-1);
+
+    static Text first_letter(TextView word) { return LCase(word.substr(0, 1)); }
+
+    static std::size_t row_of(const Index& index, const Text& word) {
+        const auto found = index.find(word);
+        return found == index.end() ? none : found->second;
+    }
+
+    /// The row at which the search for words of this letter ends: the first whose letters both lie behind it.
+    std::size_t last_row(const Text& letter) {
+        const auto [known, fresh] = last_rows_.try_emplace(letter, rows_.size() - 1);
+        if (fresh)
+            for (std::size_t j = 0; j < rows_.size(); ++j)
+                if (!rows_[j].letter_k.empty() && rows_[j].letter_k > letter && rows_[j].letter_s > letter) {
+                    known->second = j;
+                    break;
+                }
+        return known->second;
+    }
+
+    std::vector<Row> rows_;
+    Index by_keyword_, by_synonym_;
+    std::map<Text, std::size_t> last_rows_;
+};
+
+Dictionary read_dictionary() {
+    const Text sep(path_separator);
+    Database sinonimos = OpenDatabase(app_path() + sep + u"synonyms.mdb", false, false);
+    Recordset k =
+        sinonimos.OpenRecordset(u"select * from synonyms where synonyms  <> '' order by keyword asc");
+    Recordset s =
+        sinonimos.OpenRecordset(u"select * from synonyms where synonyms  <> '' order by synonyms  asc");
+    Dictionary dictionary;
+    for (; !k.eof() && !s.eof(); k.MoveNext(), s.MoveNext())
+        dictionary.add(k.Fields(u"keyword").text(), k.Fields(u"synonyms").text(),
+                       s.Fields(u"synonyms").text(), s.Fields(u"keyword").text());
+    return dictionary;
+}
+
+/// Per cent of the text to be rewritten: the seconds of the clock, at least 20.
+double share() {
+    return std::max(20.0, Val(Left(Right(ahora(), 7), 2)));
+}
+
+} // namespace
+
+Text sinonimo(Run&, const Text& texto) {
+    Dictionary dictionary = read_dictionary();
+    Text t = Replace(Replace(texto, u"<", u" <"), u">", u"> ");
+    quitar_dobles(t);
+    const std::vector<TextView> palabras_texto = split_views(t);
+    const int n = static_cast<int>(palabras_texto.size()) - 1;
+    const int m = static_cast<int>(Round(n * share() / 100));
+    Text out;
+    out.reserve(t.size() + t.size() / 8);
+    for (int i = 0; i <= n; ++i) {
+        const TextView pieza = palabras_texto[static_cast<std::size_t>(i)];
+        const Text* const other = i <= m ? dictionary.find(pieza) : nullptr;
+        out.append(other != nullptr ? TextView(*other) : pieza).append(1, u' ');
+    }
+    return Trim(out);
+}
+
+} // namespace twk
