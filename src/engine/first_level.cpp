@@ -30,22 +30,6 @@ void write_title(Run& run, const Text& keyword) {
     run.writeline(u"<html><head><title>" + title + u"</title>");
 }
 
-void no_table(Run& run) {
-    const Text& keyword = run.tabla_kw.at(run.indice_kw);
-    run.writeline(u"<center><a href=\"" + target(run) + u"\">");
-    run.writeline(heading_pair(run, keyword));
-    run.writeline(phrase_line(run, keyword));
-    run.writeline(captions(run));
-    run.writeline(TP1_linktoprimary(run));
-    run.writeline(TP1_linktosecondary(run));
-    run.writeline(TP1_content(run, run.indice_kw));
-    write_first_level_image(run);
-    run.writeline(TP1_hiddenform(run));
-    run.writeline(link_line(run, u"h4") + u"<br>");
-    perhaps_flash(run, run.main_folder, run.lista_kw);
-    run.writeline(TP1_elresto(run));
-}
-
 void write_page(Run& run) {
     const Text keyword = run.tabla_kw.at(run.indice_kw);
     const Text file = rspaces(run.form, keyword) + run.extension;
@@ -56,7 +40,7 @@ void write_page(Run& run) {
     run.writeline(u"");
     run.writeline(body(run));
     switch (template_index(run)) {
-    case 0: no_table(run); break;
+    case 0: first_level_no_table(run); break;
     case 1: first_level_table1(run); break;
     case 2: first_level_table2(run); break;
     case 3: first_level_table3(run); break;

@@ -36,17 +36,6 @@ void write_title(Run& run, const Text& sub) {
     run.writeline(u"<html><head><title>" + title + u"</title>");
 }
 
-void no_table(Run& run) {
-    run.writeline(body(run));
-    run.writeline(second_level_url_comment(run));
-    run.writeline(u"<center><a href=\"" + target(run) + u"\">");
-    write_link_stack(run, u"h2", false);
-    run.writeline(u"<h1>" + run.proyecto.site_name + u"</h1></a>" + captions(run));
-    write_content_block(run, true, false);
-    write_second_level_end(run, run.n_keywords);
-    write_custom_box(run);
-}
-
 void write_page(Run& run, const Text& keyword) {
     const Text sub = run.subkw_actual;
     run.nombre_relativo = rspaces(run.form, keyword) + run.separador + rspaces(run.form, sub) + run.extension;
@@ -57,7 +46,7 @@ void write_page(Run& run, const Text& keyword) {
     meta(run, sub, Mid(run.lista_kw, 4));
     run.writeline(u"");
     switch (template_index(run)) {
-    case 0: no_table(run); break;
+    case 0: second_level_no_table(run); break;
     case 1: second_level_table1(run); break;
     case 2:
     case 3: second_level_table23(run); break;
