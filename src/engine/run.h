@@ -85,9 +85,9 @@ struct Run {
     Text texto_pagina;
 
     // Random pages
-    std::vector<Text> fuente; ///< the content pool, every box twice
-    std::vector<Text> fuente_aux;
-    std::vector<Text> seleccion; ///< boxes drawn for a page; not emptied between pages
+    static constexpr int nothing = -1;
+    std::vector<int> fuente;    ///< the content pool: every box of `contenidos` twice
+    std::vector<int> seleccion; ///< boxes drawn for a page, or `nothing`; not emptied between pages
     std::int16_t n_fuente = 0;
     std::int16_t es_js = 0;
     Text carpeta;  ///< folder of the destination

@@ -1,0 +1,116 @@
+#include "engine/random_content.h"
+
+#include "engine/decorations.h"
+#include "engine/density.h"
+#include "engine/fragments.h"
+#include "engine/generation.h"
+#include "engine/run.h"
+#include "engine/surplus.h"
+#include "engine/synonyms.h"
+#include "engine/text_toolkit.h"
+#include "platform/chance.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+
+#include <numeric>
+
+namespace twk {
+
+namespace {
+
+constexpr int long_text = 10000; ///< units; a text of exactly so many is neither long nor short
+
+/// Draws the boxes of a page into `seleccion`; returns how many. No place of the pool is drawn twice.
+int draw_boxes(Run& run) {
+    std::vector<int> fuente_aux = run.fuente;
+    const int m = xrnum2(run.n_fuente);
+    for (int k = 0; k < m; ++k) {
+        const int r = xrnum2(static_cast<std::int16_t>(run.n_fuente - k));
+        run.seleccion[static_cast<std::size_t>(k)] = fuente_aux[static_cast<std::size_t>(r)];
+        fuente_aux.erase(fuente_aux.begin() + r);
+    }
+    return m;
+}
+
+/// The boxes 0 to m: the last one was not drawn for this page, so it is what an earlier page left there.
+Text joined_boxes(const Run& run, int m) {
+    Text s;
+    for (int i = 0; i <= m; ++i) {
+        s += u" <p><!-- Still Info --> ";
+        const int box = run.seleccion[static_cast<std::size_t>(i)];
+        if (box != Run::nothing) s += run.contenidos[static_cast<std::size_t>(box)];
+    }
+    return s;
+}
+
+/// Draws the densities of a text; at exactly the limit those of the page before stay.
+void draw_densities(Run& run, const Text& s) {
+    const GatewaySettings& bounds = run.settings;
+    if (Len(s) > long_text) {
+        run.d1 = xrnum2(bounds.tope_largo1);
+        run.d2 = xrnum2(bounds.tope_largo2);
+    } else if (Len(s) < long_text) {
+        run.d1 = xrnum2(bounds.tope_corto1);
+        run.d2 = xrnum2(bounds.tope_corto2);
+    }
+}
+
+/// Fits the text to a drawn keyword, in `below` of ten cases.
+void perhaps_adjust(Run& run, Text& s, int below, std::int16_t density) {
+    if (xrnum2(10) >= below) return;
+    const Text keyword = run.tabla_kw.at(xrnum2(run.n_keywords));
+    s = Ajustar_KW(run, s, keyword, density);
+}
+
+/// Of every keyword the first `kept` occurrences stay.
+void limit_keywords(Run& run, Text& s, int kept) {
+    ++run.cuenta_archivos;
+    for (int i = 0; i < run.n_keywords; ++i) {
+        status(run, u"Updating Random-Generated Page " + to_text(i) + u"/" + to_text(run.n_keywords) +
+                        u" done for file " + to_text(run.cuenta_archivos));
+        DoEvents();
+        Text& keyword = run.tabla_kw.cell(i);
+        const std::int16_t n = contar_kw(s, keyword);
+        if (!keyword.empty() && n >= kept) replace_last(s, keyword, run.settings.kw_sustituto, n - kept);
+    }
+}
+
+} // namespace
+
+void fill_content_pool(Run& run) {
+    const int u = run.ultima_caja;
+    run.fuente.assign(static_cast<std::size_t>(2 * u + 3), Run::nothing);
+    for (int i = 0; i <= u; ++i) run.fuente[static_cast<std::size_t>(i)] = i;
+    for (int j = 1; j <= u + 1; ++j) run.fuente[static_cast<std::size_t>(u + j)] = j - 1;
+    run.seleccion.assign(run.fuente.size(), Run::nothing);
+    run.n_fuente = static_cast<std::int16_t>(2 * u); // the last entry is never drawn
+}
+
+Text tp3_content(Run& run) {
+    const Form6& form = run.form;
+    Text s = joined_boxes(run, draw_boxes(run));
+    if (form.Check4.value() && percent_draw() < 35) {
+        Text words = Trim(Replace(run.lista_kw, u",", u""));
+        flash(run, words);
+    }
+    if (xrnum2(30) > 15 && form.Check3.value()) s += hidden_list(run);
+    draw_densities(run, s);
+    replace_all(s, u". ", u". <p>");
+    perhaps_adjust(run, s, 7, run.d1);
+    status(run, u"Optimizing Random-Generated Pages [1/2] ");
+    DoEvents();
+    status(run, u"Optimizing Random-Generated Pages [2/2] ");
+    DoEvents();
+    perhaps_adjust(run, s, 4, run.d2);
+    const int kept = xrnum(40);
+    if (form.Check8.value()) limit_keywords(run, s, kept);
+    if (form.Check6.value()) s = highLight(run, s);
+    return font_line(run) + u"<p>" + s + u"<p></font>";
+}
+
+Text random_content(Run& run) {
+    const Text text = tp3_content(run);
+    return run.form.Check5.value() ? sinonimo(run, text) : text;
+}
+
+} // namespace twk
