@@ -32,6 +32,7 @@ Failure failure_of(int error) {
     case EPERM:
     case EROFS: return {fault_file_permission, u"Permission denied"};
     case ENOSPC:
+    case EFBIG:
     case EDQUOT: return {fault_disk_full, u"Disk full"};
     case EISDIR:
     case EEXIST:
@@ -80,18 +81,39 @@ std::string read_bytes(const Text& path) {
     return bytes;
 }
 
-/// Writes the whole file. When that fails half-way, a file that was made for it is taken away again.
+int write_all(int file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t put = ::write(file, bytes.data(), bytes.size());
+        if (put < 0 && errno != EINTR) return errno;
+        if (put > 0) bytes.remove_prefix(static_cast<std::size_t>(put));
+    }
+    return 0;
+}
+
+/// Takes the room that the bytes need before the first of them is written, so that a full disk leaves the
+/// file as it was. Returns an error number, 0 for none.
+int reserve(int file, std::size_t size) {
+    struct stat before {};
+    if (::fstat(file, &before) != 0) return errno;
+    if (size == 0 || !S_ISREG(before.st_mode)) return 0;
+    const int error = ::posix_fallocate(file, 0, static_cast<off_t>(size));
+    if (error == EOPNOTSUPP || error == EINVAL) return 0; // no such service on this disk
+    if (error != 0 && ::ftruncate(file, before.st_size) != 0) return errno;
+    return error;
+}
+
+/// Writes the whole file. Where the disk is full nothing is written: what was there stays, and a file that
+/// was made for it is taken away again.
 void write_bytes(const Text& path, std::string_view bytes) {
     const std::string name = disk_path(path);
     const bool there = ::access(name.c_str(), F_OK) == 0;
-    const int file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-    if (file < 0) fail(errno, path);
-    int error = 0;
-    while (!bytes.empty() && error == 0) {
-        const ssize_t put = ::write(file, bytes.data(), bytes.size());
-        if (put < 0 && errno != EINTR) error = errno;
-        if (put > 0) bytes.remove_prefix(static_cast<std::size_t>(put));
-    }
+    const int file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+    if (file < 0) fail(errno == ENOENT ? ENOTDIR : errno, path);
+    int error = reserve(file, bytes.size());
+    if (error == 0) error = write_all(file, bytes);
+    // A device has no length to set.
+    if (error == 0 && ::ftruncate(file, static_cast<off_t>(bytes.size())) != 0 && errno != EINVAL)
+        error = errno;
     if (::close(file) != 0 && error == 0) error = errno;
     if (error != 0) {
         if (!there) ::unlink(name.c_str());
@@ -325,7 +347,10 @@ void Fence::check(const Text& path) const {
     std::error_code error;
     const fs::path root = fs::weakly_canonical(disk_path(folder_), error);
     if (error) fenced(path);
-    const fs::path place = fs::weakly_canonical(disk_path(path), error);
+    const std::string name = disk_path(path);
+    // A link that leads nowhere yet would make its target when it is written.
+    if (fs::is_symlink(fs::symlink_status(name, error)) && !fs::exists(name, error)) fenced(path);
+    const fs::path place = fs::weakly_canonical(name, error);
     if (error) fenced(path);
     const auto [end, at] = std::mismatch(root.begin(), root.end(), place.begin(), place.end());
     if (end != root.end() || at == place.end()) fenced(path);

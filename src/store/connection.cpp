@@ -56,6 +56,15 @@ void refuse_foreign_text(const Text& statement) {
     if (quoted) malformed(statement, "a quote is not closed");
 }
 
+/// Lets through statements that begin with one of the words, and so none that opens a transaction.
+void require_first_word(const Text& statement, std::initializer_list<TextView> words) {
+    const std::size_t begin = std::min(statement.find_first_not_of(u" \t\r\n"), statement.size());
+    const std::size_t end = std::min(statement.find_first_of(u" \t\r\n", begin), statement.size());
+    const TextView first = TextView(statement).substr(begin, end - begin);
+    if (std::none_of(words.begin(), words.end(), [&](TextView word) { return same_text(word, first); }))
+        malformed(statement, "it does not begin as one that is known here");
+}
+
 Field::Value column_value(sqlite3_stmt* statement, int column) {
     switch (sqlite3_column_type(statement, column)) {
     case SQLITE_NULL: return std::monostate();
@@ -124,10 +133,10 @@ int Connection::step(sqlite3_stmt* statement) {
 }
 
 Connection::Rows Connection::select(const Text& text) {
+    require_first_word(text, {u"select"});
     const Statement statement = prepare(text);
     Rows result;
     const int columns = sqlite3_column_count(statement.get());
-    if (columns == 0) malformed(text, "it gives no rows");
     for (int i = 0; i < columns; ++i) {
         std::string name = sqlite3_column_name(statement.get(), i);
         std::transform(name.begin(), name.end(), name.begin(),
@@ -143,9 +152,10 @@ Connection::Rows Connection::select(const Text& text) {
 }
 
 void Connection::change(const Text& text) {
+    require_first_word(text, {u"insert", u"update", u"delete"});
     if (!parse_join_delete(to_utf8(text)).tables.empty()) return delete_joined(text);
     const Statement statement = prepare(text);
-    if (sqlite3_column_count(statement.get()) != 0) malformed(text, "it changes nothing");
+    if (sqlite3_column_count(statement.get()) != 0) malformed(text, "it gives rows");
     step(statement.get());
 }
 
@@ -165,9 +175,9 @@ void Connection::delete_joined(const Text& text) {
     const JoinDelete parts = parse_join_delete(to_utf8(text));
     const std::string& a = parts.tables[0];
     const std::string& b = parts.tables[1];
-    const Statement begin = prepare_own("savepoint joined");
-    const Statement keep = prepare_own("release joined");
-    const Statement back = prepare_own("rollback to joined");
+    const Statement begin = prepare_own("begin immediate");
+    const Statement keep = prepare_own("commit");
+    const Statement back = prepare_own("rollback");
     step(begin.get());
     try {
         const Statement matches = prepare_own("select " + a + ".rowid , " + b + ".rowid from " + a + " , " +
@@ -190,7 +200,6 @@ void Connection::delete_joined(const Text& text) {
         step(keep.get());
     } catch (...) {
         sqlite3_step(back.get());
-        sqlite3_step(keep.get());
         throw;
     }
 }

@@ -143,6 +143,8 @@ Database OpenDatabase(const Text& path, bool exclusive, bool read_only, const Te
     (void)exclusive; // stores are opened shared
     static std::map<std::string, std::weak_ptr<Connection>> open;
     if (!file_exists(path)) throw RuntimeFault(fault_store_missing, u"Could not find file '" + path + u"'.");
+    // An empty file would pass for a store without tables.
+    if (FileLen(path) == 0) throw RuntimeFault(fault_store, u"Unrecognized database format '" + path + u"'.");
     std::error_code error;
     const std::string file = std::filesystem::canonical(disk_path(path), error).string();
     const std::string key =
