@@ -177,13 +177,15 @@ TextView origin_of(TextView address) {
 Text without_dots(TextView path) {
     const std::size_t query = std::min(path.find_first_of(u"?#"), path.size());
     std::vector<TextView> kept;
-    for (const TextView part : split_views(path.substr(0, query), u"/")) {
+    const std::vector<TextView> parts = split_views(path.substr(0, query), u"/");
+    for (const TextView part : parts) {
         if (part == u"..") {
             if (kept.size() > 1) kept.pop_back();
         } else if (part != u".") {
             kept.push_back(part);
         }
     }
+    if (!parts.empty() && (parts.back() == u"." || parts.back() == u"..")) kept.emplace_back(); // a folder
     Text out;
     for (std::size_t i = 0; i < kept.size(); ++i) out.append(i == 0 ? u"" : u"/").append(kept[i]);
     return out.append(path.substr(query));

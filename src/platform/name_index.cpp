@@ -81,6 +81,7 @@ std::string NameIndex::find(const std::string& path) {
     const std::string folder = there(given) ? given : find(given);
     const std::string here =
         path.find('/') == std::string::npos ? name : (folder == "/" ? "/" : folder + "/") + name;
+    if (folder != given && there(here)) return here;
     const Folder* const names = names_in(folder);
     if (names == nullptr) return here;
     const auto found = names->names.find(folded(name));

@@ -1,0 +1,76 @@
+#include "platform/faults.h"
+#include "platform/files.h"
+#include "support/faults.h"
+#include "support/temp_app.h"
+
+#include <gtest/gtest.h>
+
+namespace twk::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Projects : TempApp {
+    Projects() {
+        fs::create_directories(folder() / "Projects" / "mine" / "main");
+        fs::create_directories(folder() / "Projects" / "other");
+        fs::create_directories(folder() / "outside");
+        write(u"outside/precious.txt", "precious");
+    }
+    Text projects() const { return path(u"Projects"); }
+    int checked(TextView relative) const {
+        return fault_of([&] { Fence(projects(), u"mine").check(path(relative)); });
+    }
+};
+
+} // namespace
+
+TEST(Fence, TakesNoNameThatLeadsElsewhere) {
+    const Projects app;
+    for (const char16_t* const name :
+         {u"", u" ", u".", u"..", u" .. ", u"a/b", u"../x", u"a\\b", u"/", u"a\nb"})
+        EXPECT_EQ(fault_of([&] { Fence(app.projects(), name); }), fault_path_access) << to_utf8(name);
+    EXPECT_EQ(fault_of([&] { Fence(app.projects(), Text(u"a\0b", 3)); }), fault_path_access);
+    fs::create_directory_symlink(app.folder() / "outside", app.folder() / "Projects" / "link");
+    EXPECT_EQ(fault_of([&] { Fence(app.projects(), u"link"); }), fault_path_access);
+    EXPECT_EQ(fault_of([&] { Fence(app.projects(), u"LINK"); }), fault_path_access);
+    EXPECT_EQ(Fence(app.projects(), u"mine").folder(), app.path(u"Projects/mine"));
+    EXPECT_EQ(fault_of([&] { Fence(app.projects(), u"not there yet"); }), 0);
+    EXPECT_EQ(fault_of([&] { Fence(app.path(u"no projects yet"), u"mine"); }), 0);
+}
+
+TEST(Fence, LetsOnlyPathsInsideTheFolderThrough) {
+    const Projects app;
+    EXPECT_EQ(app.checked(u"Projects/mine/page.htm"), 0);
+    EXPECT_EQ(app.checked(u"projects/MINE/main/new folder/page.htm"), 0);
+    for (const char16_t* const path :
+         {u"Projects/mine", u"Projects", u"Projects/other/page.htm", u"Projects/mine2/page.htm",
+          u"Projects/mine/../other/page.htm", u"Projects/mine/main/../../../x.htm",
+          u"Projects/mine/new/../../x.htm", u"outside/precious.txt"})
+        EXPECT_EQ(app.checked(path), fault_path_access) << to_utf8(path);
+    fs::create_directory_symlink(app.folder() / "outside", app.folder() / "Projects" / "mine" / "out");
+    fs::create_symlink(app.folder() / "outside" / "precious.txt",
+                       app.folder() / "Projects" / "mine" / "file.htm");
+    fs::create_symlink(app.folder() / "outside" / "unborn.txt",
+                       app.folder() / "Projects" / "mine" / "unborn.htm");
+    for (const char16_t* const path :
+         {u"Projects/mine/out/x.htm", u"Projects/mine/OUT/x.htm", u"Projects/mine/file.htm",
+          u"Projects/mine/unborn.htm", u"Projects/mine/Unborn.HTM"})
+        EXPECT_EQ(app.checked(path), fault_path_access) << to_utf8(path);
+}
+
+TEST(DeleteFolder, RemovesLinksAndNeverFollowsThem) {
+    const Projects app;
+    fs::create_directory_symlink(app.folder() / "outside", app.folder() / "Projects" / "mine" / "out");
+    fs::create_directory_symlink(app.folder() / "outside", app.folder() / "Projects" / "link");
+    FileSystemObject files;
+    EXPECT_NE(fault_of([&] { files.DeleteFolder(app.path(u"Projects/link")); }), 0);
+    files.DeleteFolder(app.path(u"projects/Mine"));
+    EXPECT_FALSE(dir_exists(app.path(u"Projects/mine")));
+    EXPECT_EQ(app.read(u"outside/precious.txt"), "precious");
+    MkDir(app.path(u"Projects/MINE")); // the name is free again, in any case
+    EXPECT_TRUE(app.exists(u"Projects/MINE"));
+}
+
+} // namespace twk::test

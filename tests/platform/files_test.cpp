@@ -1,0 +1,189 @@
+#include "platform/faults.h"
+#include "platform/files.h"
+#include "platform/numbers.h"
+#include "support/faults.h"
+#include "support/temp_app.h"
+
+#include <csignal>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+namespace twk::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void write_page(const Text& path, const Text& line, TextKind kind = TextKind::page) {
+    const TextStreamPtr out = FileSystemObject().OpenTextFile(path, OpenMode::writing, true, kind);
+    out->writeline(line);
+    out->Close();
+}
+
+/// Lets no file of the process grow past a length.
+class LengthLimit {
+  public:
+    explicit LengthLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        rlimit limit = before_;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~LengthLimit() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+  private:
+    rlimit before_{};
+    void (*handler_)(int);
+};
+
+} // namespace
+
+TEST(Streams, GatherUntilTheyAreClosed) {
+    const TempApp app;
+    const Text path = app.path(u"page.htm");
+    FileSystemObject files;
+    {
+        const TextStreamPtr out = files.OpenTextFile(path, OpenMode::writing, true);
+        out->writeline(u"one");
+        out->write(u"two");
+        EXPECT_EQ(app.read(u"page.htm"), "");
+        out->Close();
+        EXPECT_EQ(app.read(u"page.htm"), "one\r\ntwo");
+        EXPECT_EQ(fault_of([&] { out->write(u"late"); }), fault_path_access);
+        out->Close();
+    }
+    files.OpenTextFile(path, OpenMode::writing)->write(u"dropped without Close");
+    EXPECT_EQ(app.read(u"page.htm"), "one\r\ntwo");
+    write_page(path, u"x");
+    EXPECT_EQ(app.read(u"page.htm"), "x\r\n"); // shorter than before
+}
+
+TEST(Streams, ReadLinesWhateverTheirEnd) {
+    const TempApp app;
+    app.write(u"list.txt", "a\r\n\r\nb\nc\rd");
+    FileSystemObject files;
+    const TextStreamPtr in = files.OpenTextFile(app.path(u"list.txt"), OpenMode::reading);
+    for (const char16_t* const line : {u"a", u"", u"b", u"c", u"d"}) EXPECT_EQ(in->readline(), line);
+    EXPECT_TRUE(in->AtEndOfStream());
+    EXPECT_EQ(fault_of([&] { in->readline(); }), fault_past_end);
+    EXPECT_EQ(in->ReadAll(), u"");
+    EXPECT_EQ(fault_of([&] { in->write(u"x"); }), fault_path_access);
+}
+
+TEST(Encodings, LoseNothing) {
+    const TempApp app;
+    write_page(app.path(u"ascii.htm"), u"plain");
+    EXPECT_EQ(app.read(u"ascii.htm"), "plain\r\n");
+    write_page(app.path(u"page.htm"), u"caf\u00e9");
+    EXPECT_EQ(app.read(u"page.htm"), "\xEF\xBB\xBF"
+                                     "caf\xC3\xA9\r\n");
+    write_page(app.path(u"list.dat"), u"caf\u00e9", TextKind::list);
+    EXPECT_EQ(app.read(u"list.dat"), "caf\xC3\xA9\r\n");
+
+    EXPECT_EQ(read_text_file(app.path(u"page.htm")), u"caf\u00e9\r\n");
+    EXPECT_EQ(read_text_file(app.path(u"list.dat")), u"caf\u00e9\r\n");
+    EXPECT_EQ(decode_text("caf\xE9 \x80 \x93x\x94"), u"caf\u00e9 \u20ac \u201cx\u201d");
+    EXPECT_EQ(decode_text("\xEF\xBB\xBF"), u"");
+
+    // Appended text has to fit what was there: one mark in front of the whole.
+    FileSystemObject files;
+    app.write(u"old.htm", "caf\xE9\r\n");
+    const TextStreamPtr out =
+        files.OpenTextFile(app.path(u"old.htm"), OpenMode::appending, false, TextKind::page);
+    out->writeline(u"\u20ac");
+    out->Close();
+    EXPECT_EQ(app.read(u"old.htm"), "\xEF\xBB\xBF"
+                                    "caf\xC3\xA9\r\n\xE2\x82\xAC\r\n");
+}
+
+TEST(Names, AreFoundWithoutRegardToCase) {
+    const TempApp app;
+    FileSystemObject files;
+    MkDir(app.path(u"Projects"));
+    write_page(app.path(u"PROJECTS/Página.HTM"), u"one");
+    EXPECT_TRUE(app.exists(u"Projects/Página.HTM"));
+    EXPECT_TRUE(file_exists(app.path(u"projects/pÁGINA.htm")));
+    EXPECT_EQ(Dir(app.path(u"projects/PÁGINA.htm")), u"Página.HTM");
+    EXPECT_EQ(Dir(app.path(u"projects")), u"");
+    write_page(app.path(u"projects/página.htm"), u"two"); // the same file
+    EXPECT_EQ(list_files(app.path(u"projects"), u"*"), (std::vector<Text>{u"Página.HTM"}));
+    // Something else makes a file while the names are known.
+    app.write(u"Projects/página.HTM", "exact");
+    EXPECT_EQ(read_text_file(app.path(u"projects/página.HTM")), u"exact");
+    EXPECT_EQ(read_text_file(app.path(u"projects/Página.HTM")), u"two\r\n");
+
+    files.CopyFile(app.path(u"Projects/página.HTM"), app.path(u"projects/Copy.htm"));
+    files.CopyFile(app.path(u"Projects/página.HTM"), app.path(u"projects/COPY.htm"));
+    EXPECT_EQ(list_files(app.path(u"projects"), u"c*"), (std::vector<Text>{u"COPY.htm"}));
+    files.DeleteFile(app.path(u"projects/copy.HTM"));
+    EXPECT_FALSE(file_exists(app.path(u"projects/COPY.htm")));
+    write_page(app.path(u"projects/copy.htm"), u"again");
+    EXPECT_TRUE(app.exists(u"Projects/copy.htm"));
+}
+
+TEST(Listings, AreSortedAndMatchWholeNames) {
+    const TempApp app;
+    MkDir(app.path(u"P"));
+    for (const char16_t* const name : {u"b.htm", u"A.HTM", u"_x.htm", u"c.html", u"noext", u"d.GIF"})
+        app.write(u"P/" + Text(name), "");
+    MkDir(app.path(u"P/folder.htm"));
+    EXPECT_EQ(list_files(app.path(u"p"), u"*.htm"), (std::vector<Text>{u"_x.htm", u"A.HTM", u"b.htm"}));
+    EXPECT_EQ(list_files(app.path(u"p"), u"*.*").size(), 5U);
+    EXPECT_EQ(list_files(app.path(u"p"), u"?.gif"), (std::vector<Text>{u"d.GIF"}));
+    EXPECT_EQ(list_folders(app.path(u"p")), (std::vector<Text>{u"folder.htm"}));
+    EXPECT_EQ(fault_of([&] { list_files(app.path(u"absent"), u"*"); }), fault_path_not_found);
+}
+
+TEST(Files, FaultsSayWhatIsWrong) {
+    const TempApp app;
+    FileSystemObject files;
+    MkDir(app.path(u"full"));
+    app.write(u"full/x", "12345");
+    EXPECT_EQ(FileLen(app.path(u"FULL/X")), 5);
+    const auto reading = [&](TextView name) {
+        return fault_of([&] { files.OpenTextFile(app.path(name), OpenMode::reading); });
+    };
+    EXPECT_EQ(reading(u"absent"), fault_file_not_found);
+    EXPECT_EQ(reading(u"full"), fault_path_access);
+    EXPECT_EQ(fault_of([&] { write_page(app.path(u"none/x"), u""); }), fault_path_not_found);
+    EXPECT_EQ(fault_of([&] { files.OpenTextFile(app.path(u"absent"), OpenMode::writing); }),
+              fault_file_not_found);
+    EXPECT_EQ(fault_of([&] { files.DeleteFile(app.path(u"absent")); }), fault_file_not_found);
+    EXPECT_EQ(fault_of([&] { files.CopyFile(app.path(u"absent"), app.path(u"y")); }), fault_file_not_found);
+    EXPECT_EQ(fault_of([&] { files.DeleteFolder(app.path(u"absent")); }), fault_path_not_found);
+    EXPECT_EQ(fault_of([&] { MkDir(app.path(u"Full")); }), fault_path_access);
+    EXPECT_EQ(fault_of([&] { MkDir(app.path(u"none/sub")); }), fault_path_not_found);
+    EXPECT_EQ(fault_of([&] { RmDir(app.path(u"full")); }), fault_path_access);
+    EXPECT_EQ(fault_of([&] { FileLen(app.path(u"absent")); }), fault_file_not_found);
+    EXPECT_EQ(fault_of([&] { write_page(app.path(Text(300, u'x')), u""); }), fault_path_access);
+}
+
+TEST(FullDisk, LeavesWhatWasThere) {
+    const TempApp app;
+    const Text long_text(100000, u'x');
+    app.write(u"old.htm", "old");
+    {
+        const LengthLimit limit(50000);
+        EXPECT_EQ(fault_of([&] { write_page(app.path(u"old.htm"), long_text); }), fault_disk_full);
+        EXPECT_EQ(fault_of([&] { FileSystemObject().CopyFile(app.path(u"Images/nothing"), app.path(u"x")); }),
+                  fault_file_not_found);
+        EXPECT_EQ(fault_of([&] { write_page(app.path(u"new.htm"), long_text); }), fault_disk_full);
+    }
+    EXPECT_EQ(app.read(u"old.htm"), "old");
+    EXPECT_EQ(app.read(u"new.htm"), "");
+    EXPECT_EQ(fault_of([] { write_page(u"/dev/full", u"x"); }), fault_disk_full);
+}
+
+TEST(Names, ThousandsInOneFolderStayQuickToFind) {
+    const TempApp app;
+    MkDir(app.path(u"P"));
+    for (int i = 0; i < 3000; ++i) write_page(app.path(u"p/Page" + to_text(i) + u".htm"), u"x");
+    EXPECT_EQ(list_files(app.path(u"p"), u"*.htm").size(), 3000U);
+    EXPECT_EQ(Dir(app.path(u"p/PAGE2999.HTM")), u"Page2999.htm");
+}
+
+} // namespace twk::test
