@@ -81,25 +81,33 @@ std::string read_bytes(const Text& path) {
     return bytes;
 }
 
-int write_all(int file, std::string_view bytes) {
+/// Returns an error number, 0 for none.
+int write_at(int file, std::string_view bytes, std::size_t offset) {
     while (!bytes.empty()) {
-        const ssize_t put = ::write(file, bytes.data(), bytes.size());
+        const ssize_t put = ::pwrite(file, bytes.data(), bytes.size(), static_cast<off_t>(offset));
         if (put < 0 && errno != EINTR) return errno;
-        if (put > 0) bytes.remove_prefix(static_cast<std::size_t>(put));
+        if (put > 0) {
+            bytes.remove_prefix(static_cast<std::size_t>(put));
+            offset += static_cast<std::size_t>(put);
+        }
     }
     return 0;
 }
 
-/// Takes the room that the bytes need before the first of them is written, so that a full disk leaves the
-/// file as it was. Returns an error number, 0 for none.
-int reserve(int file, std::size_t size) {
+/// Gives an open file new content. What lies behind the old end is written first: where the disk is full the
+/// file is cut back and stays as it was, and the rest needs no more room.
+int replace_content(int file, std::string_view bytes) {
     struct stat before {};
     if (::fstat(file, &before) != 0) return errno;
-    if (size == 0 || !S_ISREG(before.st_mode)) return 0;
-    const int error = ::posix_fallocate(file, 0, static_cast<off_t>(size));
-    if (error == EOPNOTSUPP || error == EINVAL) return 0; // no such service on this disk
-    if (error != 0 && ::ftruncate(file, before.st_size) != 0) return errno;
-    return error;
+    const std::size_t old_size = static_cast<std::size_t>(std::max<off_t>(before.st_size, 0));
+    const std::size_t common = std::min(old_size, bytes.size());
+    if (const int error = write_at(file, bytes.substr(common), common); error != 0) {
+        if (S_ISREG(before.st_mode) && ::ftruncate(file, before.st_size) != 0) return errno;
+        return error;
+    }
+    if (const int error = write_at(file, bytes.substr(0, common), 0); error != 0) return error;
+    if (bytes.size() < old_size && ::ftruncate(file, static_cast<off_t>(bytes.size())) != 0) return errno;
+    return 0;
 }
 
 /// Writes the whole file. Where the disk is full nothing is written: what was there stays, and a file that
@@ -109,11 +117,7 @@ void write_bytes(const Text& path, std::string_view bytes) {
     const bool there = ::access(name.c_str(), F_OK) == 0;
     const int file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
     if (file < 0) fail(errno == ENOENT ? ENOTDIR : errno, path);
-    int error = reserve(file, bytes.size());
-    if (error == 0) error = write_all(file, bytes);
-    // A device has no length to set.
-    if (error == 0 && ::ftruncate(file, static_cast<off_t>(bytes.size())) != 0 && errno != EINVAL)
-        error = errno;
+    int error = replace_content(file, bytes);
     if (::close(file) != 0 && error == 0) error = errno;
     if (error != 0) {
         if (!there) ::unlink(name.c_str());
