@@ -1,0 +1,191 @@
+#include "engine/form17.h"
+#include "engine/generation.h"
+#include "inputs/form7.h"
+#include "reports/form12.h"
+#include "shell/form2.h"
+#include "shell/module1.h"
+#include "support/sample_project.h"
+
+#include <gtest/gtest.h>
+
+namespace twk {
+namespace {
+
+namespace fs = std::filesystem;
+
+class GenerationRun : public testing::Test {
+  protected:
+    /// A file of the user's in the project's folder, which the next run is to erase.
+    void leave_old_file(const Text& folder) {
+        fs::create_directories(to_utf8(app.path(folder)));
+        app.write(folder + u"/old.htm", "old");
+    }
+    /// The click, with whatever messages the test has scripted.
+    static bool click(Form6& form) {
+        return screens().dispatch([&form] { form.Command1_Click(); });
+    }
+    std::vector<std::string> files_in(const Text& folder) const {
+        std::vector<std::string> names;
+        for (const Text& name : list_files(app.path(folder), u"*")) names.push_back(to_utf8(name));
+        return names;
+    }
+
+    test::TempApp app;
+};
+
+TEST_F(GenerationRun, missing_extension_is_refused_before_anything_but_the_settings_is_written) {
+    test::SampleProject project(app);
+    leave_old_file(project.folder());
+    project.form.Combo10.text = u" . ";
+    project.form.Combo2.text = u"21";
+    fs::remove(to_utf8(app.path(u"shed.dat")));
+    app.desktop.expect(u"You need to enter a file extension.");
+    EXPECT_TRUE(click(project.form));
+    EXPECT_TRUE(app.exists(u"shed.dat"));
+    EXPECT_EQ(project.form.Combo2.text(), u"20"); // made even first
+    EXPECT_TRUE(app.exists(project.folder(u"old.htm")));
+    EXPECT_FALSE(project.form.informe_activo);
+}
+
+TEST_F(GenerationRun, no_at_the_question_ends_it) {
+    test::SampleProject project(app);
+    leave_old_file(project.folder());
+    app.desktop.expect(u"This action may take several minutes depending on your computers' speed \nand the "
+                       u"amount of pages you're trying to generate.\nMake sure there are no open files in "
+                       u"project's directories.\nAre you sure you want to proceed?",
+                       Answer::no);
+    EXPECT_TRUE(click(project.form));
+    EXPECT_EQ(app.desktop.messages.back().title, u"Create Pages?");
+    EXPECT_TRUE(app.exists(project.folder(u"old.htm")));
+    EXPECT_FALSE(screens().is_loaded<Form12>());
+}
+
+TEST_F(GenerationRun, cancel_in_step_6_leaves_the_old_pages) {
+    test::SampleProject project(app);
+    leave_old_file(project.folder());
+    project.form.Check9.value = true;
+    app.desktop.on_modal = [](Screen& shown) { screens().fire(shown, "Command9", "Click"); };
+    EXPECT_TRUE(project.generate());
+    EXPECT_EQ(module1().paso6_cancelado, u"0");
+    EXPECT_FALSE(screens().is_loaded<Form17>());
+    EXPECT_FALSE(project.run().finished);
+    EXPECT_TRUE(app.exists(project.folder(u"old.htm")));
+}
+
+TEST_F(GenerationRun, too_few_pictures_leave_an_empty_tree) {
+    test::SampleProject project(app);
+    leave_old_file(project.folder());
+    for (const auto& file : fs::directory_iterator(to_utf8(app.path(u"Images"))))
+        if (file.is_regular_file() && file.path().extension() == ".gif") fs::remove(file.path());
+    fs::remove(to_utf8(app.path(u"Images/aurora.jpg")));
+    app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
+    app.desktop.expect(app.path(u"Images Must have more than 3 images (*.gif or *.jpg)"));
+    EXPECT_TRUE(click(project.form));
+    EXPECT_FALSE(app.exists(project.folder(u"old.htm")));
+    EXPECT_TRUE(fs::is_empty(to_utf8(app.path(project.main_folder()))));
+}
+
+TEST_F(GenerationRun, step_6_names_the_pages_and_their_hosts) {
+    test::SampleContent content;
+    content.hosts = {u"http://second.example"};
+    test::SampleProject project(app, content);
+    project.form.Check9.value = true;
+    project.form.Combo3.text = u"0";
+    project.form.Combo2.text = u"4";
+    app.desktop.on_modal = [](Screen& shown) {
+        const Form17& names = screen<Form17>();
+        EXPECT_EQ(names.Label46.caption(),
+                  u"You will be creating 4 Random-Generated Pages. You can change their names here.");
+        EXPECT_EQ(names.List1.list_count(), 4);
+        EXPECT_EQ(names.List1.list(0), u"cedar_roof_cedar_roof_a.htm");
+        EXPECT_EQ(names.List2.list(1), u"http://pages.oakshed.example/sheds");
+        EXPECT_EQ(names.List2.list(2), u"http://second.example");
+        screens().fire(shown, "Command9", "Click");
+    };
+    EXPECT_TRUE(project.generate());
+}
+
+TEST_F(GenerationRun, fault_tells_stage_and_page_and_leaves_what_was_written) {
+    test::SampleContent content;
+    content.keywords[2].keyword = u"carpenter''s bench"; // stored with one apostrophe, which no screen admits
+    test::SampleProject project(app, content);
+    app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
+    app.desktop.expect(u"Run-time error '3075':");
+    EXPECT_FALSE(click(project.form));
+    EXPECT_TRUE(contains(app.desktop.last_message(), u"Page: " + app.path(project.main_folder())));
+    const std::vector<std::string> files = files_in(project.main_folder());
+    EXPECT_EQ(std::count(files.begin(), files.end(), "garden_shed.htm"), 1);
+    EXPECT_EQ(std::count(files.begin(), files.end(), "tool_rack.htm"), 1);
+    EXPECT_FALSE(project.run().finished);
+}
+
+TEST_F(GenerationRun, fault_in_a_later_phase_bears_its_stage) {
+    test::SampleProject project(app);
+    app.desktop.on_events = [&project] {
+        if (project.form.run != nullptr && project.run().fase == 2) project.form.settings.frases_link = {};
+    };
+    app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
+    app.desktop.expect(u"Run-time error '1001':");
+    EXPECT_FALSE(click(project.form));
+    EXPECT_TRUE(contains(app.desktop.last_message(), u"\n\nError creating Second Level page.\n\nPage: "));
+    EXPECT_EQ(project.run().cuenta1, 3);
+}
+
+TEST_F(GenerationRun, preparation_faults_come_before_anything_is_erased) {
+    test::SampleContent content;
+    for (int i = 0; i < 98; ++i) content.boxes.push_back({u"A box.", {}}); // 102 of them
+    test::SampleProject project(app, content);
+    leave_old_file(project.folder());
+    app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
+    app.desktop.expect(u"Run-time error '9':");
+    EXPECT_FALSE(click(project.form));
+    EXPECT_TRUE(contains(app.desktop.last_message(),
+                         u"there was an error preparing project properties (keywords, content boxes, hosts"));
+    project.form.Combo2.text = u"2"; // less than one redirecting page
+    app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
+    app.desktop.expect(u"Run-time error '11':");
+    EXPECT_FALSE(click(project.form));
+    EXPECT_TRUE(app.exists(project.folder(u"old.htm")));
+}
+
+TEST_F(GenerationRun, nothing_outside_the_project_is_touched) {
+    test::SampleProject project(app);
+    leave_old_file(u"Projects/shed/inner");
+    leave_old_file(u"Projects/other");
+    const auto refused = [&] {
+        app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
+        app.desktop.expect(u"Run-time error '75':");
+        EXPECT_FALSE(click(project.form));
+        EXPECT_TRUE(contains(app.desktop.last_message(), u"This is set in the Project Properties (step 1)."));
+        EXPECT_TRUE(app.exists(u"Projects/shed/inner/old.htm") && app.exists(u"Projects/other/old.htm") &&
+                    app.exists(u"hive.mdb"));
+    };
+    for (const char16_t* name : {u"..", u".", u"", u"shed/inner"}) {
+        SCOPED_TRACE(to_utf8(name));
+        screen<Form2>().txt_name[0].text = Text(name);
+        if (Text(name) == u"shed/inner") app.desktop.always(u"", Answer::ok); // its settings have no place
+        refused();
+    }
+    screen<Form2>().txt_name[0].text = u"shed";
+    screen<Form7>().Text2.text = u"http://..";
+    refused();
+}
+
+TEST_F(GenerationRun, terms_and_table_of_a_project) {
+    test::SampleProject project(app);
+    project.form.Check9.value = true; // a way out before the pages
+    app.desktop.on_modal = [](Screen& shown) { screens().fire(shown, "Command9", "Click"); };
+    EXPECT_TRUE(project.generate());
+    const twk::Run& run = project.run();
+    EXPECT_EQ(run.n_keywords, 3);
+    EXPECT_EQ(run.total_sub, 3);
+    EXPECT_EQ(run.total_terminos, 6);
+    EXPECT_EQ(run.terminos, (std::vector<Text>{u"cedar roof", u"Small Garden Shed", u"Garden Shed ",
+                                               u"Tool Rack ", u"folding workbench", u"workbench ", u""}));
+    EXPECT_EQ(run.tabla_kw.at(0, 0), u"Garden Shed"); // not measured yet
+    EXPECT_EQ(run.tabla_kw.at(1, 1), u"OakShed");     // stands in for subkeywords, and is no term
+    EXPECT_EQ(run.tabla_kw.at(3, 1), u"OakShed");     // in the empty row behind the last, too
+}
+
+} // namespace
+} // namespace twk
