@@ -1,0 +1,49 @@
+#pragma once
+
+#include "cli/commands.h"
+#include "cli/console_desktop.h"
+
+#include <functional>
+#include <memory>
+
+namespace twk::cli {
+
+/// Everything global that a command needs: the console desktop, the application path, a clock that does not
+/// wait, a seed. It is all taken back at the end, and no screen stays loaded.
+class Session {
+  public:
+    Session(const Console& console, const std::filesystem::path& application_folder,
+            std::optional<std::uint64_t> seed = {}, std::optional<LocalTime> now = {});
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    ConsoleDesktop desktop;
+
+  private:
+    Desktop* const desktop_before_;
+    const Text folder_before_;
+};
+
+/// Walks the screens of the wizard as a user does, each Next with its checks.
+class Wizard {
+  public:
+    Wizard(const Console& console, ConsoleDesktop& desktop) : console_(console), desktop_(desktop) {}
+
+    /// Opens the project manager and tells the projects of its list.
+    Status projects(std::vector<Text>& names);
+    /// From the project manager to Step 5. The name is taken as it is listed, else without regard to case.
+    Status walk_to_step5(const Text& project);
+    /// The run of Step 5. Refused when it ended by one of its own messages.
+    Status generate();
+
+  private:
+    Status step(const std::function<bool()>& press, const std::function<bool()>& arrived,
+                std::string_view name);
+    Status select_project(const Text& project);
+
+    const Console console_;
+    ConsoleDesktop& desktop_;
+};
+
+} // namespace twk::cli
