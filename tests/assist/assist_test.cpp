@@ -1,0 +1,91 @@
+#include "assist/disclaimer.h"
+#include "assist/form4.h"
+#include "assist/form9.h"
+#include "assist/frm_tip.h"
+#include "assist/help.h"
+#include "shell/module1.h"
+#include "support/temp_app.h"
+
+#include <set>
+
+#include <gtest/gtest.h>
+
+namespace twk {
+namespace {
+
+using test::TempApp;
+
+void next_tip() {
+    ASSERT_TRUE(screens().fire<frmTip>("cmdNextTip", "Click"));
+}
+
+TEST(Tips, DrawsFromAllLinesOfTheFile) {
+    TempApp app;
+    app.write(u"TIPOFDAY.TXT", "One \nTwo\r\n\r\nFour");
+    std::set<Text> seen{screen<frmTip>().lblTipText.caption()};
+    for (int i = 0; i < 100; ++i) {
+        next_tip();
+        seen.insert(screen<frmTip>().lblTipText.caption());
+    }
+    EXPECT_EQ(seen, (std::set<Text>{u"One ", u"Two", u"", u"Four"}));
+    ASSERT_TRUE(screens().fire<frmTip>("cmdOK", "Click"));
+    EXPECT_FALSE(screens().is_loaded<frmTip>());
+}
+
+TEST(Tips, TellsHowToMakeAMissingFile) {
+    TempApp app;
+    std::filesystem::remove(app.folder() / "TIPOFDAY.TXT");
+    const Text told =
+        u"That the TIPOFDAY.TXT file was not found? \r\nCreate a text file named TIPOFDAY.TXT using "
+        u"NotePad with 1 tip per line. Then place it in the same directory as the application. ";
+    EXPECT_EQ(screen<frmTip>().lblTipText.caption(), told);
+    next_tip();
+    EXPECT_EQ(screen<frmTip>().lblTipText.caption(), told);
+}
+
+TEST(Tips, AnEmptyFileLeavesTheLabel) {
+    TempApp app;
+    app.write(u"TIPOFDAY.TXT", "");
+    EXPECT_EQ(screen<frmTip>().lblTipText.caption(), u"");
+    EXPECT_TRUE(screen<frmTip>().LoadTips(app.path(u"tipofday.txt")));
+    EXPECT_FALSE(screen<frmTip>().LoadTips(u""));
+}
+
+TEST(Tips, StayAwayWhenTheUserHasTurnedThemOff) {
+    TempApp app;
+    app.desktop.settings[u"Options/Show Tips at Startup"] = u"0";
+    screens().dispatch([] { screens().show<frmTip>(); });
+    EXPECT_FALSE(screens().is_loaded<frmTip>());
+}
+
+TEST(Help, OpensTheLocalFileAtTheAnchorAndTheOnlineCopyOnDemand) {
+    TempApp app;
+    mostrar_ayuda(u"form7");
+    EXPECT_TRUE(screens().record<Form9>().visible);
+    EXPECT_TRUE(screen<Form9>().wb1.address_bar);
+    EXPECT_EQ(module1().formas_abiertas[9], -1);
+    screens().fire<Form9>("Command1", "Click");
+    EXPECT_EQ(app.desktop.navigated,
+              (std::vector<Text>{app.path(u"help.htm#form7"), u"http://www.tarnwick.example/help.htm"}));
+}
+
+TEST(TemplateEditor, TellsItsFirstVisibleFrame) {
+    TempApp app;
+    Form4& form = screen<Form4>();
+    EXPECT_EQ(form.frameActivo(), 0);
+    form.invFrames();
+    EXPECT_EQ(form.frameActivo(), -1);
+    form.Frame1[2].visible = true;
+    EXPECT_EQ(form.frameActivo(), 2);
+    screens().fire<Form4>("Command1", "Click");
+    EXPECT_EQ(module1().formas_abiertas[4], 0);
+}
+
+TEST(Disclaimer, IsATextToRead) {
+    TempApp app;
+    EXPECT_TRUE(screen<disclaimer>().RichTextBox1.read_only);
+    EXPECT_TRUE(contains(screen<disclaimer>().RichTextBox1.text(), u"warranty"));
+}
+
+} // namespace
+} // namespace twk

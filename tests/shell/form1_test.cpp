@@ -1,0 +1,251 @@
+#include "inputs/form10.h"
+#include "shell/form1.h"
+#include "shell/form2.h"
+#include "shell/module1.h"
+#include "support/temp_app.h"
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+namespace twk {
+namespace {
+
+namespace fs = std::filesystem;
+using test::TempApp;
+
+Text insert_project(const Text& name) {
+    return u"insert into Projects ( name , site_name , site_url , title , category , description , "
+           u"designer_name , designer_url ) values ( '" +
+           name +
+           u"' , 'Site' , 'http://site.com' , 'Subject' , 'Category' , 'About it' , 'Ann' , 'http://' )";
+}
+
+/// The manager on projects that stand in the store.
+struct Manager {
+    TempApp app;
+
+    void add(const Text& name) { app.run(insert_project(name)); }
+    Text pid(const Text& name) {
+        return app.value(u"select pid from Projects where name = '" + name + u"'", u"pid");
+    }
+    int rows(const Text& table, const Text& pid) {
+        return app.count(u"select * from " + table + u" where pid = " + pid);
+    }
+    void select(const Text& name) {
+        ComboBox& combo = screen<Form1>().combo1;
+        for (int i = 0; i < combo.list_count(); ++i)
+            if (combo.list(i) == name) combo.select(i);
+        click("combo1");
+    }
+    /// The event runs; a fault shows as a message, which a test has to expect.
+    void click(const char* control) { screens().fire<Form1>(control, "Click"); }
+    void file(const char* relative) {
+        const fs::path path = app.folder() / relative;
+        fs::create_directories(path.parent_path());
+        app.write(from_utf8(relative), "x");
+    }
+    /// A project with a row in every table that belongs to it.
+    Text full_project(const Text& name) {
+        add(name);
+        const Text key = pid(name);
+        app.run(u"insert into keywords ( pid , keyword ) values ( " + key + u" , 'green tea' )");
+        app.run(u"insert into keywords ( pid , keyword ) values ( " + key + u" , 'black tea' )");
+        const Text keyid = app.value(
+            u"select keyid from keywords where pid = " + key + u" and keyword = 'green tea'", u"keyid");
+        app.run(u"insert into elements ( catid , element ) values ( " + keyid + u" , 'leaves' )");
+        app.run(u"insert into content ( pid , content ) values ( " + key + u" , 'Tea isn''t coffee.' )");
+        app.run(u"insert into ties ( pid , keyid , cid ) values ( " + key + u" , " + keyid + u" , 1 )");
+        app.run(u"insert into host ( pid , host ) values ( " + key + u" , 'http://second.com' )");
+        app.run(u"insert into host1 ( pid , host ) values ( " + key + u" , 'http://main.com' )");
+        app.run(u"insert into target ( pid , target ) values ( " + key + u" , 'http://site.com/b.htm' )");
+        return key;
+    }
+};
+
+TEST(OpenProject, FillsStepOneFromTheRow) {
+    Manager manager;
+    const Text key = manager.full_project(u"tea");
+    module1().url_sitio = u"http://stale.com";
+    manager.select(u"tea");
+    manager.click("Command3");
+    Form2& step = screen<Form2>();
+    EXPECT_EQ(step.txt_name[0].text(), u"tea");
+    EXPECT_EQ(step.Text2[0].text(), u"Site");
+    EXPECT_EQ(step.txt_url[0].text(), u"http://site.com");
+    EXPECT_EQ(step.txt_url[2].text(), u"http://");
+    EXPECT_EQ(step.txt_dat[0].text() + step.txt_dat[1].text() + step.txt_dat[2].text(),
+              u"SubjectCategoryAbout it");
+    EXPECT_EQ(step.Text7.text(), u"Ann");
+    EXPECT_EQ(step.Command2.caption(), u"Modify/Next");
+    EXPECT_EQ(step.List1.entries(), std::vector<Text>{u"http://site.com/b.htm"});
+    EXPECT_EQ(module1().proyecto_actual, u"tea");
+    EXPECT_EQ(to_utf8(key), std::to_string(module1().pid_actual));
+    EXPECT_TRUE(screens().is_loaded<Form1>());
+}
+
+TEST(OpenProject, CleansUpBeforeItMissesASelectionAndEndsSilentlyOnAFault) {
+    Manager manager;
+    screen<Form10>();
+    manager.app.desktop.expect(u"Must select a Project from the dropdown list");
+    manager.click("Command3");
+    EXPECT_FALSE(screens().is_loaded<Form10>());
+    screen<Form1>().combo1.add_item(u"it's");
+    manager.select(u"it's");
+    manager.click("Command3"); // the statement breaks; no message is expected
+    EXPECT_FALSE(screens().is_loaded<Form2>());
+}
+
+TEST(NewProject, StartsStepOneAfreshAndLeaves) {
+    Manager manager;
+    manager.full_project(u"tea");
+    manager.select(u"tea");
+    manager.click("Command3");
+    manager.click("Command1");
+    EXPECT_FALSE(screens().is_loaded<Form1>());
+    EXPECT_EQ(screen<Form2>().txt_name[0].text(), u"");
+    EXPECT_EQ(screen<Form2>().Command2.caption(), u"&Next");
+    EXPECT_EQ(module1().pid_actual, 0);
+    EXPECT_EQ(module1().proyecto_actual, u"");
+}
+
+TEST(DeleteProject, RemovesFolderAndRowsOfThisProjectAlone) {
+    Manager manager;
+    const Text gone = manager.full_project(u"tea");
+    const Text kept = manager.full_project(u"coffee");
+    manager.file("Projects/tea/index.htm");
+    manager.file("Projects/tea/CNAME");
+    manager.file("Projects/tea/site.com/page.htm");
+    manager.file("Projects/coffee/index.htm");
+    manager.select(u"tea");
+    manager.app.desktop.expect(u"Are you sure you want to delete this project?\rAll data will be Lost.");
+    manager.click("Command4");
+    EXPECT_EQ(manager.app.desktop.messages.back().title, u"Replace project?");
+    EXPECT_FALSE(manager.app.exists(u"Projects/tea"));
+    EXPECT_TRUE(manager.app.exists(u"Projects/coffee/index.htm"));
+    for (const char16_t* table :
+         {u"Projects", u"keywords", u"content", u"ties", u"host", u"host1", u"target"}) {
+        EXPECT_EQ(manager.rows(table, gone), 0) << to_utf8(table);
+        EXPECT_GT(manager.rows(table, kept), 0) << to_utf8(table);
+    }
+    EXPECT_EQ(manager.app.count(u"select * from elements"), 1);
+    EXPECT_EQ(screen<Form1>().combo1.entries(), std::vector<Text>{u"coffee"});
+    EXPECT_EQ(screen<Form1>().combo1.text(), u"Select an existing project");
+}
+
+TEST(DeleteProject, AsksFirstAndToleratesAMissingFolder) {
+    Manager manager;
+    const Text key = manager.full_project(u"tea");
+    manager.click("Command4"); // nothing selected: nothing happens
+    manager.select(u"tea");
+    manager.app.desktop.expect(u"Are you sure", Answer::cancel);
+    manager.click("Command4");
+    EXPECT_EQ(manager.rows(u"Projects", key), 1);
+    manager.app.desktop.expect(u"Are you sure");
+    manager.app.desktop.expect(
+        u"The folder corresponding to this project no longer exist or it has been renamed.");
+    manager.click("Command4");
+    EXPECT_EQ(manager.rows(u"Projects", key), 0);
+}
+
+TEST(DeleteProject, StopsAtANestedFolder) {
+    Manager manager;
+    const Text key = manager.full_project(u"tea");
+    manager.file("Projects/tea/sub/deeper/mine.txt");
+    manager.select(u"tea");
+    manager.app.desktop.expect(u"Are you sure");
+    manager.app.desktop.expect(u"Run-time error '75'");
+    manager.click("Command4");
+    EXPECT_TRUE(manager.app.exists(u"Projects/tea/sub/deeper/mine.txt"));
+    EXPECT_EQ(manager.rows(u"Projects", key), 1) << "the rows come after the folder";
+}
+
+class DeleteOutside : public testing::TestWithParam<const char16_t*> {};
+
+TEST_P(DeleteOutside, NeverCostsAFile) {
+    Manager manager;
+    manager.file("mine.txt");
+    manager.file("Projects/other/page.htm");
+    manager.add(GetParam());
+    manager.select(GetParam());
+    manager.app.desktop.expect(u"Are you sure");
+    manager.app.desktop.expect(u"Run-time error '75'");
+    manager.click("Command4");
+    EXPECT_TRUE(manager.app.exists(u"mine.txt"));
+    EXPECT_TRUE(manager.app.exists(u"Projects/other/page.htm"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, DeleteOutside,
+                         testing::Values(u"..", u".", u"", u"../Projects", u"other/sub", u"..\\.."));
+
+TEST(DeleteProject, FollowsNoLink) {
+    Manager manager;
+    manager.add(u"tea");
+    manager.file("Projects/tea/page.htm");
+    manager.file("mine/letter.txt");
+    fs::create_directory_symlink(manager.app.folder() / "mine", manager.app.folder() / "Projects/tea/way");
+    manager.select(u"tea");
+    manager.app.desktop.expect(u"Are you sure");
+    manager.app.desktop.expect(u"Run-time error '75'");
+    manager.click("Command4");
+    EXPECT_TRUE(manager.app.exists(u"mine/letter.txt"));
+    EXPECT_TRUE(manager.app.exists(u"Projects/tea/page.htm")) << "refused before a file is touched";
+}
+
+TEST(CopyProject, CopiesRowsWithoutTiesAndMainHost) {
+    Manager manager;
+    const Text source = manager.full_project(u"tea");
+    manager.select(u"tea");
+    EXPECT_EQ(screen<Form1>().Text1.text(), u"tea_Copy");
+    manager.app.desktop.expect(u"This might take a while depending on your PC's speed. \n", Answer::yes);
+    manager.click("Command6");
+    const Text copy = manager.pid(u"tea_Copy");
+    for (const char16_t* table : {u"keywords", u"content", u"host", u"target"})
+        EXPECT_EQ(manager.rows(table, copy), manager.rows(table, source)) << to_utf8(table);
+    EXPECT_EQ(manager.rows(u"ties", copy), 0);
+    EXPECT_EQ(manager.rows(u"host1", copy), 0);
+    EXPECT_EQ(manager.app.value(u"select content from content where pid = " + copy, u"content"),
+              u"Tea isn't coffee.");
+    EXPECT_EQ(
+        manager.app.count(u"select * from elements , keywords where elements.catid = keywords.keyid and "
+                          u"keywords.pid = " +
+                          copy),
+        1);
+    EXPECT_EQ(manager.app.value(u"select * from Projects where pid = " + copy, u"description"), u"About it");
+    EXPECT_FALSE(manager.app.exists(u"Projects/tea_Copy"));
+    EXPECT_EQ(screen<Form1>().combo1.text(), u"Select an existing Project");
+    EXPECT_EQ(screen<Form1>().combo1.list_count(), 2);
+}
+
+TEST(CopyProject, RefusesNames) {
+    Manager manager;
+    manager.add(u"tea");
+    manager.select(u"tea");
+    Form1& form = screen<Form1>();
+    form.Text1.text = u"  ";
+    manager.click("Command6");
+    form.Text1.text = u"my tea";
+    manager.app.desktop.expect(u"Project Name can't have spaces");
+    manager.click("Command6");
+    form.Text1.text = u" tea ";
+    manager.app.desktop.expect(u"2 Projects can't have the same name!\nYou should delete one first.");
+    manager.click("Command6");
+    form.Text1.text = u"TEA"; // differs in case: asked, and here declined
+    manager.app.desktop.expect(u"Are you sure you want to proceed?", Answer::no);
+    manager.click("Command6");
+    EXPECT_EQ(manager.app.count(u"select * from Projects"), 1);
+}
+
+TEST(CopyProject, ABrokenTextStopsHalfWay) {
+    Manager manager;
+    const Text key = manager.full_project(u"tea");
+    manager.app.run(u"update target set target = 'http://o''neill.com' where pid = " + key);
+    manager.select(u"tea");
+    manager.app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
+    manager.app.desktop.expect(u"Run-time error '3075'");
+    manager.click("Command6");
+    EXPECT_EQ(manager.rows(u"keywords", manager.pid(u"tea_Copy")), 2);
+}
+
+} // namespace
+} // namespace twk
