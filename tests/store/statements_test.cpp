@@ -11,6 +11,8 @@ namespace {
 
 /// The project store with two projects that own one keyword each, boxes, ties and addresses.
 struct Filled : TempApp {
+    const Database open = hive(); ///< spares every statement the opening
+
     Filled() {
         for (const char16_t* const name : {u"alpha", u"beta"})
             run(u"insert into Projects ( name , site_name , site_url , title , category , description , "

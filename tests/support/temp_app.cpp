@@ -27,6 +27,16 @@ fs::path new_folder() {
     return name;
 }
 
+/// Bytes of a fresh store; made once, as making one waits for the disk several times.
+std::string fresh_store(const char* schema, const std::string& key) {
+    const fs::path folder = new_folder();
+    const fs::path file = folder / "fresh.mdb";
+    create_store(from_utf8(file.string()), bytes_of(fs::path(TEST_DATA_DIR) / schema), key);
+    std::string bytes = bytes_of(file);
+    fs::remove_all(folder);
+    return bytes;
+}
+
 void deliver(const fs::path& folder) {
     const fs::path data = TEST_DATA_DIR;
     for (const char* name : {"twk.dat", "TIPOFDAY.TXT", "help.htm", "Images", "swf"})
@@ -42,9 +52,10 @@ TempApp::TempApp()
     set_clock(clock);
     chance().fix_seed(1);
     module1() = Module1();
-    const fs::path data = TEST_DATA_DIR;
-    create_store(path(u"hive.mdb"), bytes_of(data / "schema_hive.sql"), "lantern4821");
-    create_store(path(u"synonyms.mdb"), bytes_of(data / "schema_synonyms.sql"), "");
+    static const std::string hive_bytes = fresh_store("schema_hive.sql", "lantern4821");
+    static const std::string synonyms_bytes = fresh_store("schema_synonyms.sql", "");
+    write(u"hive.mdb", hive_bytes);
+    write(u"synonyms.mdb", synonyms_bytes);
     deliver(folder_);
 }
 
