@@ -11,16 +11,11 @@ namespace twk::cli {
 namespace {
 
 constexpr TextView question_save_names = u"Do you want to save this filename set?";
-constexpr TextView page_written = u"Creating + Analizing ";
 constexpr auto line_interval = std::chrono::milliseconds(50);
 
-/// Destination and file of a path, which the status line may have cut at its front or middle; the file alone
-/// where the destination is not there in full.
-TextView destination_and_file(TextView path) {
-    const auto file = path.rfind(path_separator);
-    if (file == TextView::npos || file == 0) return path;
-    const auto folder = path.rfind(path_separator, file - 1);
-    return path.substr(folder == TextView::npos ? file + 1 : folder + 1);
+/// Name of the file: the path before it may have been cut in its middle.
+TextView file_name(TextView path) {
+    return path.substr(path.rfind(path_separator) + 1); // the whole text when there is no separator
 }
 
 } // namespace
@@ -51,10 +46,10 @@ void ConsoleDesktop::screen_loaded(Screen& screen) {
 
 void ConsoleDesktop::tell(const Text& status) {
     if (!telling_) return;
-    const bool page = TextView(status).starts_with(page_written);
+    const bool page = TextView(status).starts_with(u"Creating + Analizing ");
     if (!console_.terminal) {
         // A file or a pipe gets a line for every page, none for the steps between.
-        if (page) console_.out << to_utf8(destination_and_file(status)) << '\n';
+        if (page) console_.out << to_utf8(file_name(status)) << '\n';
         return;
     }
     const auto now = std::chrono::steady_clock::now();

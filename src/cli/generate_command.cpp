@@ -3,6 +3,7 @@
 #include "cli/report_json.h"
 #include "cli/wizard.h"
 #include "engine/run.h"
+#include "platform/files.h"
 #include "settings/form6.h"
 
 #include <chrono>
@@ -70,7 +71,8 @@ Status generate_project(const Console& console, const std::filesystem::path& app
     }
     ClosingFigures figures = measure_output(screen<Form6>().run->project_folder);
     figures.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    figures.site_map = session.desktop.opened();
+    if (!session.desktop.opened().empty())
+        figures.site_map = from_utf8(disk_path(session.desktop.opened())); // in the case that it has on disk
     console.out << (options.json ? closing_json(options.project, figures) : closing_table(figures));
     return options.report.empty() ? Status::done : write_report(console, options.report);
 }

@@ -170,7 +170,8 @@ TEST_F(CommandLine, GenerateWritesTheSampleAndTellsPagesBytesAndSeconds) {
     EXPECT_EQ(random_pages, 18) << "20 pages over three destinations, the remainder left out";
     const std::string figures = std::to_string(pages) + " pages, " + std::to_string(bytes) + " bytes, ";
     EXPECT_NE(outcome.out.find(figures), std::string::npos) << figures << '\n' << outcome.out;
-    EXPECT_NE(outcome.out.find("local site map: "), std::string::npos);
+    const std::string site_map = outcome.out.substr(outcome.out.find("local site map: ") + 16);
+    EXPECT_TRUE(fs::is_regular_file(site_map.substr(0, site_map.find('\n')))) << site_map;
     EXPECT_NE(outcome.out.find("vegetable_garden.htm"), std::string::npos) << "tells pages as it goes";
     EXPECT_TRUE(app.exists(u"garden-sample.dat"));
     EXPECT_TRUE(app.exists(u"last-generated.txt"));
