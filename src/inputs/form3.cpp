@@ -1,0 +1,441 @@
+#include "inputs/form3.h"
+
+#include "assist/help.h"
+#include "engine/text_toolkit.h"
+#include "inputs/form5.h"
+#include "inputs/form8.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "shell/form2.h"
+#include "shell/module1.h"
+#include "tools/form19.h"
+#include "tools/form20.h"
+
+namespace twk {
+
+namespace {
+
+constexpr int screen_number = 3;
+constexpr int most_words = 20;
+constexpr int most_subkeywords = 99;
+/// Place of the entry to edit while none is found. An entry that stands at this very place counts as none.
+constexpr int no_index = 100;
+
+} // namespace
+
+Form3::Form3() {
+    List1.multi_select = true;
+    List2.multi_select = true;
+    Frame2.visible = false;
+    Frame4.visible = false;
+    Cmb_separator.enabled = false;
+    for (const TextView separator : {u";", u",", u".", u"-", u"_", u"*", u"Enter"})
+        Cmb_separator.add_item(Text(separator));
+    Cmb_separator.text = u"Enter";
+}
+
+void Form3::Form_Load() {
+    Frame1.visible = false;
+    Frame3.visible = false;
+    silencio = 0;
+    marcar_forma(screen_number, true);
+    abrir();
+    for (Recordset row = base_datos_.OpenRecordset(u"select * from Projects where name = '" +
+                                                   screen<Form2>().txt_name[0].text() + u"'");
+         !row.eof(); row.MoveNext())
+        pid_form = CInt(row.Fields(u"pid").number());
+    llenar_proyectos();
+    Dir2.set_path(app_path());
+    File2.set_path(app_path());
+    if (module1().pid_actual != 0)
+        for (Recordset row =
+                 base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid_form));
+             !row.eof(); row.MoveNext())
+            List1.add_item(row.Fields(u"keyword").text());
+    refrescar_cuentas();
+}
+
+void Form3::Form_Unload() {
+    marcar_forma(screen_number, false);
+}
+
+void Form3::abrir() {
+    base_datos_ =
+        OpenDatabase(app_path() + Text(path_separator) + u"hive.mdb", false, false, u";pwd=lantern4821");
+}
+
+void Form3::refrescar_cuentas() {
+    keyw.caption = to_text(List1.list_count());
+    skeyw.caption = to_text(List2.list_count());
+}
+
+void Form3::avisar(TextView mensaje) const {
+    if (silencio == 0) MsgBox(Text(mensaje));
+}
+
+Recordset Form3::filas_keyword(const Text& palabra) {
+    return base_datos_.OpenRecordset(u"select * from keywords where keyword = '" + palabra + u"' and pid = " +
+                                     to_text(pid_form));
+}
+
+std::int16_t Form3::buscar_keyid(const Text& palabra) {
+    std::int16_t key = 0;
+    for (Recordset row = filas_keyword(palabra); !row.eof(); row.MoveNext())
+        key = CInt(row.Fields(u"keyid").number());
+    return key;
+}
+
+bool Form3::demasiadas_palabras() {
+    Text palabra = Trim(Text1.text());
+    if (contar_palabras(palabra) <= most_words) return false;
+    avisar(u"Can't edit a +20 words Keyword Phrase");
+    return true;
+}
+
+bool Form3::hay_elemento(std::int16_t catid, const Text& palabra) {
+    return !base_datos_
+                .OpenRecordset(u"select * from elements where element = '" + palabra + u"' and catid = " +
+                               to_text(catid))
+                .eof();
+}
+
+// Entering, by the keyboard's Enter key too, and selecting
+
+void Form3::Text1_Click() {
+    for (int i = 0; i < List1.list_count(); ++i)
+        if (List1.selected(i)) List1.set_selected(i, false);
+    List1.list_index = -1;
+}
+
+void Form3::List1_Click() {
+    try {
+        const Text palabra = List1.text();
+        if (palabra.empty() || List1.list_index() < 0) return;
+        for (Recordset row = base_datos_.OpenRecordset(u"select keywords.keyid as X2 , keywords.pid as X3 "
+                                                       u" from keywords where keyword = '" +
+                                                       palabra + u"' and pid = " + to_text(pid_form));
+             !row.eof(); row.MoveNext())
+            keyid = CInt(row.Fields(u"X2").number());
+        Text1.text = palabra;
+        List2.clear();
+        for (Recordset row =
+                 base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(keyid));
+             !row.eof(); row.MoveNext())
+            List2.add_item(Trim(row.Fields(u"element").text()));
+        Text2.text = u"";
+        refrescar_cuentas();
+    } catch (const RuntimeFault&) {
+        refrescar_cuentas(); // stepped over: the right panel stays as far as it was filled
+    }
+}
+
+void Form3::List2_Click() {
+    if (List2.list_index() >= 0 && !List2.text().empty()) Text2.text = List2.text();
+    refrescar_cuentas();
+}
+
+// Keywords
+
+void Form3::agregar_keyword(TextView palabra) {
+    Text1.text = Trim(palabra);
+    Command2_Click();
+}
+
+void Form3::Command2_Click() {
+    if (Len(Text1.text()) < 3) {
+        MsgBox(u"Keyword too short"); // shown while importing too
+        Text1.set_focus();
+        return;
+    }
+    if (demasiadas_palabras()) {
+        Text1.set_focus();
+        return;
+    }
+    Text palabra = Text1.text();
+    palabra = validar_palabra(palabra);
+    Text1.text = palabra;
+    if (palabra.empty()) {
+        Text1.set_focus();
+        return;
+    }
+    estado = 1;
+    if (!filas_keyword(palabra).eof()) {
+        estado = 2;
+        avisar(u"You can't define 2 equal keywords");
+    }
+    // One question for all keywords of the project, so that adding stays quick when there are thousands.
+    if (estado == 1 &&
+        !base_datos_
+             .OpenRecordset(u"select eid from keywords , elements where keywords.pid = " + to_text(pid_form) +
+                            u" and elements.catid = keywords.keyid and element = '" + palabra + u"'")
+             .eof()) {
+        estado = 2;
+        avisar(u"You can't define a keyword name as a subkeyword");
+    }
+    if (estado == 1) {
+        abrir();
+        base_datos_.Execute(u"insert into keywords ( pid , keyword ) values ( " + to_text(pid_form) +
+                            u" , '" + palabra + u"' ) ");
+        List1.add_item(palabra);
+        Text1.text = u"";
+    }
+    Text1.set_focus();
+    refrescar_cuentas();
+}
+
+void Form3::Command21_Click() {
+    if (demasiadas_palabras()) return;
+    Text palabra = Text1.text();
+    palabra = validar_palabra(palabra);
+    // A refused word leaves the box empty; nothing else has changed.
+    Text1.text = palabra;
+    if (palabra.empty()) {
+        Text1.set_focus();
+        return;
+    }
+    if (List1.sel_count() != 1) {
+        MsgBox(u"You have to select 1 keyword");
+    } else {
+        int index = 0;
+        while (!List1.selected(index)) ++index;
+        // The store compares without regard to case, so a change of case alone matches itself and is refused.
+        if (!filas_keyword(palabra).eof()) {
+            avisar(u"You can't define 2 equal keywords");
+            return;
+        }
+        const Text trimmed = Trim(palabra);
+        base_datos_.Execute(u"update keywords set keyword = '" + trimmed + u"' where keyword='" +
+                            List1.list(index) + u"' and pid = " + to_text(pid_form));
+        List1.set_list(index, trimmed);
+    }
+    Text1.set_focus();
+    Text1.text = u"";
+    refrescar_cuentas();
+}
+
+void Form3::Command7_Click() {
+    Text quitada = u"no";
+    for (int i = 0; i < List1.list_count(); i += quitada == u"no" ? 1 : 0) {
+        quitada = u"no";
+        if (List1.selected(i)) {
+            const Text palabra = List1.list(i);
+            if (!borrar_keyword(palabra)) return; // those before it stay deleted
+            quitar_keyword(i);
+            quitada = u"si"; // the list has closed up: the next entry stands at the same place
+        }
+        DoEvents();
+    }
+    refrescar_cuentas();
+}
+
+/// Deletes the keyword with its subkeywords and ties; false when the user does not want that.
+bool Form3::borrar_keyword(const Text& palabra) {
+    const Text key = to_text(buscar_keyid(palabra));
+    if (!base_datos_.OpenRecordset(u"select * from elements where catid = " + key).eof()) {
+        if (MsgBox(u"Are you sure you want to delete this keyword?\rAll its subKeywords will be lost.",
+                   Buttons::ok_cancel, u"Delete Keyword?") == Answer::cancel)
+            return false;
+        base_datos_.Execute(u"delete from elements where catid = " + key);
+    }
+    for (Recordset row = base_datos_.OpenRecordset(u"select * from ties where keyid = " + key +
+                                                   u" and pid = " + to_text(pid_form));
+         !row.eof(); row.MoveNext())
+        base_datos_.Execute(u"delete from ties where tieid = " + row.Fields(u"tieid").text());
+    base_datos_.Execute(u"delete from keywords where pid = " + to_text(pid_form) + u" and keyword = '" +
+                        palabra + u"' ");
+    return true;
+}
+
+void Form3::quitar_keyword(int index) {
+    List1.remove_item(index);
+    List2.clear();
+    refrescar_cuentas();
+}
+
+// Subkeywords
+
+void Form3::Command3_Click() {
+    if (Len(Text2.text()) < 3) {
+        MsgBox(u"Subkeyword to short");
+        Text2.set_focus();
+        return;
+    }
+    if (trim_view(Text2.text()).empty()) return;
+    Text palabra = Text2.text();
+    palabra = validar_palabra(palabra);
+    Text2.text = palabra;
+    if (palabra.empty()) return;
+    abrir();
+    if (List1.sel_count() != 1) {
+        MsgBox(u"You must select 1 Keyword (in the left panel)");
+        return;
+    }
+    if (List1.list_index() < 0) {
+        MsgBox(u"You must select a Keyword (in the left panel) to adjudicate a SubKeyword");
+        return;
+    }
+    if (List2.list_count() >= most_subkeywords) {
+        MsgBox(u"You can't add more than 99 subkeywords per each keyword");
+        return;
+    }
+    estado = 1;
+    if (hay_elemento(keyid, palabra)) {
+        MsgBox(u"You can't define 2 equals subkeywords");
+        // Empties the box, as the only refusal that keeps the word no longer.
+        palabra.clear();
+        Text2.text = u"";
+        Text2.set_focus();
+        estado = 2;
+    }
+    // Compares exactly: another case passes here, unlike in the store's own comparison.
+    for (const Text& keyword : List1.entries())
+        if (!palabra.empty() && trim_view(keyword) == trim_view(palabra)) {
+            MsgBox(u"You can't define a subkeyword named as a keyword");
+            estado = 2;
+        }
+    if (estado != 1) return;
+    abrir();
+    base_datos_.Execute(u"insert into elements ( catid , element ) values ( " + to_text(keyid) + u" , '" +
+                        preparar_texto(Text(palabra)) + u"' ) ");
+    List2.add_item(palabra);
+    Text2.text = u"";
+    refrescar_cuentas();
+}
+
+void Form3::Command22_Click() {
+    if (Len(Text2.text()) < 3) {
+        MsgBox(u"Subkeyword to short");
+    } else if (!trim_view(Text2.text()).empty()) {
+        abrir();
+        int index = no_index;
+        if (List2.sel_count() == 0) {
+            MsgBox(u"There is no subkeyword selected or there is no one ");
+        } else if (List2.sel_count() > 1) {
+            MsgBox(u"You have to select 1 subkeyword");
+        } else {
+            index = 0;
+            while (!List2.selected(index)) ++index;
+        }
+        const Text palabra = Trim(Text2.text());
+        // The selected entry is among them: an unchanged word counts as equal to itself.
+        for (const Text& entry : List2.entries())
+            if (trim_view(entry) == palabra) {
+                MsgBox(u"You can't have 2 equal subKeywords");
+                return;
+            }
+        if (index != no_index) {
+            base_datos_.Execute(u"update elements set element = '" +
+                                Trim(preparar_texto(Text(Text2.text()))) + u"' where catid = " +
+                                to_text(keyid) + u" and element = '" + Trim(List2.list(index)) + u"'");
+            List2.set_list(index, palabra);
+        }
+    }
+    Text2.text = u"";
+    Text2.set_focus();
+    refrescar_cuentas();
+}
+
+void Form3::Command10_Click() {
+    Text quitado = u"no";
+    for (int i = 0; i < List2.list_count(); i += quitado == u"no" ? 1 : 0) {
+        quitado = u"no";
+        if (List2.selected(i)) {
+            // Without a selected keyword the list still shows the subkeywords of the one selected last.
+            const std::int16_t found = buscar_keyid(List1.text());
+            base_datos_.Execute(u"delete from elements where element = '" + Trim(List2.list(i)) +
+                                u"' and catid = " + to_text(found != 0 ? found : keyid));
+            List2.remove_item(i);
+            quitado = u"si";
+        }
+        DoEvents();
+    }
+    refrescar_cuentas();
+}
+
+// To other screens
+
+void Form3::Command8_Click() {
+    if (List1.list_index() >= 0) screens().show<Form8>();
+}
+
+void Form3::Command6_Click() {
+    screens().show<Form20>();
+}
+
+void Form3::cmd_wizard_Click() {
+    screens().show<Form19>();
+    Form19& wizard = screen<Form19>();
+    wizard.modo_asistente = 1;
+    wizard.tomar_web();
+}
+
+void Form3::cmd_wizard_sub_Click() {
+    screens().show<Form19>();
+    Form19& wizard = screen<Form19>();
+    wizard.modo_asistente = 2;
+    wizard.tabla_asistente.clear();
+    for (const Text& subkeyword : List2.entries()) wizard.tabla_asistente.push_back({subkeyword});
+    wizard.tomar_web();
+}
+
+void Form3::Command5_Click() {
+    if (List1.list_count() < 3) {
+        MsgBox(u"You must provide more than 3 keywords"); // three pass
+        return;
+    }
+    screens().unload<Form5>();
+    screens().show<Form5>();
+    screens().bring_forward<Form5>();
+}
+
+void Form3::Command1_Click() {
+    mostrar_ayuda(u"form3");
+}
+
+void Form3::enumerate(ScreenMap& map) {
+    map.control("lbl_intro", lbl_intro);
+    map.control("lbl_keywords", lbl_keywords);
+    map.control("lbl_advice", lbl_advice);
+    map.control("Text1", Text1);
+    map.control("List1", List1);
+    map.control("Command2", Command2);
+    map.control("Command21", Command21);
+    map.control("Command7", Command7);
+    map.control("Text2", Text2);
+    map.control("List2", List2);
+    map.control("Command3", Command3);
+    map.control("Command22", Command22);
+    map.control("Command10", Command10);
+    map.control("lbl_keyw", lbl_keyw);
+    map.control("lbl_skeyw", lbl_skeyw);
+    map.control("keyw", keyw);
+    map.control("skeyw", skeyw);
+    map.control("Command8", Command8);
+    map.control("Command6", Command6);
+    map.control("cmd_wizard", cmd_wizard);
+    map.control("cmd_wizard_sub", cmd_wizard_sub);
+    map.control("Command5", Command5);
+    map.control("Command1", Command1);
+    map.event("Text1", "Click", [this] { Text1_Click(); });
+    map.event("Text1", "Enter", [this] { Command2_Click(); });
+    map.event("Text2", "Change", [this] { Text2_Change(); });
+    map.event("Text2", "Enter", [this] { Command3_Click(); });
+    map.event("List1", "Click", [this] { List1_Click(); });
+    map.event("List2", "Click", [this] { List2_Click(); });
+    map.event("Command2", "Click", [this] { Command2_Click(); });
+    map.event("Command21", "Click", [this] { Command21_Click(); });
+    map.event("Command7", "Click", [this] { Command7_Click(); });
+    map.event("Command3", "Click", [this] { Command3_Click(); });
+    map.event("Command22", "Click", [this] { Command22_Click(); });
+    map.event("Command10", "Click", [this] { Command10_Click(); });
+    map.event("Command8", "Click", [this] { Command8_Click(); });
+    map.event("Command6", "Click", [this] { Command6_Click(); });
+    map.event("cmd_wizard", "Click", [this] { cmd_wizard_Click(); });
+    map.event("cmd_wizard_sub", "Click", [this] { cmd_wizard_sub_Click(); });
+    map.event("Command5", "Click", [this] { Command5_Click(); });
+    map.event("Command1", "Click", [this] { Command1_Click(); });
+    enumerate_moves(map);
+    enumerate_lists(map);
+}
+
+} // namespace twk

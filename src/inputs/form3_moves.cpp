@@ -1,0 +1,263 @@
+// Step 2: moving keywords and subkeywords, and copying the keywords of another project.
+
+#include "assist/help.h"
+#include "engine/text_toolkit.h"
+#include "inputs/form3.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "shell/form2.h"
+
+#include <algorithm>
+
+namespace twk {
+
+namespace {
+
+bool holds_element(Recordset rows, TextView palabra) {
+    for (; !rows.eof(); rows.MoveNext())
+        if (Trim(rows.Fields(u"element").text()) == palabra) return true;
+    return false;
+}
+
+} // namespace
+
+void Form3::Command11_Click() {
+    abrir_movimiento(List2, List3, Label5, u"SubKeyword", Frame1);
+}
+
+void Form3::Command12_Click() {
+    abrir_movimiento(List1, List4, Label10, u"Keyword", Frame2);
+}
+
+/// Opens a frame for the entry selected in `from`, with all other keywords as destinations; without one,
+/// nothing happens.
+void Form3::abrir_movimiento(ListBox& from, ListBox& to, Label& label, TextView what, Frame& frame) {
+    const Text palabra = Trim(from.text());
+    if (from.list_index() < 0 || palabra.empty()) return;
+    to.clear();
+    label.caption = Text(what) + u" '" + palabra + u"' ";
+    if (&from == &List2) {
+        choose_option(Option1, 0);
+        Option1_Click(0);
+    }
+    for (int i = 0; i < List1.list_count(); ++i)
+        if (i != List1.list_index() && !trim_view(List1.list(i)).empty()) to.add_item(List1.list(i));
+    to.list_index = -1;
+    frame.visible = true;
+}
+
+void Form3::Option1_Click(int index) {
+    choose_option(Option1, static_cast<std::size_t>(index));
+    List3.enabled = index == 1;
+}
+
+void Form3::Command13_Click() {
+    Frame1.visible = false;
+}
+void Form3::Command18_Click() {
+    Frame2.visible = false;
+}
+void Form3::Command14_Click() {
+    mostrar_ayuda(u"form3");
+}
+void Form3::Command17_Click() {
+    mostrar_ayuda(u"form3");
+}
+
+// Moving a subkeyword
+
+void Form3::Command15_Click() {
+    abrir();
+    const Text palabra = Trim(List2.text());
+    if (Len(palabra) < 3) {
+        MsgBox(u"Keywords must be longer than 3 characters!"); // three pass
+        return;
+    }
+    Text contada = palabra;
+    if (contar_palabras(contada) >= 21) {
+        MsgBox(u"Can't add a +20 words Keyword Phrase");
+        return;
+    }
+    if (LCase(palabra) == u"index" || LCase(palabra) == u"sitemap") {
+        MsgBox(u"'Sitemap' and 'Index' are reserved words.");
+        return;
+    }
+    if (Option1[0].value())
+        mover_como_keyword(palabra);
+    else if (Option1[1].value())
+        mover_como_subkeyword(palabra);
+}
+
+void Form3::mover_como_keyword(const Text& palabra) {
+    estado = 1;
+    if (!filas_keyword(palabra).eof()) {
+        MsgBox(u"You can't define 2 equal keywords");
+        estado = 2;
+    }
+    if (estado == 1) {
+        base_datos_.Execute(u"insert into keywords ( pid , keyword ) values ( " + to_text(pid_form) +
+                            u" , '" + palabra + u"' ) ");
+        List1.add_item(palabra);
+    }
+    // A refused subkeyword goes as well: it is lost. Under another keyword it would have stayed.
+    borrar_elemento(palabra);
+}
+
+void Form3::mover_como_subkeyword(const Text& palabra) {
+    const Text destination = List3.text();
+    if (List3.list_index() < 0 || destination.empty()) {
+        MsgBox(u"You must select a destination keyword from this frame");
+        return;
+    }
+    estado = 1;
+    if (!filas_keyword(palabra).eof()) {
+        MsgBox(u"You can't define 2 equal keywords");
+        estado = 2; // and is not looked at: the move goes on
+    }
+    const Text key = to_text(buscar_keyid(destination));
+    if (holds_element(base_datos_.OpenRecordset(u"select * from elements where catid = " + key), palabra)) {
+        MsgBox(u"You can't define 2 equal SubKeyword");
+        Frame1.visible = false;
+        return;
+    }
+    base_datos_.Execute(u"insert into elements ( catid , element ) values ( " + key + u" , '" + palabra +
+                        u"' ) ");
+    borrar_elemento(palabra);
+}
+
+/// Takes the moved subkeyword away from the keyword selected last, and closes the frame.
+void Form3::borrar_elemento(const Text& palabra) {
+    base_datos_.Execute(u"delete from elements where element = '" + palabra + u"' and catid = " +
+                        to_text(keyid));
+    if (List2.list_index() >= 0) List2.remove_item(List2.list_index());
+    Frame1.visible = false;
+    refrescar_cuentas();
+}
+
+// Moving a keyword
+
+void Form3::Command16_Click() {
+    const Text destination = List4.text();
+    if (List4.list_index() < 0 || destination.empty()) {
+        MsgBox(
+            u"To move this Keyword as another's keyword Subkeyword \nyou Must select a keyword from this frame");
+        return;
+    }
+    const Text palabra = List1.text();
+    const std::int16_t from = buscar_keyid(palabra);
+    // No transaction holds the steps together: what has moved before a refusal stays moved.
+    if (!mover_subkeywords(from, destination)) return;
+    const Text key = to_text(buscar_keyid(destination));
+    if (holds_element(base_datos_.OpenRecordset(u"select * from elements where catid = " + key), palabra)) {
+        MsgBox(u"You can't define 2 equal SubKeyword");
+        Frame1.visible = false; // the other move's frame: this one's stays open
+        return;
+    }
+    base_datos_.Execute(u"insert into elements ( catid , element ) values ( " + key + u" , '" + palabra +
+                        u"' ) ");
+    // A subkeyword cannot be tied, so the ties go.
+    for (Recordset row = base_datos_.OpenRecordset(u"select * from ties where keyid = " + to_text(keyid) +
+                                                   u" and pid = " + to_text(pid_form));
+         !row.eof(); row.MoveNext())
+        base_datos_.Execute(u"delete from ties where tieid = " + row.Fields(u"tieid").text());
+    base_datos_.Execute(u"delete from keywords where pid = " + to_text(pid_form) + u" and keyword = '" +
+                        palabra + u"' ");
+    if (List1.list_index() >= 0) quitar_keyword(List1.list_index());
+    Frame2.visible = false;
+    refrescar_cuentas();
+}
+
+/// Moves all subkeywords; false when one is repeated at the destination, where the move stops.
+bool Form3::mover_subkeywords(std::int16_t from, const Text& destination) {
+    Recordset row = base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(from));
+    if (row.eof()) return true;
+    MsgBox(u"The subkeywords for this keyword will be moved as subkeyword for the destination keyword");
+    const Text key = to_text(buscar_keyid(destination));
+    for (; !row.eof(); row.MoveNext()) {
+        const Text element = row.Fields(u"element").text();
+        if (holds_element(base_datos_.OpenRecordset(u"select * from elements where catid = " + key),
+                          Trim(element))) {
+            MsgBox(u"SubKeyword '" + element + u"' is repeated in the destination keyword");
+            Frame2.visible = false;
+            return false;
+        }
+        base_datos_.Execute(u"insert into elements ( catid , element ) values ( " + key + u" , '" + element +
+                            u"' )");
+        base_datos_.Execute(u"delete from elements where eid = " + row.Fields(u"eid").text());
+    }
+    return true;
+}
+
+// Using keywords from another project
+
+void Form3::llenar_proyectos() {
+    for (Recordset row = base_datos_.OpenRecordset(u"select distinct(name) from Projects , keywords where "
+                                                   u" Projects.pid = keywords.pid "
+                                                   u" and projects.name <> '" +
+                                                   Trim(screen<Form2>().txt_name[0].text()) + u"' " +
+                                                   u" order by name asc ");
+         !row.eof(); row.MoveNext())
+        Combo1.add_item(row.Fields(u"name").text());
+}
+
+void Form3::Combo1_Click() {
+    const Text project = Combo1.text();
+    if (MsgBox(u"Are you sure you want to copy " + project + u"'s keywords into this project?",
+               Buttons::yes_no) == Answer::no)
+        return;
+    alguna_ = 0;
+    for (Recordset row =
+             base_datos_.OpenRecordset(u"SELECT Projects.pid as ff , keywords.* From Projects, keywords "
+                                       u"WHERE Projects.name = '" +
+                                       project + u"' and Projects.pid = keywords.pid ");
+         !row.eof(); row.MoveNext()) {
+        const Text palabra = row.Fields(u"keyword").text();
+        const auto& here = List1.entries();
+        encontrada_ = std::find(here.begin(), here.end(), Trim(palabra)) != here.end() ? 1 : 0;
+        if (encontrada_ == 1) {
+            alguna_ = 1;
+            continue;
+        }
+        // Goes in unchecked: it may equal a subkeyword of this project.
+        base_datos_.Execute(u"insert into keywords ( pid , keyword ) values ( " + to_text(pid_form) +
+                            u" , '" + palabra + u"' ) ");
+        List1.add_item(palabra);
+    }
+    if (alguna_ == 1)
+        MsgBox(u"Some keywords from " + project +
+               u" project couldn't be copied \nbecause they already exist on the current project");
+    keyw.caption = to_text(List1.list_count());
+}
+
+void Form3::enumerate_moves(ScreenMap& map) {
+    map.control("lbl_copy", lbl_copy);
+    map.control("Combo1", Combo1);
+    map.control("Command11", Command11);
+    map.control("Frame1", Frame1);
+    map.control("Label5", Label5);
+    map.controls("Option1", Option1);
+    map.control("List3", List3);
+    map.control("Command15", Command15);
+    map.control("Command13", Command13);
+    map.control("Command14", Command14);
+    map.control("Command12", Command12);
+    map.control("Frame2", Frame2);
+    map.control("Label10", Label10);
+    map.control("lbl_pick", lbl_pick);
+    map.control("List4", List4);
+    map.control("Command16", Command16);
+    map.control("Command18", Command18);
+    map.control("Command17", Command17);
+    map.event("Combo1", "Click", [this] { Combo1_Click(); });
+    map.event("Command11", "Click", [this] { Command11_Click(); });
+    map.event("Command12", "Click", [this] { Command12_Click(); });
+    for (int i = 0; i < 2; ++i) map.event("Option1", i, "Click", [this, i] { Option1_Click(i); });
+    map.event("Command13", "Click", [this] { Command13_Click(); });
+    map.event("Command14", "Click", [this] { Command14_Click(); });
+    map.event("Command15", "Click", [this] { Command15_Click(); });
+    map.event("Command16", "Click", [this] { Command16_Click(); });
+    map.event("Command17", "Click", [this] { Command17_Click(); });
+    map.event("Command18", "Click", [this] { Command18_Click(); });
+}
+
+} // namespace twk
