@@ -1,0 +1,373 @@
+#include "inputs/form5.h"
+
+#include "assist/help.h"
+#include "engine/text_toolkit.h"
+#include "inputs/form3.h"
+#include "inputs/form7.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "shell/form2.h"
+#include "shell/module1.h"
+#include "tools/form11.h"
+#include "tools/form21.h"
+
+namespace twk {
+
+namespace {
+
+constexpr int screen_number = 5;
+/// Exactly so many boxes refuse another one by hand; a list that an import has pushed past does not.
+constexpr int full_list = 99;
+constexpr int few_words = 100;
+
+/// Fault 9 outside the table.
+Text& cell(std::array<Text, max_boxes>& table, int index) {
+    if (index < 0 || index >= max_boxes) throw RuntimeFault(fault_subscript);
+    return table[static_cast<std::size_t>(index)];
+}
+
+const Text& project_name() {
+    return screen<Form2>().txt_name[0].text();
+}
+
+Database open_store() {
+    return OpenDatabase(app_path() + Text(path_separator) + u"hive.mdb", false, false, u";pwd=lantern4821");
+}
+
+void warn_of_few_words(Text text) {
+    if (contar_palabras(text) < few_words)
+        MsgBox(u"We recomend more than 100 words in the content box"); // the box is stored all the same
+}
+
+/// Runs one statement of a routine that carries on after every fault.
+template <class Statement> void stepping_over(Statement statement) {
+    try {
+        statement();
+    } catch (const RuntimeFault&) {
+    }
+}
+
+Text wrapped(TextView tag, const Text& text) {
+    return u"<" + Text(tag) + u">" + text + u"</" + Text(tag) + u">";
+}
+
+} // namespace
+
+Form5::Form5() {
+    Text2.read_only = true;
+    Text3.read_only = true;
+    CommonDialog1.font_name = u"MS Sans Serif";
+}
+
+void Form5::Form_Load() {
+    marcar_forma(screen_number, true);
+    tabla_kw.resize(screen<Form3>().List1.list_count() + 1);
+    RTAux.clear();
+    base_datos_ = open_store();
+    for (Recordset row =
+             base_datos_.OpenRecordset(u"select * from Projects where name = '" + project_name() + u"'");
+         !row.eof(); row.MoveNext())
+        pid_form = CInt(row.Fields(u"pid").number());
+    const std::int16_t open_project = module1().pid_actual;
+    if (open_project != 0) {
+        pid_form = open_project;
+        for (Recordset row =
+                 base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid_form));
+             !row.eof(); row.MoveNext())
+            lstkeyword.add_item(row.Fields(u"keyid").text() + u"-" + Trim(row.Fields(u"keyword").text()));
+    }
+    Text3.text = Text(critic_at_rest);
+    for (Recordset row = base_datos_.OpenRecordset(u"select distinct(name) from Projects , keywords where "
+                                                   u" Projects.pid = keywords.pid and  projects.name <> '" +
+                                                   project_name() + u"' " + u" order by name asc ");
+         !row.eof(); row.MoveNext())
+        combo1.add_item(row.Fields(u"Name").text());
+    if (open_project != 0) refrescar_cajas();
+    llenar_tabla();
+}
+
+/// Fault 9 for a keyword with more than 100 subkeywords.
+void Form5::llenar_tabla() {
+    int row_number = 0;
+    for (Recordset row =
+             base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid_form));
+         !row.eof() && row_number < tabla_kw.rows(); row.MoveNext(), ++row_number) {
+        tabla_kw.cell(row_number) = row.Fields(u"keyword").text();
+        int column = 0;
+        for (Recordset sub = base_datos_.OpenRecordset(u"select * from elements where catid = " +
+                                                       row.Fields(u"keyid").text());
+             !sub.eof(); sub.MoveNext())
+            tabla_kw.cell(row_number, ++column) = sub.Fields(u"element").text();
+    }
+}
+
+void Form5::Form_Unload() {
+    marcar_forma(screen_number, false);
+}
+
+void Form5::refrescar_cajas() {
+    List1.clear();
+    int n = 0;
+    for (Recordset row =
+             base_datos_.OpenRecordset(u"select * from content where pid = " + to_text(module1().pid_actual));
+         !row.eof(); row.MoveNext(), ++n) {
+        const Text texto = row.Fields(u"content").text();
+        cell(caja_texto, n) = texto;
+        cell(caja_cid, n) = row.Fields(u"cid").text();
+        List1.add_item(to_text(n + 1) + u". " + Trim(Left(texto, 70)) + u" ... ");
+    }
+    rt1.text = u"";
+}
+
+void Form5::List1_Click() {
+    if (List1.list_index() < 0) return;
+    rt1.text = Replace(cell(caja_texto, List1.list_index()), vbCrLf, u" ");
+    // The box as selected: what the critic changes in the editor counts as unsaved.
+    RTAux = rt1.text();
+    criticar();
+}
+
+// Boxes
+
+void Form5::Command2_Click() {
+    if (List1.list_count() == full_list) {
+        MsgBox(u"You can only add 100 content boxes");
+        return;
+    }
+    if (trim_view(rt1.text()).empty()) {
+        MsgBox(u"You can`t save an empty box");
+        return;
+    }
+    criticar();
+    base_datos_ = open_store();
+    warn_of_few_words(rt1.text());
+    Recordset row = base_datos_.OpenRecordset(u"content");
+    row.AddNew();
+    row.set(u"pid", pid_form);
+    escribir_contenido(row);
+    rt1.text = u"";
+    refrescar_cajas();
+    DoEvents();
+    RTAux = rt1.text();
+}
+
+void Form5::Command5_Click() {
+    if (trim_view(rt1.text()).empty()) {
+        MsgBox(u"Can't Update with an empty box");
+        return;
+    }
+    if (List1.list_index() < 0 &&
+        MsgBox(u"Do you want to ADD this content ?", Buttons::yes_no) == Answer::yes) {
+        Command2_Click();
+        return;
+    }
+    warn_of_few_words(rt1.text());
+    base_datos_ = open_store();
+    // After a No above there is no box to write to: a subscript fault, and nothing is saved.
+    Recordset row =
+        base_datos_.OpenRecordset(u"select * from content WHERE cid = " + cell(caja_cid, List1.list_index()));
+    row.Edit();
+    escribir_contenido(row);
+    rt1.text = u"";
+    refrescar_cajas();
+    DoEvents();
+    refrescar_cajas();
+    RTAux = rt1.text();
+}
+
+/// Writes the editor's text to the row that is being added or changed.
+void Form5::escribir_contenido(Recordset& row) {
+    const Text texto = preparar_texto(Text(rt1.text()));
+    row.AppendChunk(u"content", Replace(texto, vbCrLf, u" <br> "));
+    row.Update();
+    row.Close();
+}
+
+void Form5::Command3_Click() {
+    const int count = List1.list_count();
+    for (int i = 0; i < count; ++i) {
+        if (!List1.selected(i)) continue;
+        const Text cid = cell(caja_cid, i);
+        const Text where = u"from ties where cid = " + cid + u" and pid  = " + to_text(pid_form);
+        if (!base_datos_.OpenRecordset(u"select * " + where).eof()) base_datos_.Execute(u"delete " + where);
+        base_datos_.Execute(u"delete from content where cid = " + cid);
+        RTAux.clear();
+    }
+    refrescar_cajas();
+}
+
+void Form5::Command8_Click() {
+    rt1.text = u"";
+    RTAux.clear();
+}
+
+void Form5::Command11_Click() {
+    if (!RTAux.empty())
+        rt1.text = RTAux; // drops unsaved edits, and an earlier wrapping with them
+    else
+        RTAux = rt1.text();
+    CommonDialog1.flags = 263;
+    CommonDialog1.show_font(); // a cancelled dialog wraps the box all the same
+    const CommonDialog& font = CommonDialog1;
+    Text texto = u"<font face = \"" + font.font_name + u"\" size = \"" + to_text(font.font_size) + u"\">" +
+                 rt1.text() + u"</font>";
+    if (font.font_italic) texto = wrapped(u"i", texto);
+    if (font.font_bold) texto = wrapped(u"b", texto);
+    if (font.font_strikethru) texto = wrapped(u"s", texto);
+    if (font.font_underline) texto = wrapped(u"u", texto);
+    rt1.text = texto;
+    Command5_Click();
+}
+
+void Form5::cmdshow_Click() {
+    if (trim_view(rt1.text()).empty()) return;
+    const Text path = preview_file();
+    FileSystemObject fso;
+    stepping_over([&] {
+        const TextStreamPtr out = fso.OpenTextFile(path + u"aux", OpenMode::writing, true, TextKind::page);
+        out->writeline(rt1.text());
+        out->Close();
+    });
+    stepping_over([&] { fso.CopyFile(path + u"aux", path); });
+    stepping_over([&] { fso.DeleteFile(path + u"aux"); });
+    stepping_over([&] { desktop().navigate(screen<Form21>().WebBrowser1, path); });
+    stepping_over([&] { screen<Form21>().Text1.text = rt1.text(); });
+    stepping_over([] { screens().show<Form21>(); });
+    stepping_over([] { DoEvents(); });
+    stepping_over([] { esperar(2); });
+    stepping_over([&] { fso.DeleteFile(path); });
+}
+
+// Ties
+
+void Form5::cmdtie_Click() {
+    if (List1.list_index() < 0 || lstkeyword.list_index() < 0) {
+        MsgBox(u"You have to select any content or keyword");
+        return;
+    }
+    const Text cid = cell(caja_cid, List1.list_index());
+    const Text& chosen = lstkeyword.list(lstkeyword.list_index());
+    const Text keyid = Trim(Left(chosen, InStr(chosen, u"-") - 1));
+    base_datos_ = open_store();
+    if (!base_datos_
+             .OpenRecordset(u"select * from ties where pid = " + to_text(pid_form) + u" and keyid = " + keyid)
+             .eof()) {
+        MsgBox(u"This keyword is already tied to another content box.");
+        return;
+    }
+    const Text pid = to_text(module1().pid_actual);
+    for (Recordset row = base_datos_.OpenRecordset(u"select  *  from ties where pid = " + pid); !row.eof();
+         row.MoveNext())
+        if (row.Fields(u"keyid").text() == keyid && row.Fields(u"cid").text() == cid) {
+            MsgBox(u"You can't tie them again");
+            return;
+        }
+    base_datos_.Execute(u"insert into ties ( pid , keyid , cid  ) values ( " + pid + u" , " + keyid + u" , " +
+                        cid + u"  ) ");
+    MsgBox(u"Keyword and Content selected has been tied");
+}
+
+// Import
+
+void Form5::Command7_Click() {
+    if (MsgBox(u"This action may take a while depending on your PC speed and the amount of content boxes\n"
+               u"Are you sure you want to proceed?",
+               Buttons::yes_no) == Answer::no)
+        return;
+    if (combo1.list_index() < 0) return;
+    const Text project = combo1.text();
+    if (project == Trim(project_name())) {
+        MsgBox(u"Can't import from the same Project");
+        return;
+    }
+    if (MsgBox(u"Import Content Boxes from " + project + u" to this project?", Buttons::ok_cancel,
+               u"Import Content?") == Answer::cancel) {
+        combo1.text = u"Pick up a project";
+        return;
+    }
+    stepping_over([&] { importar_cajas(project); });
+    stepping_over([&] { refrescar_cajas(); });
+}
+
+void Form5::importar_cajas(const Text& project) {
+    for (Recordset row = base_datos_.OpenRecordset(u"select * from content , projects where content.pid = "
+                                                   u"projects.pid and projects.name = '" +
+                                                   project + u"'");
+         !row.eof(); row.MoveNext())
+        // An apostrophe breaks the statement: that box is left out without a word.
+        stepping_over([&] {
+            Text texto = preparar_texto(row.Fields(u"content").text());
+            texto = Replace(texto, vbCrLf, u"<br>");
+            base_datos_.Execute(u"insert into content ( pid , content ) values ( " + to_text(pid_form) +
+                                u" , '" + texto + u"' ) ");
+        });
+}
+
+// To other screens
+
+void Form5::Command4_Click() {
+    screens().show<Form11>();
+}
+
+void Form5::Command9_Click() {
+    mostrar_ayuda(u"form5");
+}
+
+void Form5::Command1_Click() {
+    if (rt1.text() != RTAux &&
+        MsgBox(u"You didn`t save the changes in the content box, do you want to do it?", Buttons::yes_no) ==
+            Answer::yes)
+        Command5_Click();
+    screens().unload<Form7>();
+    if (List1.list_count() < 2) {
+        MsgBox(u"You Must enter at least 2 content boxes.");
+        return;
+    }
+    screens().show<Form7>();
+    screens().bring_forward<Form7>();
+}
+
+void Form5::enumerate(ScreenMap& map) {
+    map.control("Label1", Label1);
+    map.control("rt1", rt1);
+    map.control("List1", List1);
+    map.control("Command2", Command2);
+    map.control("Command5", Command5);
+    map.control("Command3", Command3);
+    map.control("Command8", Command8);
+    map.control("Command11", Command11);
+    map.control("cmdshow", cmdshow);
+    map.control("Label6", Label6);
+    map.control("lstkeyword", lstkeyword);
+    map.control("cmdtie", cmdtie);
+    map.control("Label4", Label4);
+    map.control("combo1", combo1);
+    map.control("Command7", Command7);
+    map.control("Label2", Label2);
+    map.control("Command4", Command4);
+    map.control("Text2", Text2);
+    map.control("Command9", Command9);
+    map.control("Command1", Command1);
+    map.control("Frame1", Frame1);
+    map.control("Text3", Text3);
+    map.control("Check1", Check1);
+    map.control("Label5", Label5);
+    map.control("Command6", Command6);
+    map.control("Label3", Label3);
+    map.control("CommonDialog1", CommonDialog1);
+    map.event("List1", "Click", [this] { List1_Click(); });
+    map.event("Command1", "Click", [this] { Command1_Click(); });
+    map.event("Command2", "Click", [this] { Command2_Click(); });
+    map.event("Command3", "Click", [this] { Command3_Click(); });
+    map.event("Command4", "Click", [this] { Command4_Click(); });
+    map.event("Command5", "Click", [this] { Command5_Click(); });
+    map.event("Command6", "Click", [this] { Command6_Click(); });
+    map.event("Command7", "Click", [this] { Command7_Click(); });
+    map.event("Command8", "Click", [this] { Command8_Click(); });
+    map.event("Command9", "Click", [this] { Command9_Click(); });
+    map.event("Command11", "Click", [this] { Command11_Click(); });
+    map.event("cmdshow", "Click", [this] { cmdshow_Click(); });
+    map.event("cmdtie", "Click", [this] { cmdtie_Click(); });
+}
+
+} // namespace twk
