@@ -1,0 +1,64 @@
+#include "tools/form11.h"
+
+#include "inputs/form5.h"
+#include "platform/addresses.h"
+#include "platform/desktop.h"
+#include "shell/module1.h"
+
+namespace twk {
+
+void Form11::Form_Load() {
+    marcar_forma(11, true);
+    wb1.silent = true;
+    desktop().navigate(wb1, screen<Form5>().Text2.text());
+}
+
+void Form11::Form_Unload() {
+    marcar_forma(11, false);
+}
+
+void Form11::wb1_NavigateComplete() {
+    Text1.text = wb1.location_url();
+}
+
+void Form11::Command5_Click() {
+    if (!trim_view(Text1.text()).empty()) desktop().navigate(wb1, Text1.text());
+}
+
+void Form11::Command2_Click() {
+    desktop().go_back(wb1);
+}
+
+void Form11::Command3_Click() {
+    desktop().go_forward(wb1);
+}
+
+void Form11::Command4_Click() {
+    desktop().navigate(wb1, Text(addresses::maker_site));
+}
+
+void Form11::Command1_Click() {
+    Text texto = desktop().inner_text(wb1);
+    replace_all(texto, vbCr, u"<p>");
+    replace_all(texto, vbCrLf, u""); // finds none: of a line end only the line feed is left, and it stays
+    screen<Form5>().rt1.text = texto;
+}
+
+void Form11::enumerate(ScreenMap& map) {
+    map.control("wb1", wb1);
+    map.control("Text1", Text1);
+    map.control("Command5", Command5);
+    map.control("Command2", Command2);
+    map.control("Command3", Command3);
+    map.control("Command4", Command4);
+    map.control("Command1", Command1);
+    map.event("wb1", "NavigateComplete", [this] { wb1_NavigateComplete(); });
+    map.event("Text1", "Enter", [this] { Command5_Click(); });
+    map.event("Command1", "Click", [this] { Command1_Click(); });
+    map.event("Command2", "Click", [this] { Command2_Click(); });
+    map.event("Command3", "Click", [this] { Command3_Click(); });
+    map.event("Command4", "Click", [this] { Command4_Click(); });
+    map.event("Command5", "Click", [this] { Command5_Click(); });
+}
+
+} // namespace twk

@@ -1,0 +1,160 @@
+#include "tools/form19.h"
+
+#include "engine/text_toolkit.h"
+#include "inputs/form3.h"
+#include "platform/addresses.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "shell/module1.h"
+#include "store/database.h"
+
+#include <algorithm>
+
+namespace twk {
+
+namespace {
+
+constexpr TextView suggestion_path = u"/d/searchinventory/suggestion/?term=";
+constexpr TextView term_key = u"?term=";
+/// Rounds of waiting, 5 seconds each, after which the user is asked: ten minutes.
+constexpr int patience = 120;
+
+Text folded(TextView text) {
+    return LCase(trim_view(text));
+}
+
+} // namespace
+
+void Form19::Form_Load() {
+    Frame2.visible = false;
+    wb1.visible = true;
+}
+
+void Form19::tomar_web() {
+    desktop().navigate(wb1, u"about:blank");
+    // A word may take minutes, and the user may close the screen meanwhile: the lookups end with it.
+    if (modo_asistente == 2) {
+        for (fila_ = 0; fila_ < static_cast<int>(tabla_asistente.size()); ++fila_) {
+            const auto& row = tabla_asistente[static_cast<std::size_t>(fila_)];
+            buscar_termino(row.empty() ? Text() : row.front());
+            if (!screens().is_loaded<Form19>()) return;
+        }
+    } else if (modo_asistente == 1) {
+        List1.clear();
+        for (indice_ = 0; indice_ < screen<Form3>().List1.list_count(); ++indice_) {
+            const Text entry = screen<Form3>().List1.list(indice_);
+            if (!trim_view(entry).empty()) buscar_termino(entry);
+            if (!screens().is_loaded<Form19>()) return;
+        }
+    }
+    Frame2.visible = false;
+    screens().record<Form19>().caption = u"Keyword Wizard";
+}
+
+void Form19::buscar_termino(const Text& termino) {
+    screens().record<Form19>().caption = u"Keyword Wizard";
+    const Text buscado = Trim(termino);
+    if (buscado.empty()) return;
+    desktop().navigate(wb1, Text(addresses::suggestion_service) + Text(suggestion_path) +
+                                Replace(buscado, u" ", u"%20"));
+    DoEvents();
+    esperar(10);
+    if (!screens().is_loaded<Form19>()) return;
+    const ListBox& keywords = screen<Form3>().List1;
+    screens().record<Form19>().caption =
+        u"Searching over the net: " + (modo_asistente == 1 ? keywords.list(indice_) : keywords.text());
+    if (!esperar_navegador()) return;
+    for (const Link& link : desktop().links(wb1))
+        if (contains(link.address, term_key)) tomar_sugerencia(link.address, buscado);
+}
+
+/// Waits for the page; false when the user does not want to wait any longer.
+bool Form19::esperar_navegador() {
+    int contador = 0;
+    while (desktop().busy(wb1)) {
+        if (contador == patience) {
+            if (MsgBox(u"This procedure is taking more time than expected.\rDo you want to continue?.",
+                       Buttons::ok_cancel, u"Time Out") == Answer::cancel)
+                return false;
+            contador = 0;
+        }
+        esperar(5);
+        ++contador;
+    }
+    return screens().is_loaded<Form19>();
+}
+
+/// The service shows each suggestion as a link whose query repeats the term.
+void Form19::tomar_sugerencia(const Text& address, const Text& termino) {
+    const Text behind = Mid(address, InStr(address, term_key) + Len(term_key));
+    Text sugerencia = Left(behind, InStr(behind, u"&mkt") - 1);
+    for (const TextView code : {u"%20", u"%2E", u"%2F"}) replace_all(sugerencia, code, u" ");
+    quitar_dobles(sugerencia);
+    if (conocida(sugerencia)) return;
+    sugerencia = Trim(sugerencia);
+    if (modo_asistente == 2) {
+        if (fila_ >= 0 && fila_ < static_cast<int>(tabla_asistente.size()))
+            tabla_asistente[static_cast<std::size_t>(fila_)].push_back(sugerencia);
+        List1.add_item(u"-SK-" + termino);
+        List1.add_item(sugerencia);
+        return;
+    }
+    List1.add_item(sugerencia);
+    List1.set_selected(List1.list_count() - 1, true);
+}
+
+bool Form19::conocida(const Text& sugerencia) const {
+    const Text wanted = folded(sugerencia);
+    const auto same = [&](const Text& entry) { return folded(entry) == wanted; };
+    const auto& listed = List1.entries();
+    const auto& keywords = screen<Form3>().List1.entries();
+    return std::any_of(listed.begin(), listed.end(), same) ||
+           std::any_of(keywords.begin(), keywords.end(), same);
+}
+
+void Form19::Command5_Click() {
+    for (int i = 0; i < List1.list_count(); ++i) {
+        const Text palabra = Trim(List1.list(i));
+        if (palabra.empty() || !List1.selected(i) || Len(palabra) <= 3) continue;
+        Text contada = palabra;
+        if (contar_palabras(contada) >= 20) continue;
+        // Reserved words pass here, and the store is not asked: the lookup has compared with Step 2's list.
+        Database base_datos =
+            OpenDatabase(app_path() + Text(path_separator) + u"hive.mdb", false, false, u";pwd=lantern4821");
+        base_datos.Execute(u"insert into keywords ( pid , keyword ) values ( " +
+                           to_text(module1().pid_actual) + u" , '" + palabra + u"' ) ");
+        screen<Form3>().List1.add_item(palabra);
+    }
+}
+
+void Form19::Command1_Click() {
+    Frame2.visible = true;
+}
+
+void Form19::Command11_Click() {
+    Frame2.visible = false;
+}
+
+void Form19::Command4_Click() {
+    List1.clear();
+    screens().unload<Form19>();
+}
+
+void Form19::enumerate(ScreenMap& map) {
+    map.control("wb1", wb1);
+    map.control("Label4", Label4);
+    map.control("List1", List1);
+    map.control("Command5", Command5);
+    map.control("Command1", Command1);
+    map.control("Command4", Command4);
+    map.control("Frame2", Frame2);
+    map.control("Label7", Label7);
+    map.control("Label6", Label6);
+    map.control("Command11", Command11);
+    map.event("Command5", "Click", [this] { Command5_Click(); });
+    map.event("Command1", "Click", [this] { Command1_Click(); });
+    map.event("Command4", "Click", [this] { Command4_Click(); });
+    map.event("Command11", "Click", [this] { Command11_Click(); });
+}
+
+} // namespace twk

@@ -1,0 +1,41 @@
+#include "tools/form21.h"
+
+#include "inputs/form5.h"
+#include "platform/desktop.h"
+#include "platform/files.h"
+
+namespace twk {
+
+Text preview_file() {
+    return app_path() + Text(path_separator) + u"delete.htm";
+}
+
+void Form21::cmdrefresh_Click() {
+    const Text path = preview_file();
+    FileSystemObject fso;
+    const TextStreamPtr made = fso.OpenTextFile(path, OpenMode::writing, true, TextKind::page);
+    const TextStreamPtr out = fso.OpenTextFile(path + u"aux", OpenMode::writing, true, TextKind::page);
+    out->writeline(Text1.text());
+    out->Close();
+    made->Close();
+    fso.DeleteFile(path);
+    fso.CopyFile(path + u"aux", path);
+    fso.DeleteFile(path + u"aux");
+    desktop().navigate(WebBrowser1, path);
+}
+
+void Form21::cmdgoback_Click() {
+    screen<Form5>().rt1.text = Text1.text();
+    screens().unload<Form21>();
+}
+
+void Form21::enumerate(ScreenMap& map) {
+    map.control("WebBrowser1", WebBrowser1);
+    map.control("Text1", Text1);
+    map.control("cmdrefresh", cmdrefresh);
+    map.control("cmdgoback", cmdgoback);
+    map.event("cmdrefresh", "Click", [this] { cmdrefresh_Click(); });
+    map.event("cmdgoback", "Click", [this] { cmdgoback_Click(); });
+}
+
+} // namespace twk

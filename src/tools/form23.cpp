@@ -1,0 +1,223 @@
+#include "tools/form23.h"
+
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/faults.h"
+#include "platform/files.h"
+#include "platform/numbers.h"
+
+namespace twk {
+
+namespace {
+
+constexpr int grid_rows = 100; ///< the header among them
+
+/// Pages keep their mark when they hold more than ASCII, other files stay without.
+TextKind kind_of(const Text& path) {
+    const Text name = LCase(path);
+    return name.ends_with(u".htm") || name.ends_with(u".html") ? TextKind::page : TextKind::list;
+}
+
+/// Whole-number progress. Fault 11 when `last` is 0.
+double progress(int last, int index) {
+    if (last == 0) throw RuntimeFault(fault_division);
+    return Int(Int(100.0 / last) * index);
+}
+
+} // namespace
+
+void Form23::Form_Load() {
+    combo1.clear();
+    combo1.text = u"Pick a project";
+    Dir2.set_path(app_path());
+    Text1.text = app_path();
+    Text2.text = u"*.htm";
+    base_datos_ =
+        OpenDatabase(app_path() + Text(path_separator) + u"hive.mdb", false, false, u";pwd=lantern4821");
+    archivos.assign(2, {});
+    Text5.read_only = true;
+    for (std::size_t i = 0; i < Frame1.size(); ++i) Frame1[i].visible = i == all_files;
+    for (Recordset row = base_datos_.OpenRecordset(u"select distinct(name) from Projects , keywords where "
+                                                   u" Projects.pid = keywords.pid "
+                                                   u" order by name asc ");
+         !row.eof(); row.MoveNext())
+        combo1.add_item(row.Fields(u"Name").text());
+    for (const TextView element : {u"Keywords", u"Content", u"Other Strings..."})
+        List1.add_item(Text(element));
+}
+
+void Form23::Option1_Click(int index) {
+    choose_option(Option1, static_cast<std::size_t>(index));
+    Frame1[all_files].visible = index == 0;
+    Frame1[placeholders].visible = index == 1;
+}
+
+void Form23::Drive2_Change() {
+    Dir2.set_path(Drive2.drive());
+    Dir2_Change();
+}
+
+void Form23::Dir2_Change() {
+    Text1.text = Dir2.list(Dir2.list_index());
+}
+
+void Form23::Check3_Click() {
+    Text4.enabled = !Check3.value();
+}
+
+/// The folder of the paths is the one in `Dir2`, the names are those of `Text1`: the same only as long as
+/// `Text1` has not been typed over.
+void Form23::listar_archivos() {
+    archivos.assign(1, {});
+    dir_escondido.set_path(Trim(Text1.text()));
+    if (Check1.value()) return; // nothing is listed: one empty entry stays
+    file_escondido.set_path(Trim(Text1.text()));
+    file_escondido.set_pattern(Trim(Text2.text()));
+    if (file_escondido.list_count() == 0) throw RuntimeFault(fault_subscript);
+    archivos.clear();
+    for (const Text& file : file_escondido.entries())
+        archivos.push_back(Dir2.path() + Text(path_separator) + file);
+}
+
+/// The newest entry stands at the top.
+void Form23::anotar(const Text& entry) {
+    Text5.text = entry + Text5.text();
+}
+
+void Form23::cmdFindAll_Click() {
+    try {
+        recorrer_archivos();
+    } catch (const RuntimeFault&) {
+        // Files not yet reached stay as they were.
+        MsgBox(
+            u"An error has occurred (maybe a protected file).\r\nThe proccess did not finished successfully.");
+    }
+}
+
+void Form23::recorrer_archivos() {
+    listar_archivos();
+    Frame1[results].visible = true;
+    ProgressBar1.set_value(0.01);
+    Text5.text = u"Find started at " + ahora();
+    const int last = static_cast<int>(archivos.size()) - 1;
+    for (int i = 0; i <= last; ++i) {
+        const Text path = archivos[static_cast<std::size_t>(i)];
+        const int lines = tratar_archivo(path);
+        ProgressBar1.set_value(progress(last, i)); // a single file is treated, then the division fails
+        anotar(path + (Check3.value() ? u" - Founded in " : u" - Replaced in ") + to_text(lines) +
+               u" lines\r\n");
+        DoEvents();
+        if (!screens().is_loaded<Form23>()) return; // closed meanwhile
+    }
+    anotar(to_text(last) + u" Files processed\r\n\r\n"); // one less than there are
+    anotar(u"Process Finished at " + ahora() + u"\r\n");
+    ProgressBar1.set_value(100);
+}
+
+/// Returns the number of lines with the find text. When replacing, only these lines are written: a file loses
+/// all others, and one without any ends up empty. A failure between delete and copy leaves the text in the
+/// "_temp" file.
+int Form23::tratar_archivo(const Text& path) {
+    const bool replacing = !Check3.value();
+    const Text& find = Text3.text();
+    FileSystemObject fso;
+    const TextStreamPtr in = fso.OpenTextFile(path, OpenMode::reading, true);
+    TextStreamPtr out;
+    if (replacing) out = fso.OpenTextFile(path + u"_temp", OpenMode::writing, true, kind_of(path));
+    int lines = 0;
+    while (!in->AtEndOfStream()) {
+        const Text line = in->readline();
+        if (find.empty() || !contains(line, find)) continue;
+        ++lines;
+        if (replacing) out->writeline(Replace(line, find, Text4.text()));
+    }
+    in->Close();
+    if (replacing) {
+        out->Close();
+        fso.DeleteFile(path);
+        fso.CopyFile(path + u"_temp", path);
+        fso.DeleteFile(path + u"_temp");
+    }
+    return lines;
+}
+
+// Placeholders: laid out, and no file is changed
+
+void Form23::cmdTWK_Click() {
+    if (combo1.list_index() < 0) {
+        MsgBox(u"You must pick a project!");
+        return;
+    }
+    if (List1.list_index() < 0) {
+        MsgBox(u"You must select at least 1 element to replace");
+        return;
+    }
+    gridReplace.clear();
+    gridReplace.resize(grid_rows - 1, {u"PlaceHolder/Flag             ", u"Replace String                 "});
+    for (int row = 1; row < grid_rows; ++row)
+        for (int column = 0; column < 2; ++column) gridReplace.set_cell(row, column, to_text(row) + u"a");
+    Frame1[grid].visible = true;
+}
+
+void Form23::Command1_Click() {
+    listar_archivos();
+    Frame1[results].visible = true;
+}
+
+void Form23::Command2_Click() {
+    Frame1[results].visible = false;
+}
+void Form23::Command5_Click() {
+    Frame1[grid].visible = false;
+}
+void Form23::Command3_Click() {
+    screens().unload<Form23>();
+}
+
+void Form23::enumerate(ScreenMap& map) {
+    map.controls("Frame1", Frame1);
+    map.control("Label46", Label46);
+    map.control("Drive2", Drive2);
+    map.control("Dir2", Dir2);
+    map.control("Text1", Text1);
+    map.control("Label1", Label1);
+    map.control("Text2", Text2);
+    map.control("Check1", Check1);
+    map.controls("Option1", Option1);
+    map.control("Label2", Label2);
+    map.control("Text3", Text3);
+    map.control("Label3", Label3);
+    map.control("Text4", Text4);
+    map.control("Check2", Check2);
+    map.control("Check3", Check3);
+    map.control("cmdFindAll", cmdFindAll);
+    map.control("lbl_warning", lbl_warning);
+    map.control("Label4", Label4);
+    map.control("combo1", combo1);
+    map.control("Label5", Label5);
+    map.control("List1", List1);
+    map.control("cmdTWK", cmdTWK);
+    map.control("gridReplace", gridReplace);
+    map.control("Command1", Command1);
+    map.control("Command5", Command5);
+    map.control("Text5", Text5);
+    map.control("ProgressBar1", ProgressBar1);
+    map.control("Command2", Command2);
+    map.control("Command7", Command7);
+    map.control("Command3", Command3);
+    map.control("dir_escondido", dir_escondido);
+    map.control("file_escondido", file_escondido);
+    map.event("Drive2", "Change", [this] { Drive2_Change(); });
+    map.event("Dir2", "Change", [this] { Dir2_Change(); });
+    for (int i = 0; i < 2; ++i) map.event("Option1", i, "Click", [this, i] { Option1_Click(i); });
+    map.event("Check3", "Click", [this] { Check3_Click(); });
+    map.event("cmdFindAll", "Click", [this] { cmdFindAll_Click(); });
+    map.event("cmdTWK", "Click", [this] { cmdTWK_Click(); });
+    map.event("Command1", "Click", [this] { Command1_Click(); });
+    map.event("Command2", "Click", [this] { Command2_Click(); });
+    map.event("Command3", "Click", [this] { Command3_Click(); });
+    map.event("Command5", "Click", [this] { Command5_Click(); });
+    map.event("Command7", "Click", [this] { Command7_Click(); });
+}
+
+} // namespace twk

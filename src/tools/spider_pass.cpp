@@ -1,0 +1,186 @@
+// One pass of the spider, from the links of the results page to the list of words. The pass is one event that
+// lets others run while it waits: a click on "Cancell" meanwhile ends it, or starts a second pass within it.
+
+#include "engine/text_toolkit.h"
+#include "inputs/form3.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "tools/form20.h"
+
+#include <algorithm>
+
+namespace twk {
+
+namespace {
+
+constexpr TextView running = u"Cancell";
+constexpr TextView head_end = u"</head>";
+constexpr int http_protocol = 4;
+
+Text folded(TextView text) {
+    return LCase(trim_view(text));
+}
+
+/// The page up to the end of its head: nothing behind it is looked at, and a page may be huge.
+void keep_head(Text& page) {
+    const auto found = std::search(page.begin(), page.end(), head_end.begin(), head_end.end(),
+                                   [](char16_t a, char16_t b) { return lower(a) == b; });
+    if (found == page.end()) return;
+    page.erase(found + static_cast<std::ptrdiff_t>(head_end.size()), page.end());
+    page.shrink_to_fit();
+}
+
+} // namespace
+
+bool Form20::en_marcha() const {
+    return Command7.caption() == running;
+}
+
+/// The newest entry stands at the top.
+void Form20::anotar(const Text& entry) {
+    Text1.text = entry + u"\r\n\r\n" + Text1.text();
+}
+
+void Form20::Command7_Click() {
+    if (en_marcha() && MsgBox(u"Cancell Spider?", Buttons::yes_no, u"Spider") == Answer::yes) {
+        Command7.caption = u"Spider";
+        anotar(ahora() + u" - Process Cancelled");
+        return; // the pass under way sees the caption and ends by itself
+    }
+    // After a No a second pass starts inside the first, with a fresh table and log.
+    palabras.clear();
+    n_palabras = 0;
+    max_filas = 1000;
+    Text1.text = ahora() + u" - Starting Spider";
+    if (!IsNumeric(combo1.text()) || combo1.text() == u"0") return;
+    const int limite = CLng(combo1.text());
+    if (limite < 0) throw RuntimeFault(fault_subscript);
+    enlaces.clear();
+    agotados = 0;
+    Command7.caption = Text(running);
+    Frame5.visible = true;
+    tomar_enlaces(limite);
+    bajar_enlaces();
+    volcar();
+    Command7.caption = u"Spider";
+    Frame5.visible = false;
+}
+
+/// Takes links up to the limit and one more.
+void Form20::tomar_enlaces(int limite) {
+    for (const Link& link : desktop().links(wb1)) {
+        if (!en_marcha()) return;
+        if (static_cast<int>(enlaces.size()) <= limite && vale_enlace(link.address))
+            enlaces.push_back(Trim(link.address));
+    }
+}
+
+bool Form20::vale_enlace(const Text& address) const {
+    if (Check1.value())
+        for (const Text& word : List2.entries())
+            if (!trim_view(word).empty() && InStr(address, word) > 0) return false;
+    if (Check2.value())
+        // Leaves out a "related:" link of an address that is taken, and later pages of a bare host.
+        for (const Text& taken : enlaces) {
+            if (taken.empty()) break;
+            if (InStr(address, Trim(Replace(taken, u"http://", u""))) > 0) return false;
+        }
+    return true;
+}
+
+void Form20::bajar_enlaces() {
+    const auto empty = [](const Text& entry) { return entry.empty(); };
+    const auto total = static_cast<int>(enlaces.size()) -
+                       static_cast<int>(std::count_if(enlaces.begin(), enlaces.end(), empty));
+    for (int i = 0; i <= total && en_marcha(); ++i) {
+        // The round behind the last entry finds nothing. A pass inside this one changes the table.
+        if (i >= static_cast<int>(enlaces.size())) continue;
+        const Text address = enlaces[static_cast<std::size_t>(i)];
+        if (trim_view(address).empty() || trim_view(address) == u"http://") continue;
+        bajar(address);
+        if (!en_marcha()) return;
+        ProgressBar2.set_value(100.0 / total * i);
+    }
+}
+
+/// Fetches one page and takes its words. Only a time-out is told apart from success: after any other fault
+/// the page is empty.
+void Form20::bajar(const Text& address) {
+    Text pagina;
+    int error = 0;
+    try {
+        Inet1.protocol = http_protocol;
+        pagina = desktop().fetch(Inet1, address);
+    } catch (const RuntimeFault& fault) {
+        error = fault.number();
+    }
+    if (!en_marcha()) return;
+    while (Inet1.still_executing && en_marcha()) DoEvents();
+    if (error == fault_timed_out) {
+        anotar(ahora() + u"Timed out: " + address); // nothing between date and text
+        ++agotados;
+        return;
+    }
+    anotar(Trim(address) + u" downloaded");
+    cosechar(std::move(pagina), address);
+}
+
+void Form20::cosechar(Text pagina, const Text& address) {
+    keep_head(pagina);
+    pagina = preparar_texto(pagina);
+    quitar_dobles(pagina);
+    const Text minusculas = LCase(pagina);
+    // The first "keywords" of the head counts, in a tag for keywords or not.
+    const int p = InStr(minusculas, u"keywords");
+    if (p <= 0 || p >= InStr(minusculas, head_end)) {
+        anotar(ahora() + u" - No keywords found in " + address);
+        return;
+    }
+    anotar(ahora() + u" - Searching for keywords in " + address);
+    Text lista = Right(pagina, Len(pagina) - p - 8); // the character behind "keywords" is dropped, too
+    lista = Trim(Left(lista, InStr(lista, u">")));   // ">" stays on the last word
+    if (lista.starts_with(u"content")) {
+        // Inside a keyword "content" is lost with the rest.
+        for (const TextView part : {u"content", u"\"", u"="}) replace_all(lista, part, u"");
+        lista = Trim(lista);
+    }
+    for (const TextView pieza : split_views(lista, u",")) {
+        if (n_palabras >= max_filas) return;
+        contar_palabra(pieza);
+    }
+}
+
+void Form20::contar_palabra(TextView pieza) {
+    const Text clave = folded(pieza);
+    const auto& keywords = screen<Form3>().List1.entries();
+    if (!clave.empty() && std::any_of(keywords.begin(), keywords.end(), [&](const Text& keyword) {
+            return same_text(trim_view(keyword), clave);
+        }))
+        return; // the project has it already
+    for (Palabra& row : palabras)
+        if (row.clave == clave) {
+            row.veces = CInt(row.veces + 1.0);
+            return;
+        }
+    Text palabra = preparar_texto(Trim(pieza));
+    Text clave_guardada = folded(palabra);
+    palabras.push_back({std::move(palabra), 1, std::move(clave_guardada)});
+    ++n_palabras;
+}
+
+/// Lists the words; those met more than once arrive selected. What earlier passes listed stays.
+void Form20::volcar() {
+    if (!en_marcha()) return;
+    anotar(ahora() + u" - Dumping Keywords ");
+    for (const Palabra& row : palabras) {
+        if (trim_view(row.palabra).empty()) continue;
+        List1.add_item(row.palabra);
+        if (row.veces > 1) List1.set_selected(List1.list_count() - 1, true);
+    }
+    anotar(ahora() + u" - Process Complete ");
+    ProgressBar2.set_value(100);
+    Frame5.visible = false;
+}
+
+} // namespace twk
