@@ -1,0 +1,157 @@
+#include "inputs/step_two.h"
+
+namespace twk {
+namespace {
+
+class Moves : public test::StepTwo {
+  protected:
+    Moves() {
+        for (const TextView keyword : {u"roses", u"tulips", u"lilies"}) store_keyword(Text(keyword));
+    }
+};
+
+TEST_F(Moves, of_a_subkeyword_open_for_a_selected_one_only) {
+    store_subkeyword(1, u"red");
+    click("Command11");
+    click("Command12");
+    EXPECT_FALSE(form().Frame1.visible() || form().Frame2.visible());
+    select_keyword(0);
+    select_subkeyword(0);
+    click("Command11");
+    EXPECT_TRUE(form().Frame1.visible());
+    EXPECT_EQ(to_utf8(form().Label5.caption()), "SubKeyword 'red' ");
+    EXPECT_EQ(joined(form().List3.entries()), "tulips|lilies");
+    EXPECT_FALSE(form().List3.enabled());
+    click("Option1", 1);
+    EXPECT_TRUE(form().List3.enabled());
+    EXPECT_FALSE(form().Option1[0].value());
+    click("Command13");
+    EXPECT_FALSE(form().Frame1.visible());
+    click("Command12");
+    EXPECT_EQ(to_utf8(form().Label10.caption()), "Keyword 'roses' ");
+    EXPECT_EQ(joined(form().List4.entries()), "tulips|lilies");
+}
+
+TEST_F(Moves, make_a_subkeyword_a_keyword_or_lose_it) {
+    store_subkeyword(1, u"red");
+    store_subkeyword(1, u"Tulips");
+    store_subkeyword(1, u"ab");
+    select_keyword(0);
+    select_subkeyword(0);
+    click("Command11");
+    click("Command15");
+    EXPECT_EQ(keywords(), "roses|tulips|lilies|red");
+    EXPECT_EQ(stored_subkeywords(1), "Tulips|ab");
+    EXPECT_FALSE(form().Frame1.visible());
+    select_subkeyword(0);
+    click("Command11");
+    app.desktop.expect(u"You can't define 2 equal keywords");
+    click("Command15");
+    EXPECT_EQ(stored_keywords(), "roses|tulips|lilies|red");
+    EXPECT_EQ(stored_subkeywords(1), "ab"); // gone, after the message
+    select_subkeyword(0);
+    app.desktop.expect(u"Keywords must be longer than 3 characters!");
+    click("Command15");
+    EXPECT_EQ(subkeywords(), "ab");
+}
+
+TEST_F(Moves, take_a_subkeyword_to_another_keyword) {
+    for (const TextView element : {u"red", u"lilies", u"sitemap"}) store_subkeyword(1, Text(element));
+    store_subkeyword(2, u" red");
+    select_keyword(0);
+    select_subkeyword(0);
+    click("Command11");
+    click("Option1", 1);
+    app.desktop.expect(u"You must select a destination keyword from this frame");
+    click("Command15");
+    EXPECT_TRUE(form().Frame1.visible());
+    form().List3.list_index = 0;
+    app.desktop.expect(u"You can't define 2 equal SubKeyword");
+    click("Command15");
+    EXPECT_FALSE(form().Frame1.visible());
+    EXPECT_EQ(stored_subkeywords(1), "red|lilies|sitemap");
+    form().List3.list_index = 1;
+    click("Command15");
+    EXPECT_EQ(stored_subkeywords(3), "red");
+    select_subkeyword(0);
+    app.desktop.expect(u"You can't define 2 equal keywords"); // told, and moved all the same
+    click("Command15");
+    EXPECT_EQ(subkeywords(), "sitemap");
+    EXPECT_EQ(stored_subkeywords(3), "red|lilies");
+    select_subkeyword(0);
+    app.desktop.expect(u"'Sitemap' and 'Index' are reserved words.");
+    click("Command15");
+    EXPECT_EQ(stored_subkeywords(1), "sitemap");
+}
+
+TEST_F(Moves, make_a_keyword_a_subkeyword_with_all_it_has) {
+    store_subkeyword(1, u"red");
+    app.run(u"insert into ties ( pid , keyid , cid ) values ( 1 , 1 , 7 ) ");
+    app.run(u"insert into ties ( pid , keyid , cid ) values ( 1 , 2 , 7 ) ");
+    select_keyword(0);
+    click("Command12");
+    app.desktop.expect(u"To move this Keyword as another's keyword Subkeyword \nyou Must select a keyword");
+    click("Command16");
+    form().List4.list_index = 1;
+    app.desktop.expect(
+        u"The subkeywords for this keyword will be moved as subkeyword for the destination keyword");
+    click("Command16");
+    EXPECT_EQ(keywords(), "tulips|lilies");
+    EXPECT_EQ(stored_keywords(), "tulips|lilies");
+    EXPECT_EQ(stored_subkeywords(3), "red|roses");
+    EXPECT_EQ(stored(u"select * from ties", u"keyid"), "2");
+    EXPECT_EQ(subkeywords(), "");
+    EXPECT_FALSE(form().Frame2.visible());
+}
+
+TEST_F(Moves, stop_half_way_at_a_repeated_subkeyword) {
+    for (const TextView element : {u"red", u"white", u"pink"}) store_subkeyword(1, Text(element));
+    store_subkeyword(2, u"white");
+    select_keyword(0);
+    click("Command12");
+    form().List4.list_index = 0;
+    app.desktop.expect(u"will be moved");
+    app.desktop.expect(u"SubKeyword 'white' is repeated in the destination keyword");
+    click("Command16");
+    EXPECT_EQ(stored_subkeywords(1), "white|pink");
+    EXPECT_EQ(stored_subkeywords(2), "white|red");
+    EXPECT_EQ(stored_keywords(), "roses|tulips|lilies");
+    EXPECT_FALSE(form().Frame2.visible());
+}
+
+TEST_F(Moves, leave_their_frame_open_when_the_keyword_is_there_already) {
+    store_subkeyword(2, u"roses");
+    select_keyword(0);
+    click("Command12");
+    form().List4.list_index = 0;
+    app.desktop.expect(u"You can't define 2 equal SubKeyword");
+    click("Command16");
+    EXPECT_TRUE(form().Frame2.visible());
+    EXPECT_EQ(stored_keywords(), "roses|tulips|lilies");
+}
+
+TEST_F(Moves, copy_the_keywords_of_another_project_once) {
+    store_keyword(u"ferns", 2);
+    store_keyword(u"tulips", 2);
+    store_keyword(u"Roses", 2); // compared exactly: copied
+    store_subkeyword(4, u"tall");
+    form().Combo1.select(0);
+    app.desktop.expect(u"Are you sure you want to copy other's keywords into this project?", Answer::no);
+    click("Combo1");
+    EXPECT_EQ(keywords(), "roses|tulips|lilies");
+    app.desktop.expect(u"Are you sure", Answer::yes);
+    app.desktop.expect(
+        u"Some keywords from other project couldn't be copied \nbecause they already exist on the current project");
+    click("Combo1");
+    EXPECT_EQ(keywords(), "roses|tulips|lilies|ferns|Roses");
+    EXPECT_EQ(stored_keywords(), keywords());
+    EXPECT_EQ(to_utf8(form().keyw.caption()), "5");
+    EXPECT_EQ(app.count(u"select * from elements"), 1);
+    app.desktop.expect(u"Are you sure", Answer::yes);
+    app.desktop.expect(u"Some keywords from other");
+    click("Combo1");
+    EXPECT_EQ(form().List1.list_count(), 5);
+}
+
+} // namespace
+} // namespace twk
