@@ -1,0 +1,128 @@
+#include "desktop/binder.h"
+
+#include "desktop/control_links.h"
+
+#include <QMetaObject>
+#include <QPushButton>
+#include <QTimer>
+#include <QWidget>
+#include <type_traits>
+
+namespace twk {
+
+std::function<void()> ScreenBinding::after_event;
+
+namespace {
+
+template <class C>
+constexpr bool is_windowless =
+    std::is_same_v<C, Inet> || std::is_same_v<C, CommonDialog> || std::is_same_v<C, Timer>;
+
+std::string event_key(const std::string& object, const std::string& event) {
+    return object + "." + event;
+}
+
+} // namespace
+
+bool has_no_widget(const Screen& screen, const ScreenMap::Control& control) {
+    static const std::set<std::string> own_lists = {
+        "Form1.Dir1", "Form1.File1", "Form5.RTAux",          "Form6.File1",
+        "Form6.Dir1", "Form6.List1", "Form23.dir_escondido", "Form23.file_escondido"};
+    const bool windowless = std::visit(
+        [](auto* each) { return is_windowless<std::remove_pointer_t<decltype(each)>>; }, control.ref);
+    return windowless || own_lists.contains(screen.name + "." + control.object_name());
+}
+
+ScreenBinding::ScreenBinding(Screen& screen, QWidget& form) : screen_(&screen) {
+    for (auto* button : form.findChildren<QPushButton*>()) button->setAutoDefault(false);
+    bind_controls(form);
+    check_events();
+}
+
+ScreenBinding::~ScreenBinding() {
+    detach();
+}
+
+void ScreenBinding::bind_controls(QWidget& form) {
+    for (const ScreenMap::Control& each : screen_->map.all_controls()) {
+        const bool bound = std::visit(
+            [&]<class C>(C* control) {
+                if constexpr (std::is_same_v<C, Timer>) {
+                    auto* timer = new QTimer(this);
+                    connect(timer, &QTimer::timeout, this, [this, &each] { fire(each, "Timer"); });
+                    const auto apply = [timer, control](Prop) {
+                        control->enabled() && control->interval() > 0 ? timer->start(control->interval())
+                                                                      : timer->stop();
+                    };
+                    control->observer.watch(apply);
+                    apply(Prop::enabled);
+                    offer(each, "Timer");
+                    return true;
+                } else if constexpr (is_windowless<C>) {
+                    return true;
+                } else {
+                    auto* const widget = form.findChild<QWidget*>(QString::fromStdString(each.object_name()));
+                    if (widget == nullptr) return has_no_widget(*screen_, each);
+                    return link(ControlLink<C>{*this, each, *control, *widget});
+                }
+            },
+            each.ref);
+        if (!bound) unbound_.push_back(each.object_name());
+    }
+}
+
+void ScreenBinding::check_events() {
+    for (const ScreenMap::Event& each : screen_->map.all_events()) {
+        if (each.control == "Form" && (each.name == "QueryUnload" || each.name == "Activate")) continue;
+        const ScreenMap::Control* const control = screen_->map.find_control(each.control, each.index);
+        if (control == nullptr || !offered_.contains(event_key(control->object_name(), each.name)))
+            unbound_.push_back(event_key(each.control, each.name));
+    }
+}
+
+void ScreenBinding::detach() {
+    if (screen_ == nullptr) return;
+    for (const ScreenMap::Control& each : screen_->map.all_controls())
+        std::visit([](auto* control) { control->observer.watch({}); }, each.ref);
+    screen_->observer.watch({});
+    screen_ = nullptr;
+    browsers_.clear();
+}
+
+void ScreenBinding::fire(const ScreenMap::Control& control, const char* event) {
+    if (screen_ == nullptr) return;
+    screens().fire(*screen_, control.name, event, control.index);
+    if (after_event) after_event();
+}
+
+bool ScreenBinding::fire_form(const char* event) {
+    if (screen_ == nullptr || screen_->map.find_event("Form", event) == nullptr) return false;
+    screens().fire(*screen_, "Form", event);
+    if (after_event) after_event();
+    return true;
+}
+
+void ScreenBinding::run(const std::function<void()>& event) {
+    if (screen_ == nullptr) return;
+    screens().dispatch(event);
+    if (after_event) after_event();
+}
+
+void ScreenBinding::fire_later(const ScreenMap::Control& control, const char* event) {
+    QTimer::singleShot(0, this, [this, &control, event] { fire(control, event); });
+}
+
+void ScreenBinding::offer(const ScreenMap::Control& control, const char* event) {
+    offered_.insert(event_key(control.object_name(), event));
+}
+
+void ScreenBinding::add_browser(const WebBrowser& browser, BrowserView& view) {
+    browsers_[&browser] = &view;
+}
+
+BrowserView* ScreenBinding::browser(const WebBrowser& browser) const {
+    const auto at = browsers_.find(&browser);
+    return at == browsers_.end() ? nullptr : at->second;
+}
+
+} // namespace twk

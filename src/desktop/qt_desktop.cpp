@@ -1,0 +1,228 @@
+#include "desktop/qt_desktop.h"
+
+#include "desktop/browser.h"
+#include "desktop/qt_text.h"
+#include "desktop/screen_window.h"
+#include "platform/faults.h"
+#include "platform/files.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QMessageBox>
+#include <QSettings>
+#include <QUrl>
+#include <cstdlib>
+
+/// The resources of a static library are linked in by name alone.
+static void load_resources() {
+    Q_INIT_RESOURCE(resources);
+}
+
+namespace twk {
+
+namespace {
+
+/// "Text (*.dat)|*.dat" pairs, or a bare pattern, as the file dialog has them.
+QString name_filter(const Text& filter) {
+    const std::vector<Text> parts = Split(filter, u"|");
+    if (parts.size() < 2) return to_qt(filter);
+    QStringList all;
+    for (std::size_t i = 0; i + 1 < parts.size(); i += 2) {
+        const QString name = to_qt(parts[i]).section(u'(', 0, 0).trimmed();
+        all << QStringLiteral("%1 (%2)").arg(name, to_qt(parts[i + 1]).replace(u';', u' '));
+    }
+    return all.join(QStringLiteral(";;"));
+}
+
+QColor to_color(std::uint32_t value) {
+    return QColor(static_cast<int>(value & 0xFF), static_cast<int>(value >> 8 & 0xFF),
+                  static_cast<int>(value >> 16 & 0xFF));
+}
+
+ScreenWindow* window_of(const Screen& screen) {
+    return static_cast<ScreenWindow*>(screen.front_end);
+}
+
+} // namespace
+
+QtDesktop::QtDesktop() {
+    load_resources();
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tarnwick.png")));
+}
+QtDesktop::~QtDesktop() = default;
+
+Answer QtDesktop::MsgBox(const Message& message) {
+    QMessageBox box(QApplication::activeWindow() != nullptr ? QApplication::activeWindow() : &window_);
+    box.setWindowModality(Qt::ApplicationModal);
+    box.setWindowTitle(to_qt(message.title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(to_qt(message.text));
+    const bool question = message.buttons != Buttons::ok;
+    box.setIcon(message.critical ? QMessageBox::Critical
+                                 : (question ? QMessageBox::Question : QMessageBox::Information));
+    switch (message.buttons) {
+    case Buttons::ok: box.setStandardButtons(QMessageBox::Ok); break;
+    case Buttons::ok_cancel: box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel); break;
+    case Buttons::yes_no: box.setStandardButtons(QMessageBox::Yes | QMessageBox::No); break;
+    }
+    switch (box.exec()) {
+    case QMessageBox::Yes: return Answer::yes;
+    case QMessageBox::No: return Answer::no;
+    case QMessageBox::Ok: return Answer::ok;
+    default: break;
+    }
+    if (message.buttons == Buttons::ok) return Answer::ok;
+    return message.buttons == Buttons::yes_no ? Answer::no : Answer::cancel;
+}
+
+std::optional<Text> QtDesktop::ask_file(const FileQuestion& question, bool save) {
+    QFileDialog dialog(&window_, to_qt(question.title), to_qt(question.start_folder),
+                       name_filter(question.filter));
+    dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (!question.file_name.empty() && !contains(question.file_name, u"*"))
+        dialog.selectFile(to_qt(question.file_name));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    return from_qt(dialog.selectedFiles().constFirst());
+}
+
+std::optional<Text> QtDesktop::ask_open_file(const FileQuestion& question) {
+    return ask_file(question, false);
+}
+
+std::optional<Text> QtDesktop::ask_save_file(const FileQuestion& question) {
+    return ask_file(question, true);
+}
+
+std::optional<std::uint32_t> QtDesktop::ask_color(std::uint32_t start) {
+    const QColor chosen = QColorDialog::getColor(to_color(start), &window_);
+    if (!chosen.isValid()) return std::nullopt;
+    return static_cast<std::uint32_t>(chosen.red() | chosen.green() << 8 | chosen.blue() << 16);
+}
+
+std::optional<FontChoice> QtDesktop::ask_font(const FontChoice& start) {
+    QFont font(to_qt(start.name));
+    font.setPointSizeF(start.size);
+    font.setBold(start.bold);
+    font.setItalic(start.italic);
+    font.setStrikeOut(start.strikethrough);
+    font.setUnderline(start.underline);
+    bool accepted = false;
+    const QFont chosen = QFontDialog::getFont(&accepted, font, &window_);
+    if (!accepted) return std::nullopt;
+    return FontChoice{.name = from_qt(chosen.family()),
+                      .size = chosen.pointSizeF(),
+                      .bold = chosen.bold(),
+                      .italic = chosen.italic(),
+                      .strikethrough = chosen.strikeOut(),
+                      .underline = chosen.underline()};
+}
+
+void QtDesktop::DoEvents() {
+    QCoreApplication::processEvents();
+}
+
+void QtDesktop::start(const Text& file_or_address) {
+    const QString target = to_qt(file_or_address);
+    QUrl url(target);
+    if (url.scheme().size() < 2) {
+        if (!file_exists(file_or_address)) throw RuntimeFault(fault_file_not_found);
+        const QFileInfo file(QString::fromStdString(disk_path(file_or_address)));
+        url = QUrl::fromLocalFile(file.absoluteFilePath());
+    }
+    if (!QDesktopServices::openUrl(url)) throw RuntimeFault(fault_file_not_found);
+}
+
+Text QtDesktop::get_setting(TextView section, TextView key, const Text& fallback) {
+    const QSettings settings(QStringLiteral("Tarnwick"), QStringLiteral("Tarnwick"));
+    return from_qt(settings.value(to_qt(section) + u'/' + to_qt(key), to_qt(fallback)).toString());
+}
+
+void QtDesktop::quit() {
+    if (!window_.menu_event_alone()) std::_Exit(EXIT_SUCCESS);
+    QCoreApplication::quit();
+}
+
+void QtDesktop::screen_loaded(Screen& screen) {
+    if (screen.name == window_.objectName().toStdString())
+        window_.bind_menu(screen);
+    else
+        screen.front_end = &window_.add(screen);
+}
+
+void QtDesktop::screen_unloaded(Screen& screen) {
+    ScreenWindow* const window = window_of(screen);
+    screen.front_end = nullptr;
+    if (window != nullptr) window_.retire(*window);
+}
+
+void QtDesktop::screen_shown(Screen& screen) {
+    if (ScreenWindow* const window = window_of(screen)) window->open();
+}
+
+void QtDesktop::screen_hidden(Screen& screen) {
+    if (ScreenWindow* const window = window_of(screen)) window->put_away();
+}
+
+void QtDesktop::screen_forward(Screen& screen) {
+    if (ScreenWindow* const window = window_of(screen)) window->open();
+}
+
+void QtDesktop::wait_modal(Screen& screen) {
+    if (ScreenWindow* const window = window_of(screen)) window->run_modal();
+}
+
+BrowserView* QtDesktop::view(const WebBrowser& browser) const {
+    for (ScreenWindow* window : window_.windows())
+        if (BrowserView* found = window->binding().browser(browser)) return found;
+    return nullptr;
+}
+
+void QtDesktop::navigate(WebBrowser& browser, const Text& address) {
+    if (BrowserView* const shown = view(browser)) {
+        shown->set_silent(browser.silent);
+        shown->navigate(to_qt(address));
+    }
+}
+
+void QtDesktop::show_html(WebBrowser& browser, const Text& html) {
+    if (BrowserView* const shown = view(browser)) shown->show_html(to_qt(html));
+}
+
+void QtDesktop::go_back(WebBrowser& browser) {
+    if (BrowserView* const shown = view(browser)) shown->go_back();
+}
+
+void QtDesktop::go_forward(WebBrowser& browser) {
+    if (BrowserView* const shown = view(browser)) shown->go_forward();
+}
+
+void QtDesktop::go_home(WebBrowser& browser) {
+    if (BrowserView* const shown = view(browser)) shown->go_home();
+}
+
+bool QtDesktop::busy(WebBrowser& browser) {
+    BrowserView* const shown = view(browser);
+    return shown != nullptr && shown->busy();
+}
+
+Text QtDesktop::inner_text(WebBrowser& browser) {
+    BrowserView* const shown = view(browser);
+    return shown != nullptr ? from_qt(shown->inner_text()) : Text();
+}
+
+std::vector<Link> QtDesktop::links(WebBrowser& browser) {
+    std::vector<Link> all;
+    if (BrowserView* const shown = view(browser))
+        for (const QString& address : shown->links()) all.push_back({from_qt(address)});
+    return all;
+}
+
+Text QtDesktop::fetch(Inet& inet, const Text& address) {
+    return transfer_.fetch(inet, address);
+}
+
+} // namespace twk
