@@ -1,0 +1,197 @@
+// A whole run over a made-up project, from the click to the local site map.
+//
+//   run_bench [KEYWORDS SUBKEYWORDS BOXES WORDS RANDOM_PAGES [TEMPLATE]]
+//
+// SUBKEYWORDS are those of each keyword, WORDS those of each box, TEMPLATE is 0 to 3. Prints pages, bytes,
+// seconds,
+// processor seconds (what counts on a busy machine) and the largest resident size.
+
+#include "engine/run.h"
+#include "inputs/form3.h"
+#include "inputs/form7.h"
+#include "platform/chance.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/html.h"
+#include "shell/form2.h"
+#include "shell/module1.h"
+#include "store/store_setup.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <random>
+#include <sstream>
+
+#include <sys/resource.h>
+
+namespace {
+
+using namespace twk;
+namespace fs = std::filesystem;
+
+/// Answers Yes to everything and shows nothing; messages go to the console.
+class BenchDesktop : public Desktop {
+  public:
+    Answer MsgBox(const Message& message) override {
+        if (message.critical) std::fprintf(stderr, "%s\n", to_utf8(message.text).c_str());
+        return message.buttons == Buttons::yes_no ? Answer::yes : Answer::ok;
+    }
+    std::optional<Text> ask_open_file(const FileQuestion&) override { return {}; }
+    std::optional<Text> ask_save_file(const FileQuestion&) override { return {}; }
+    std::optional<std::uint32_t> ask_color(std::uint32_t) override { return {}; }
+    std::optional<FontChoice> ask_font(const FontChoice&) override { return {}; }
+    void DoEvents() override {}
+    void start(const Text&) override {}
+    Text get_setting(TextView, TextView, const Text& fallback) override { return fallback; }
+    void quit() override {}
+    void screen_loaded(Screen&) override {}
+    void screen_unloaded(Screen&) override {}
+    void screen_shown(Screen&) override {}
+    void screen_hidden(Screen&) override {}
+    void screen_forward(Screen&) override {}
+    void wait_modal(Screen&) override {}
+    void navigate(WebBrowser&, const Text&) override {}
+    void show_html(WebBrowser& browser, const Text& html) override { shown_[&browser] = html; }
+    void go_back(WebBrowser&) override {}
+    void go_forward(WebBrowser&) override {}
+    void go_home(WebBrowser&) override {}
+    bool busy(WebBrowser&) override { return false; }
+    Text inner_text(WebBrowser& browser) override { return visible_text(shown_[&browser]); }
+    std::vector<Link> links(WebBrowser&) override { return {}; }
+    Text fetch(Inet&, const Text&) override { throw RuntimeFault(fault_timed_out); }
+
+  private:
+    std::map<WebBrowser*, Text> shown_;
+};
+
+struct Size {
+    int keywords = 100, subkeywords = 20, boxes = 50, words = 500, random_pages = 20, layout = 0;
+};
+
+std::string keyword(int k) {
+    return "garden topic " + std::to_string(k);
+}
+
+/// Sentences of made-up words, here and there an anchor word and a keyword.
+std::string box_text(const Size& size, std::mt19937& draw) {
+    const auto below = [&draw](int n) { return static_cast<int>(draw() % static_cast<unsigned>(n)); };
+    std::string text;
+    for (int w = 0; w < size.words; ++w) {
+        const int kind = below(40);
+        if (kind == 0 && w + 3 < size.words) {
+            text += keyword(below(size.keywords));
+            w += 2;
+        } else if (kind < 4) {
+            text += "and";
+        } else {
+            for (int letters = 2 + below(8); letters > 0; --letters)
+                text += static_cast<char>('a' + below(26));
+        }
+        text += w % 12 == 11 ? ". " : " ";
+    }
+    return text;
+}
+
+/// The project's rows as one script; a store is made from it at once.
+std::string rows(const Size& size) {
+    std::mt19937 draw(1);
+    std::ostringstream sql;
+    sql << "insert into Projects (name, site_name, site_url, title, category, description, designer_name, "
+           "designer_url) values ('bench', 'Bench', 'http://target.example', 'Subject', 'Category', "
+           "'Description', 'Name', 'http://');\n";
+    for (int k = 0; k < size.keywords; ++k) {
+        sql << "insert into keywords (pid, keyword) values (1, '" << keyword(k) << "');\n";
+        for (int s = 0; s < size.subkeywords; ++s)
+            sql << "insert into elements (catid, element) values (" << k + 1 << ", 'side path " << s << " of "
+                << k << "');\n";
+    }
+    for (int b = 0; b < size.boxes; ++b)
+        sql << "insert into content (pid, content) values (1, '" << box_text(size, draw) << "');\n";
+    return sql.str();
+}
+
+std::string schema(const char* name) {
+    std::ostringstream text;
+    text << std::ifstream(fs::path(BENCH_DATA_DIR) / name).rdbuf();
+    return text.str();
+}
+
+void deliver(const fs::path& folder, const Size& size) {
+    for (const char* name : {"twk.dat", "Images", "swf"})
+        fs::copy(fs::path(BENCH_DATA_DIR) / name, folder / name, fs::copy_options::recursive);
+    create_store(app_path() + u"/hive.mdb", schema("schema_hive.sql") + rows(size), "lantern4821");
+    create_store(app_path() + u"/synonyms.mdb",
+                 schema("schema_synonyms.sql") +
+                     "insert into synonyms (keyword, synonyms) values ('and', 'plus');",
+                 "");
+}
+
+/// Steps 1 to 4 as the wizard leaves them; gives Step 5.
+Form6& load_screens(const Size& size) {
+    module1().pid_actual = 1;
+    module1().proyecto_actual = u"bench";
+    screen<Form2>().txt_name[0].text = u"bench";
+    screen<Form2>().Text2[0].text = u"Bench";
+    ListBox& keywords = screen<Form3>().List1;
+    keywords.clear();
+    for (int k = 0; k < size.keywords; ++k) keywords.add_item(from_utf8(keyword(k)));
+    screen<Form7>().Text2.text = u"http://main.example";
+    screen<Form7>().List1.clear();
+    Form6& form = screen<Form6>();
+    form.Combo2.text = from_utf8(std::to_string(size.random_pages));
+    form.Check9.value = false;
+    choose_option(form.Template, static_cast<std::size_t>(size.layout));
+    return form;
+}
+
+double processor_seconds() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    const auto seconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    Size size;
+    int* const given[] = {&size.keywords, &size.subkeywords,  &size.boxes,
+                          &size.words,    &size.random_pages, &size.layout};
+    for (int i = 1; i < argc && i <= 6; ++i) *given[i - 1] = std::atoi(argv[i]);
+    std::string folder = (fs::temp_directory_path() / "tarnwick-bench-XXXXXX").string();
+    if (mkdtemp(folder.data()) == nullptr) return 1;
+    BenchDesktop desktop;
+    set_desktop(&desktop);
+    set_app_path(from_utf8(folder));
+    set_clock(std::make_shared<FixedClock>(LocalTime{2026, 11, 24, 10, 18, 5, 0}));
+    chance().fix_seed(1);
+    deliver(folder, size);
+
+    bool done = false;
+    const bool whole = screens().dispatch([&] {
+        Form6& form = load_screens(size);
+        const double before = processor_seconds();
+        const auto start = std::chrono::steady_clock::now();
+        form.Command1_Click();
+        const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+        done = form.run->finished;
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        std::printf("%d keywords x %d subkeywords, %d boxes of %d words, %d random pages, template %d\n"
+                    "%lld pages, %.1f MB, %.2f s (%.2f s of processor), %.0f MB resident at most\n",
+                    size.keywords, size.subkeywords, size.boxes, size.words, size.random_pages, size.layout,
+                    static_cast<long long>(form.run->pages_written),
+                    static_cast<double>(form.run->bytes_written) / 1e6, seconds.count(),
+                    processor_seconds() - before, static_cast<double>(usage.ru_maxrss) / 1024);
+    });
+    screens().unload_all();
+    set_desktop(nullptr);
+    fs::remove_all(folder);
+    return whole && done ? 0 : 1;
+}
