@@ -161,7 +161,8 @@ void write_second_level_end(Run& run, std::int16_t boxes) {
     if (run.form.Check3.value()) {
         run.writeline(hidden_list(run));
         const int b = hidden_box(run, boxes);
-        run.writeline(hidden_field(run.tabla_kw.at(b), run.box(b))); // the keyword of the box's number
+        // The keyword of the box's number; a box beyond the keywords has none.
+        run.writeline(hidden_field(b < run.tabla_kw.rows() ? run.tabla_kw.at(b) : Text(), run.box(b)));
     }
     run.writeline(link_line(run, u"h3"));
 }

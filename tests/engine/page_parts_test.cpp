@@ -228,6 +228,11 @@ TEST_F(PageParts, hidden_block_draws_a_filled_box_and_names_its_keyword) {
               std::string::npos);
     run.contenidos[1].clear();
     EXPECT_EQ(fault_of([&] { written([&] { write_second_level_end(run, 2); }); }), fault_project_lacks);
+    run.contenidos[5] = u"more boxes than keywords";
+    EXPECT_NE(written([&] {
+                  write_second_level_end(run, 6);
+              }).find("|<input type=hidden name=\"\" content=\"more boxes than keywords\">|<h3>"),
+              std::string::npos);
 }
 
 TEST(Surplus, last_occurrences_go) {
