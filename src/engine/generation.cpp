@@ -128,9 +128,24 @@ void run_all(Run& run) {
     run.finished = true;
 }
 
+/// One run at a time, from whichever screen: a second one would erase the pages under the first.
+class UnderWay {
+  public:
+    explicit UnderWay(bool& flag) : flag_(flag) { flag_ = true; }
+    ~UnderWay() { flag_ = false; }
+    UnderWay(const UnderWay&) = delete;
+    UnderWay& operator=(const UnderWay&) = delete;
+
+  private:
+    bool& flag_;
+};
+
 } // namespace
 
 void generation_run(Form6& form) {
+    static bool running = false;
+    if (running) return;
+    const UnderWay under_way(running);
     form.run = std::make_unique<Run>(form);
     Run& run = *form.run;
     try {

@@ -131,6 +131,22 @@ TEST_F(GenerationRun, fault_in_a_later_phase_bears_its_stage) {
     EXPECT_EQ(project.run().cuenta1, 3);
 }
 
+TEST_F(GenerationRun, second_click_while_pages_are_written_does_nothing) {
+    test::SampleProject project(app);
+    int clicks = 0;
+    app.desktop.on_events = [&] {
+        if (project.form.run == nullptr || project.run().fase < 1) return;
+        EXPECT_TRUE(click(project.form)); // an unexpected question would fail the test
+        ++clicks;
+    };
+    EXPECT_TRUE(project.generate());
+    EXPECT_GT(clicks, 0);
+    EXPECT_TRUE(project.run().finished);
+    app.desktop.on_events = nullptr;
+    EXPECT_TRUE(project.generate()); // the next one runs again
+    EXPECT_TRUE(project.run().finished);
+}
+
 TEST_F(GenerationRun, preparation_faults_come_before_anything_is_erased) {
     test::SampleContent content;
     for (int i = 0; i < 98; ++i) content.boxes.push_back({u"A box.", {}}); // 102 of them
