@@ -1,6 +1,7 @@
 #include "reports/form12.h"
 
 #include "engine/density.h"
+#include "engine/keyword_counts.h"
 #include "engine/run.h"
 #include "engine/text_toolkit.h"
 #include "inputs/form3.h"
@@ -96,11 +97,12 @@ void Form12::analyse_body(PageAnalysis& page, const Text& html) {
         words = contar_palabras(cuerpo);
         page.words = to_text(words);
     });
+    KeywordCounts counts(cuerpo);
     for (std::size_t k = 0; k < page.keywords.size(); ++k) {
         if (xKeyWords[k].empty()) continue;
         KeywordAnalysis& found = page.keywords[k];
         ignoring_faults([&] {
-            const std::int16_t n = contar_kw(cuerpo, xKeyWords[k]);
+            const std::int16_t n = counts.count(xKeyWords[k]);
             found.count = to_text(n);
             if (words != 0) found.density = Format(n * 100.0 / words, u"##.##");
         });
