@@ -7,6 +7,7 @@
 #include "inputs/form10.h"
 #include "platform/desktop.h"
 #include "shell/form1.h"
+#include "tools/form23.h"
 
 namespace twk {
 
@@ -16,6 +17,7 @@ const std::vector<MenuEntry>& mdi1::menu() {
         {"a2", u"Projects", u"Ctrl+N", "a", true},
         {"kjg", u"-", u"", "a"},
         {"a3", u"Synonyms", u"Ctrl+S", "a", true},
+        {"a4", u"Find and Replace", u"", "a", true}, // nothing else opens that screen
         {"b", u"&Help", u"", ""},
         {"b2", u"Help", u"Ctrl+H", "b", true},
         {"b3", u"Tips", u"Ctrl+I", "b", true},
@@ -34,6 +36,7 @@ const std::vector<MenuEntry>& mdi1::menu() {
 void mdi1::enumerate(ScreenMap& map) {
     map.event("a2", "Click", [this] { a2_Click(); });
     map.event("a3", "Click", [this] { a3_Click(); });
+    map.event("a4", "Click", [this] { a4_Click(); });
     map.event("b2", "Click", [this] { b2_Click(); });
     map.event("b3", "Click", [this] { b3_Click(); });
     map.event("c1", "Click", [this] { c1_Click(); });
@@ -47,6 +50,9 @@ void mdi1::a2_Click() {
 }
 void mdi1::a3_Click() {
     screens().bring_forward<Form10>();
+}
+void mdi1::a4_Click() {
+    screens().bring_forward<Form23>();
 }
 void mdi1::b2_Click() {
     mostrar_ayuda(u"");

@@ -27,6 +27,7 @@ class mdi1 {
     void enumerate(ScreenMap& map);
     void a2_Click(); ///< Projects
     void a3_Click(); ///< Synonyms
+    void a4_Click(); ///< Find and Replace
     void b2_Click(); ///< Help
     void b3_Click(); ///< Tips
     void c1_Click(); ///< About

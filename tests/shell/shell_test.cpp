@@ -6,6 +6,7 @@
 #include "shell/mdi1.h"
 #include "shell/module1.h"
 #include "support/temp_app.h"
+#include "tools/form23.h"
 
 #include <set>
 
@@ -44,6 +45,8 @@ TEST(MainMenu, OpensScreensAndAddresses) {
     choose("a3");
     choose("c1");
     choose("c2");
+    choose("a4");
+    EXPECT_TRUE(screens().is_loaded<Form23>());
     EXPECT_TRUE(screens().is_loaded<Form1>());
     EXPECT_TRUE(screens().is_loaded<frmVersion>());
     EXPECT_TRUE(screens().is_loaded<disclaimer>());
