@@ -4,6 +4,7 @@
 #include "engine/read_more.h"
 #include "engine/run.h"
 #include "engine/text_toolkit.h"
+#include "engine/text_windows.h"
 #include "platform/chance.h"
 #include "platform/faults.h"
 #include "platform/numbers.h"
@@ -196,10 +197,13 @@ std::int16_t xrnum2(std::int16_t n) {
 
 Text highLight(Run& run, TextView texto) {
     Text r(texto);
+    TextWindows windows(r);
     for (int i = 0; i < run.n_keywords; ++i) {
         const Text& k = run.tabla_kw.at(i);
-        replace_all(r, u" " + Trim(k) + u" ",
-                    u" " + run.settings.hl_abre + k + run.settings.hl_cierra + u" ");
+        const Text lone = u" " + Trim(k) + u" ";
+        if (windows.may_hold(lone) &&
+            replace_all(r, lone, u" " + run.settings.hl_abre + k + run.settings.hl_cierra + u" "))
+            windows = TextWindows(r); // what was put in may hold a later keyword
     }
     return r;
 }
