@@ -1,5 +1,7 @@
 # Puts what is delivered beside the program into FOLDER. Whatever stands there already is the user's and stays:
 # stores, settings files, pictures. SOURCES is this folder, STORES the one with the two finished stores.
+cmake_policy(VERSION 3.25)
+
 file(GLOB_RECURSE pictures RELATIVE ${SOURCES} ${SOURCES}/Images/* ${SOURCES}/swf/*)
 foreach(name twk.dat TIPOFDAY.TXT help.htm ${pictures})
   list(APPEND delivered "${SOURCES}/${name}" "${name}")
