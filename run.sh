@@ -10,10 +10,7 @@ install_missing $build_packages
 cmake --preset release -DTARNWICK_TESTS=OFF
 cmake --build build/release --target deliver -j "$(nproc)"
 
-if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-    [ "$(id -u)" != 0 ] || export QTWEBENGINE_DISABLE_SANDBOX=1 # the browser's sandbox does not work for root
-    exec Tarnwick/tarnwick
-fi
+[ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || exec Tarnwick/tarnwick
 echo
 echo "There is no display: generating the sample project."
 Tarnwick/tarnwick-cli generate garden-sample
