@@ -55,5 +55,8 @@ create table target (
 
 create index keywords_of_project on keywords (pid);
 create index elements_of_keyword on elements (catid);
+-- The word comes first: rows of a project or keyword are read through the indexes above, in order of insertion.
+create index keywords_by_word on keywords (keyword, pid);
+create index elements_by_word on elements (element, catid);
 create index content_of_project on content (pid);
 create index ties_of_project on ties (pid);

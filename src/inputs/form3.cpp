@@ -166,8 +166,8 @@ void Form3::Command2_Click() {
     // One question for all keywords of the project, so that adding stays quick when there are thousands.
     if (estado == 1 &&
         !base_datos_
-             .OpenRecordset(u"select eid from keywords , elements where keywords.pid = " + to_text(pid_form) +
-                            u" and elements.catid = keywords.keyid and element = '" + palabra + u"'")
+             .OpenRecordset(u"select eid from elements cross join keywords where element = '" + palabra +
+                            u"' and keywords.keyid = elements.catid and keywords.pid = " + to_text(pid_form))
              .eof()) {
         estado = 2;
         avisar(u"You can't define a keyword name as a subkeyword");

@@ -154,6 +154,7 @@ void Form3::Command20_Click() {
         }
         Frame4.visible = true;
         DoEvents();
+        const BulkWrite many(base_datos_);
         importar(Dir2.list(Dir2.list_index()) + Text(path_separator) + File2.list(File2.list_index()));
         clear_selection(List1);
         clear_selection(List2);

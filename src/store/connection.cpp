@@ -85,6 +85,16 @@ Connection::Connection(const std::string& file, bool read_only, const std::strin
     sqlite3_set_authorizer(db_, authorize, nullptr);
 }
 
+void Connection::set_durable(bool each) {
+    // The store's own settings are none of the statements that the screens may run.
+    sqlite3_set_authorizer(db_, nullptr, nullptr);
+    const char* const settings =
+        each ? "PRAGMA synchronous = FULL; PRAGMA wal_checkpoint(PASSIVE)" : "PRAGMA synchronous = NORMAL";
+    const int code = sqlite3_exec(db_, settings, nullptr, nullptr, nullptr);
+    sqlite3_set_authorizer(db_, authorize, nullptr);
+    if (code != SQLITE_OK) fail(code);
+}
+
 Connection::~Connection() {
     sqlite3_close_v2(db_);
 }

@@ -28,6 +28,10 @@ class Connection {
     Rows select(const Text& statement);
     void change(const Text& statement);
 
+    /// Whether each write is on the disk when its statement has returned, as at first. Turning it on again
+    /// brings the writes since to the disk.
+    void set_durable(bool each);
+
     /// Inserts or, with a row id, changes one row of `content` by bound values.
     void write_row(const std::string& table, std::int64_t row_id,
                    const std::vector<std::pair<std::string, Field::Value>>& values);

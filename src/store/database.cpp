@@ -139,6 +139,18 @@ void Database::Execute(const Text& statement) {
     connection_->change(statement);
 }
 
+BulkWrite::BulkWrite(const Database& store) : connection_(store.connection_) {
+    if (connection_) connection_->set_durable(false);
+}
+
+BulkWrite::~BulkWrite() {
+    try {
+        if (connection_) connection_->set_durable(true);
+    } catch (const RuntimeFault&) {
+        // The writes stand; the next checkpoint brings them to the disk.
+    }
+}
+
 Database OpenDatabase(const Text& path, bool exclusive, bool read_only, const Text& connect) {
     (void)exclusive; // stores are opened shared
     static std::map<std::string, std::weak_ptr<Connection>> open;

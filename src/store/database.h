@@ -74,7 +74,22 @@ class Database {
     bool is_open() const { return connection_ != nullptr; }
 
   private:
+    friend class BulkWrite;
     friend Database OpenDatabase(const Text&, bool, bool, const Text&);
+    std::shared_ptr<Connection> connection_;
+};
+
+/// For thousands of writes in a row: while it lives, a statement does not wait for the disk. Each write
+/// stands by itself, as ever; only a machine that goes down may lose the last of them. They are durable when
+/// it ends.
+class BulkWrite {
+  public:
+    explicit BulkWrite(const Database& store);
+    ~BulkWrite();
+    BulkWrite(const BulkWrite&) = delete;
+    BulkWrite& operator=(const BulkWrite&) = delete;
+
+  private:
     std::shared_ptr<Connection> connection_;
 };
 
