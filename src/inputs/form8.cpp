@@ -14,10 +14,6 @@ namespace {
 
 constexpr int screen_number = 8;
 
-const Text& selected_keyword() {
-    return screen<Form3>().List1.text();
-}
-
 } // namespace
 
 void Form8::enumerate(ScreenMap& map) {
@@ -33,22 +29,22 @@ void Form8::enumerate(ScreenMap& map) {
 
 void Form8::Form_Load() {
     marcar_forma(screen_number, true);
-    const Text keyword = selected_keyword();
+    keyword_ = screen<Form3>().List1.text(); // another choice in Step 2 does not change what is edited here
     const Text project = screen<Form2>().txt_name[0].text();
-    Label1.caption = u"Synonyms for " + keyword;
+    Label1.caption = u"Synonyms for " + keyword_;
     base_datos_ = open_hive();
     sinonimos_ = open_synonyms();
     for (
         Recordset row = base_datos_.OpenRecordset(
             u"select Projects.pid as X1 , keywords.keyid as X2 , keywords.pid as X3 from Projects , keywords "
             u"where name = '" +
-            project + u"' and keyword = '" + keyword + u"' and Projects.name = '" + project + u"'");
+            project + u"' and keyword = '" + keyword_ + u"' and Projects.name = '" + project + u"'");
         !row.eof(); row.MoveNext()) {
         pid_form_ = CInt(row.Fields(u"x1").number());
         keyid_form_ = CInt(row.Fields(u"X2").number());
     }
     for (Recordset row =
-             sinonimos_.OpenRecordset(u"select * from synonyms  where keyword = '" + keyword + u"'");
+             sinonimos_.OpenRecordset(u"select * from synonyms  where keyword = '" + keyword_ + u"'");
          !row.eof(); row.MoveNext()) {
         // A word of the dictionary that has no synonyms yet shows none.
         const Field synonyms = row.Fields(u"synonyms");
@@ -68,14 +64,14 @@ void Form8::Command2_Click() {
     if (trim_view(Text1.text()).empty()) return;
     base_datos_ = open_hive();
     // Always a further row, also for a word that has one.
-    sinonimos_.Execute(u"insert into synonyms  ( keyword , synonyms  ) values ( '" +
-                       Trim(selected_keyword()) + u"' , '" + preparar_texto(Text(Text1.text())) + u"' ) ");
+    sinonimos_.Execute(u"insert into synonyms  ( keyword , synonyms  ) values ( '" + Trim(keyword_) +
+                       u"' , '" + preparar_texto(Text(Text1.text())) + u"' ) ");
     screens().unload<Form8>();
 }
 
 void Form8::Command3_Click() {
-    sinonimos_.Execute(u"delete from synonyms  where keyword = '" + Trim(selected_keyword()) +
-                       u"' and synonyms  = '" + Text1.text() + u"' ");
+    sinonimos_.Execute(u"delete from synonyms  where keyword = '" + Trim(keyword_) + u"' and synonyms  = '" +
+                       Text1.text() + u"' ");
     Text1.text = u"";
 }
 

@@ -84,6 +84,7 @@ TEST(KeywordSynonyms, AddARowEachTimeAndDeleteOnlyTheVeryText) {
     EXPECT_EQ(form->Label1.caption(), u"Synonyms for green tea ");
     ASSERT_TRUE(screens().fire<Form8>("Command2", "Click"));
     EXPECT_TRUE(screens().is_loaded<Form8>()) << "an empty text does nothing";
+    screen<Form3>().Text1_Click(); // the selection in Step 2 goes, the word here stays
     form->Text1.text = u"sencha\r\n\"matcha\"(fine)";
     ASSERT_TRUE(screens().fire<Form8>("Command2", "Click"));
     EXPECT_FALSE(screens().is_loaded<Form8>());
