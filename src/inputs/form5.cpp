@@ -19,6 +19,8 @@ constexpr int screen_number = 5;
 /// Exactly so many boxes refuse another one by hand; a list that an import has pushed past does not.
 constexpr int full_list = 99;
 constexpr int few_words = 100;
+/// Name that the font dialog starts from each time; its other values stay as the last one left them.
+constexpr TextView list_font = u"MS Sans Serif";
 
 /// Fault 9 outside the table.
 Text& cell(std::array<Text, max_boxes>& table, int index) {
@@ -56,7 +58,6 @@ Text wrapped(TextView tag, const Text& text) {
 Form5::Form5() {
     Text2.read_only = true;
     Text3.read_only = true;
-    CommonDialog1.font_name = u"MS Sans Serif";
 }
 
 void Form5::Form_Load() {
@@ -206,6 +207,7 @@ void Form5::Command11_Click() {
         rt1.text = RTAux; // drops unsaved edits, and an earlier wrapping with them
     else
         RTAux = rt1.text();
+    CommonDialog1.font_name = Text(list_font);
     CommonDialog1.flags = 263;
     CommonDialog1.show_font(); // a cancelled dialog wraps the box all the same
     const CommonDialog& font = CommonDialog1;
@@ -282,6 +284,7 @@ void Form5::Command7_Click() {
     }
     if (MsgBox(u"Import Content Boxes from " + project + u" to this project?", Buttons::ok_cancel,
                u"Import Content?") == Answer::cancel) {
+        combo1.select(-1);
         combo1.text = u"Pick up a project";
         return;
     }

@@ -134,6 +134,8 @@ TEST_F(ContentBoxes, come_from_another_project_but_for_apostrophes) {
     app.desktop.expect(u"Import Content Boxes from other to this project?", Answer::cancel);
     click("Command7");
     EXPECT_EQ(to_utf8(form().combo1.text()), "Pick up a project");
+    app.desktop.expect(u"This action may take a while", Answer::yes);
+    click("Command7"); // the chosen project has gone with the refusal
     form().combo1.select(0);
     app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
     app.desktop.expect(u"Import Content Boxes from other to this project?");
@@ -156,10 +158,11 @@ TEST_F(ContentBoxes, are_wrapped_in_a_font_and_saved) {
     EXPECT_EQ(boxes(), "<u> <s> <b> <i> <font face = Arial size = 10.5> old </font> </i> </b> </s> </u>");
     form().List1.list_index = 0;
     form().rt1.text = u"typed";
-    app.desktop.fonts = {std::nullopt}; // cancelled, and wrapped all the same
+    app.desktop.fonts = {std::nullopt}; // cancelled, and wrapped with what the dialog began with
     app.desktop.expect(u"We recomend");
     click("Command11");
-    EXPECT_EQ(boxes(), "<u> <s> <b> <i> <font face = Arial size = 10.5> typed </font> </i> </b> </s> </u>");
+    EXPECT_EQ(boxes(),
+              "<u> <s> <b> <i> <font face = MS Sans Serif size = 10.5> typed </font> </i> </b> </s> </u>");
 }
 
 TEST_F(ContentBoxes, are_previewed_from_a_file_that_goes_again) {
