@@ -6,11 +6,13 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QPainter>
 #include <QPointer>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <QVariant>
 #include <QWebEngineDownloadRequest>
+#include <QWebEngineLoadingInfo>
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
 #include <QWebEngineScript>
@@ -18,6 +20,7 @@
 #include <QWebEngineView>
 #include <chrono>
 #include <memory>
+#include <utility>
 
 namespace twk {
 
@@ -69,7 +72,7 @@ QUrl to_url(const QString& address) {
 
 BrowserView::BrowserView(QWidget* parent) : QWidget(parent) {
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(1, 1, 1, 1);
     setFocusPolicy(Qt::StrongFocus);
     html_timer_.setSingleShot(true);
     html_timer_.setInterval(html_delay);
@@ -82,16 +85,40 @@ QWebEngineView& BrowserView::view() {
     if (view_ != nullptr) return *view_;
     view_ = new QWebEngineView(this);
     view_->setPage(new QuietPage(&shared_profile(), view_));
+    view_->settings()->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, false);
     setFocusProxy(view_);
     layout()->addWidget(view_);
-    connect(view_, &QWebEngineView::loadStarted, this, [this] { busy_ = true; });
     connect(view_, &QWebEngineView::urlChanged, this,
             [this](const QUrl& url) { Q_EMIT located(url.toString(QUrl::FullyEncoded)); });
-    connect(view_, &QWebEngineView::loadFinished, this, [this] {
-        busy_ = false;
-        if (html_.isEmpty()) Q_EMIT finished();
-    });
+    connect(view_->page(), &QWebEnginePage::loadingChanged, this, &BrowserView::follow);
     return *view_;
+}
+
+void BrowserView::follow(const QWebEngineLoadingInfo& loading) {
+    const auto is = [&loading](const QUrl& url) {
+        return loading.url().matches(url, QUrl::StripTrailingSlash | QUrl::RemoveFragment);
+    };
+    switch (loading.status()) {
+    case QWebEngineLoadingInfo::LoadStartedStatus: busy_ = true; return;
+    // What ends without success may be the page before, broken off by the one that has been asked for.
+    case QWebEngineLoadingInfo::LoadStoppedStatus:
+        if (busy_ && !is(asked_)) return;
+        break;
+    case QWebEngineLoadingInfo::LoadFailedStatus:
+        if (busy_ && is(asked_before_) && !is(asked_)) return;
+        break;
+    case QWebEngineLoadingInfo::LoadSucceededStatus: break;
+    }
+    busy_ = false;
+    if (html_.isEmpty()) Q_EMIT finished();
+}
+
+/// An empty page, as long as no engine paints over it.
+void BrowserView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(palette().base());
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void BrowserView::navigate(const QString& address) {
@@ -106,8 +133,9 @@ void BrowserView::load(const QString& address) {
     html_.clear();
     if (view_ == nullptr && address == blank_page) return; // an empty control is blank without an engine
     view().settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, true);
+    asked_before_ = std::exchange(asked_, to_url(address));
     busy_ = true;
-    view().load(to_url(address));
+    view().load(asked_);
 }
 
 void BrowserView::show_html(const QString& html) {

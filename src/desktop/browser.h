@@ -3,8 +3,10 @@
 #include <QString>
 #include <QStringList>
 #include <QTimer>
+#include <QUrl>
 #include <QWidget>
 
+class QWebEngineLoadingInfo;
 class QWebEngineView;
 
 namespace twk {
@@ -37,9 +39,13 @@ class BrowserView : public QWidget {
     /// Navigation has ended, with the page or without.
     void finished();
 
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
   private:
     QWebEngineView& view();
     void load(const QString& address);
+    void follow(const QWebEngineLoadingInfo& loading);
     void show_waiting_html();
     QVariant ask_page(const QString& script);
 
@@ -48,6 +54,7 @@ class BrowserView : public QWidget {
     QString html_;      ///< page text taken by show_html; empty behind a navigation
     QTimer html_timer_; ///< shows at most a few of the pages that follow each other quickly
     bool silent_ = false;
+    QUrl asked_, asked_before_; ///< the last two addresses asked for
     bool busy_ = false;
 };
 

@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -199,6 +200,7 @@ bool link(const ControlLink<Grid>& link) {
     if (table == nullptr) return false;
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     watch_control(link, {Prop::cells}, [table, &grid = link.control](Prop changed) {
         if (changed != Prop::cells) return;
         const QSignalBlocker quiet(table);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/control_links.h"
+#include "desktop/widget_events.h"
 
 #include <QWidget>
 #include <initializer_list>
@@ -14,7 +15,7 @@ void watch_control(const ControlLink<C>& link, std::initializer_list<Prop> conte
     const auto update = [link, apply](Prop changed) {
         if (changed == Prop::enabled) link.widget.setEnabled(link.control.enabled());
         if (changed == Prop::visible) link.widget.setVisible(link.control.visible());
-        if (changed == Prop::focus) link.widget.setFocus(Qt::OtherFocusReason);
+        if (changed == Prop::focus) give_focus(link.widget);
         apply(changed);
     };
     link.control.observer.watch(update);

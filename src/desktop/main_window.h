@@ -21,6 +21,7 @@ class MainWindow : public QMainWindow {
 
     /// Ties the menu to the shell's screen, once that is loaded.
     void bind_menu(Screen& shell);
+    void release_menu() { shell_ = nullptr; }
 
     ScreenWindow& add(Screen& screen);
     /// Takes a screen's window from sight; it is destroyed when no event runs any more.

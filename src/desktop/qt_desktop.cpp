@@ -156,7 +156,10 @@ void QtDesktop::screen_loaded(Screen& screen) {
 void QtDesktop::screen_unloaded(Screen& screen) {
     ScreenWindow* const window = window_of(screen);
     screen.front_end = nullptr;
-    if (window != nullptr) window_.retire(*window);
+    if (window != nullptr)
+        window_.retire(*window);
+    else
+        window_.release_menu();
 }
 
 void QtDesktop::screen_shown(Screen& screen) {

@@ -1,5 +1,6 @@
 #include "desktop/screen_window.h"
 
+#include "desktop/form_area.h"
 #include "desktop/forms.h"
 #include "desktop/qt_text.h"
 
@@ -7,7 +8,6 @@
 #include <QDialog>
 #include <QEventLoop>
 #include <QMdiArea>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <functional>
@@ -40,11 +40,8 @@ ScreenWindow::ScreenWindow(Screen& screen, QMdiArea& area) : area_(area) {
     form_ = make_form(screen.name);
     if (form_ == nullptr) form_ = new QWidget;
     drawn_size_ = form_->size();
-    auto* const scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(form_);
-    setWidget(scroll);
+    form_area_ = new FormArea(*form_);
+    setWidget(form_area_);
     area_.addSubWindow(this);
     hide();
 
@@ -58,8 +55,7 @@ ScreenWindow::~ScreenWindow() = default;
 
 QSize ScreenWindow::wanted_size() const {
     QSize size = drawn_size_.expandedTo(form_->minimumSizeHint());
-    if (form_->hasHeightForWidth())
-        size.setHeight(std::max(size.height(), form_->heightForWidth(size.width())));
+    size.setHeight(std::max(size.height(), form_area_->least_height(size.width())));
     return size + QSize(2, 2);
 }
 
@@ -93,7 +89,6 @@ void ScreenWindow::retire() {
 
 void ScreenWindow::run_modal() {
     hide();
-    auto* const scroll = widget();
     ModalFrame dialog(area_.window(), [this] { close_screen(); });
     dialog_ = &dialog;
     dialog.setWindowModality(Qt::ApplicationModal);
@@ -101,8 +96,8 @@ void ScreenWindow::run_modal() {
     auto* const layout = new QVBoxLayout(&dialog);
     layout->setContentsMargins(0, 0, 0, 0);
     setWidget(nullptr);
-    layout->addWidget(scroll);
-    scroll->show();
+    layout->addWidget(form_area_);
+    form_area_->show();
     dialog.resize(wanted_size());
     dialog.show();
 
@@ -118,8 +113,8 @@ void ScreenWindow::run_modal() {
     dialog.installEventFilter(&watch);
     if (screen() != nullptr && screen()->visible) loop.exec();
 
-    layout->removeWidget(scroll);
-    setWidget(scroll);
+    layout->removeWidget(form_area_);
+    setWidget(form_area_);
     dialog_ = nullptr;
 }
 

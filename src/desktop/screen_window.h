@@ -11,6 +11,8 @@ class QMdiArea;
 
 namespace twk {
 
+class FormArea;
+
 /// The window of one screen inside the main window. Closing it does not close it: the screen is asked, and
 /// unloaded when it has nothing to say.
 class ScreenWindow : public QMdiSubWindow {
@@ -39,6 +41,7 @@ class ScreenWindow : public QMdiSubWindow {
 
     QMdiArea& area_;
     QWidget* form_ = nullptr;
+    FormArea* form_area_ = nullptr;
     std::unique_ptr<ScreenBinding> binding_;
     QPointer<QDialog> dialog_;
     QSize drawn_size_;

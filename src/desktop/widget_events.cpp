@@ -5,9 +5,12 @@
 #include <QAbstractScrollArea>
 #include <QEvent>
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
+#include <QWindow>
 
 namespace twk {
 
@@ -62,6 +65,20 @@ class EventSpy : public QObject {
 void watch_widget(ScreenBinding& binding, const ScreenMap::Control& control, QWidget& widget) {
     new EventSpy(binding, control, widget);
     for (const char* event : {"Click", "DblClick", "GotFocus", "LostFocus"}) binding.offer(control, event);
+}
+
+void give_focus(QWidget& widget) {
+    widget.setFocus(Qt::OtherFocusReason);
+    if (widget.isActiveWindow()) return;
+    auto* const once = new QObject(&widget);
+    QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, once,
+                     [once, &widget](const QWindow* window) {
+                         if (window == nullptr) return;
+                         QTimer::singleShot(0, once, [once, &widget] {
+                             widget.setFocus(Qt::OtherFocusReason);
+                             once->deleteLater();
+                         });
+                     });
 }
 
 } // namespace twk
