@@ -1,0 +1,141 @@
+#include "engine/run.h"
+#include "platform/files.h"
+#include "settings/form6.h"
+#include "user.h"
+
+#include <QCheckBox>
+#include <QDesktopServices>
+#include <QLabel>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QTest>
+#include <QUrl>
+
+namespace twk {
+namespace {
+
+using test::User;
+
+class Wizard : public test::WindowTest {
+  protected:
+    void type_properties() {
+        user.press(Qt::Key_N, Qt::ControlModifier);
+        user.click("Form1", "Command1");
+        ASSERT_TRUE(user.sees("Form2"));
+        EXPECT_FALSE(user.sees("Form1"));
+        user.type("Form2", "txt_name_0", QStringLiteral("teahouse"));
+        user.type("Form2", "Text2_0", QStringLiteral("Tea-House"));
+        user.type("Form2", "txt_url_0", QStringLiteral("http://www.teahouse.example"));
+        user.type("Form2", "txt_url_1", QStringLiteral("http://www.teahouse.example/shop.htm"));
+        user.click("Form2", "Command7");
+        user.type("Form2", "txt_dat_0", QStringLiteral("Fine teas"));
+        user.type("Form2", "txt_dat_1", QStringLiteral("Shopping"));
+        user.expect(QStringLiteral("Subject, Category and Description can´t be empty"));
+        user.click("Form2", "Command2");
+        user.type("Form2", "txt_dat_2", QStringLiteral("Teas from small gardens."));
+        user.click("Form2", "Command2");
+    }
+
+    void type_keywords() {
+        ASSERT_TRUE(user.sees("Form3"));
+        user.enter("Form3", "Text1", QStringLiteral("green tea"));
+        user.enter("Form3", "Text1", QStringLiteral("black tea"));
+        user.expect(QStringLiteral("You must provide more than 3 keywords"));
+        user.click("Form3", "Command5");
+        user.type("Form3", "Text1", QStringLiteral("teapot"));
+        user.click("Form3", "Command2");
+        user.choose("Form3", "List1", 0);
+        user.enter("Form3", "Text2", QStringLiteral("sencha"));
+        user.enter("Form3", "Text2", QStringLiteral("matcha powder"));
+        EXPECT_EQ(user.find<QLabel>("Form3", "keyw")->text(), QStringLiteral("3"));
+        user.click("Form3", "Command5");
+    }
+
+    void type_contents() {
+        ASSERT_TRUE(user.sees("Form5"));
+        user.always_ok(QStringLiteral("We recomend more than 100 words"));
+        for (const char* text : {"Green tea is steamed or fired, and a good garden picks it in spring.",
+                                 "A teapot of cast iron keeps the brew warm. Rinse it with water alone.",
+                                 "Black tea travels well; it was made for long voyages."}) {
+            user.type("Form5", "rt1", QString::fromLatin1(text));
+            user.click("Form5", "Command2");
+        }
+        user.choose("Form5", "List1", 1);
+        user.choose("Form5", "lstkeyword", 2);
+        user.expect(QStringLiteral("Keyword and Content selected has been tied"));
+        user.click("Form5", "cmdtie");
+        user.click("Form5", "Command8");
+        user.click("Form5", "Command1");
+    }
+
+    void type_hosts() {
+        ASSERT_TRUE(user.sees("Form7"));
+        user.type("Form7", "Text2", QStringLiteral("http://www.teahouse.example/pages"));
+        user.type("Form7", "Text1", QStringLiteral("http://teas.example/"));
+        user.click("Form7", "Command2");
+        user.click("Form7", "Command1");
+    }
+
+    /// Step 6, inside the run: the first random page gets another name.
+    void rename_page() {
+        user.choose("Form17", "List1", 0);
+        user.type("Form17", "Text1", QStringLiteral("renamed-by-hand.htm"));
+        user.expect(QStringLiteral("File Name Changed."));
+        user.click("Form17", "Command2");
+        user.expect(QStringLiteral("Do you want to save this filename set?"), QMessageBox::No);
+        user.click("Form17", "Command1");
+    }
+};
+
+/// Stands for the system's browser.
+class OpenedFiles : public QObject {
+    Q_OBJECT
+  public:
+    OpenedFiles() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open"); }
+    ~OpenedFiles() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+    QList<QUrl> urls;
+  public Q_SLOTS:
+    void open(const QUrl& url) { urls << url; }
+};
+
+TEST_F(Wizard, TakesANewProjectToTheFinishedRunByClicksAndKeysAlone) {
+    OpenedFiles opened;
+    type_properties();
+    type_keywords();
+    type_contents();
+    type_hosts();
+
+    ASSERT_TRUE(user.sees("Form6"));
+    QTest::keyClick(user.find<QWidget>("Form6", "Slider1"), Qt::Key_Right);
+    user.type("Form6", "Combo2", QStringLiteral("7"));
+    if (!user.find<QCheckBox>("Form6", "Check9")->isChecked()) user.click("Form6", "Check9");
+    user.expect(QStringLiteral("Are you sure you want to proceed?"), QMessageBox::Yes,
+                QStringLiteral("Create Pages?"));
+    user.on_dialog([this] { rename_page(); });
+    user.click("Form6", "Command1");
+
+    ASSERT_NE(screen<Form6>().run, nullptr);
+    ASSERT_TRUE(screen<Form6>().run->finished);
+    ASSERT_TRUE(user.sees("Form12"));
+    EXPECT_EQ(user.find<QProgressBar>("Form12", "ProgressBar1")->value(),
+              user.find<QProgressBar>("Form12", "ProgressBar1")->maximum());
+    ASSERT_EQ(opened.urls.size(), 1);
+    EXPECT_EQ(opened.urls[0].fileName().toLower(), QStringLiteral("sitemap-do-not-upload.htm"));
+    bool renamed = false;
+    for (const Text& folder : list_folders(app.path(u"Projects/teahouse")))
+        renamed = renamed || file_exists(app.path(u"Projects/teahouse/" + folder + u"/renamed-by-hand.htm"));
+    EXPECT_TRUE(renamed);
+
+    user.choose("Form12", "List1", 2);
+    const QString report = user.find<QPlainTextEdit>("Form12", "RichTextBox1")->toPlainText();
+    EXPECT_TRUE(report.contains(QStringLiteral("Page Type: First-Level Page"))) << report.toStdString();
+    EXPECT_TRUE(report.contains(QStringLiteral("KeyWord Count for [teapot]"))) << report.toStdString();
+    user.click("Form12", "Command2");
+    EXPECT_FALSE(user.sees("Form12"));
+}
+
+} // namespace
+} // namespace twk
+
+#include "wizard_test.moc"
