@@ -102,14 +102,15 @@ void BrowserView::follow(const QWebEngineLoadingInfo& loading) {
     case QWebEngineLoadingInfo::LoadStartedStatus: busy_ = true; return;
     // What ends without success may be the page before, broken off by the one that has been asked for.
     case QWebEngineLoadingInfo::LoadStoppedStatus:
-        if (busy_ && !is(asked_)) return;
+        if (!asked_.isEmpty() && !is(asked_)) return;
         break;
     case QWebEngineLoadingInfo::LoadFailedStatus:
-        if (busy_ && is(asked_before_) && !is(asked_)) return;
+        if (!asked_.isEmpty() && is(asked_before_) && !is(asked_)) return;
         break;
     case QWebEngineLoadingInfo::LoadSucceededStatus: break;
     }
     busy_ = false;
+    asked_.clear();
     if (html_.isEmpty()) Q_EMIT finished();
 }
 
@@ -133,7 +134,7 @@ void BrowserView::load(const QString& address) {
     html_.clear();
     if (view_ == nullptr && address == blank_page) return; // an empty control is blank without an engine
     view().settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, true);
-    asked_before_ = std::exchange(asked_, to_url(address));
+    asked_before_ = std::exchange(asked_, to_url(address)); // empty when that one has ended
     busy_ = true;
     view().load(asked_);
 }
@@ -151,10 +152,12 @@ void BrowserView::show_waiting_html() {
 }
 
 void BrowserView::go_back() {
+    asked_.clear();
     if (view_ != nullptr) view_->back();
 }
 
 void BrowserView::go_forward() {
+    asked_.clear();
     if (view_ != nullptr) view_->forward();
 }
 

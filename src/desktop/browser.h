@@ -54,7 +54,8 @@ class BrowserView : public QWidget {
     QString html_;      ///< page text taken by show_html; empty behind a navigation
     QTimer html_timer_; ///< shows at most a few of the pages that follow each other quickly
     bool silent_ = false;
-    QUrl asked_, asked_before_; ///< the last two addresses asked for
+    QUrl asked_;        ///< address asked for whose loading has not ended; empty for none
+    QUrl asked_before_; ///< the one that it has broken off
     bool busy_ = false;
 };
 
