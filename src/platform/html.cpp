@@ -1,5 +1,7 @@
 #include "platform/html.h"
 
+#include "platform/plain_pages.h"
+
 #include <memory>
 #include <string>
 #include <string_view>
@@ -92,32 +94,6 @@ bool ends_a_line(GumboTag tag) {
     }
 }
 
-/// Words and line ends as they come, with single blanks between words.
-class Lines {
-  public:
-    void words(std::string_view text) {
-        for (const char c : text) {
-            if (c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f') {
-                blank_ = true;
-                continue;
-            }
-            if (blank_ && !out_.empty() && out_.back() != '\n') out_.push_back(' ');
-            blank_ = false;
-            out_.push_back(c);
-        }
-    }
-    void cell_end() { blank_ = true; }
-    void line_end() {
-        blank_ = false;
-        if (!out_.empty() && out_.back() != '\n') out_.append("\r\n");
-    }
-    Text text() const { return from_utf8(out_); }
-
-  private:
-    std::string out_;
-    bool blank_ = false;
-};
-
 const GumboAttribute* href_of(const GumboNode* node) {
     if (!is_element(node) || node->v.element.tag != GUMBO_TAG_A) return nullptr;
     return gumbo_get_attribute(&node->v.element.attributes, "href");
@@ -126,8 +102,13 @@ const GumboAttribute* href_of(const GumboNode* node) {
 } // namespace
 
 Text visible_text(TextView html) {
+    if (std::optional<Text> text = plain_page_text(html)) return std::move(*text);
+    return parsed_visible_text(html);
+}
+
+Text parsed_visible_text(TextView html) {
     const Page page(html);
-    Lines lines;
+    VisibleLines lines;
     const auto enter = [&lines](const GumboNode* node) {
         if (is_element(node)) {
             if (hidden(node->v.element.tag)) return false;
@@ -136,7 +117,7 @@ Text visible_text(TextView html) {
         }
         if (node->type == GUMBO_NODE_TEXT || node->type == GUMBO_NODE_WHITESPACE ||
             node->type == GUMBO_NODE_CDATA)
-            lines.words(node->v.text.text);
+            lines.words(from_utf8(node->v.text.text));
         return false;
     };
     const auto leave = [&lines](const GumboNode* node) {
@@ -145,7 +126,7 @@ Text visible_text(TextView html) {
         if (tag == GUMBO_TAG_TD || tag == GUMBO_TAG_TH) lines.cell_end();
     };
     walk(page.root(), enter, leave);
-    return lines.text();
+    return lines.take();
 }
 
 std::vector<Text> page_links(TextView html) {

@@ -199,16 +199,40 @@ bool same_text(TextView a, TextView b) {
     });
 }
 
+namespace {
+
+/// Units or bytes in front that are plain ASCII.
+template <class View> std::size_t ascii_length(View text) {
+    using Unit = typename View::value_type;
+    constexpr std::size_t block = 32;
+    std::size_t length = 0;
+    const auto plain = [&](std::size_t from, std::size_t count) {
+        Unit all = 0;
+        for (std::size_t i = 0; i < count; ++i) all = static_cast<Unit>(all | text[from + i]);
+        return (all & ~0x7F) == 0;
+    };
+    while (text.size() - length >= block && plain(length, block)) length += block;
+    while (length < text.size() && plain(length, 1)) ++length;
+    return length;
+}
+
+} // namespace
+
 std::string to_utf8(TextView text) {
     std::string out;
     out.reserve(text.size());
     const auto put = [&out](unsigned value) { out.push_back(static_cast<char>(value)); };
     for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::size_t plain = ascii_length(text.substr(i));
+        const std::size_t size = out.size();
+        out.resize(size + plain);
+        std::transform(text.begin() + static_cast<std::ptrdiff_t>(i),
+                       text.begin() + static_cast<std::ptrdiff_t>(i + plain),
+                       out.begin() + static_cast<std::ptrdiff_t>(size),
+                       [](char16_t unit) { return static_cast<char>(unit); });
+        i += plain;
+        if (i == text.size()) break;
         unsigned code = text[i];
-        if (code < 0x80) {
-            put(code);
-            continue;
-        }
         const bool high = code >= 0xD800 && code < 0xDC00;
         if (high && i + 1 < text.size() && text[i + 1] >= 0xDC00 && text[i + 1] < 0xE000) {
             code = 0x10000 + ((code - 0xD800) << 10) + (text[++i] - 0xDC00u);
@@ -264,6 +288,11 @@ Text from_utf8(std::string_view bytes) {
     Text out;
     out.reserve(bytes.size());
     for (std::size_t at = 0; at < bytes.size();) {
+        const std::size_t plain = ascii_length(bytes.substr(at));
+        out.append(bytes.begin() + static_cast<std::ptrdiff_t>(at),
+                   bytes.begin() + static_cast<std::ptrdiff_t>(at + plain));
+        at += plain;
+        if (at == bytes.size()) break;
         unsigned code = 0;
         if (!decode(bytes, at, code)) code = replacement;
         if (code < 0x10000) {
@@ -277,7 +306,7 @@ Text from_utf8(std::string_view bytes) {
 }
 
 bool is_utf8(std::string_view bytes) {
-    for (std::size_t at = 0; at < bytes.size();) {
+    for (std::size_t at = ascii_length(bytes); at < bytes.size(); at += ascii_length(bytes.substr(at))) {
         unsigned code = 0;
         if (!decode(bytes, at, code)) return false;
     }

@@ -1,0 +1,599 @@
+#include "platform/plain_pages.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace twk {
+
+// Words are looked at a run at a time: most units belong to one.
+void VisibleLines::words(TextView text) {
+    const auto blank = [](char16_t c) {
+        return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r' || c == u'\f';
+    };
+    for (std::size_t at = 0; at < text.size();) {
+        if (blank(text[at])) {
+            blank_ = true;
+            ++at;
+            continue;
+        }
+        std::size_t end = at + 1;
+        while (end < text.size() && !blank(text[end])) ++end;
+        if (blank_ && !out_.empty() && out_.back() != u'\n') out_.push_back(u' ');
+        blank_ = false;
+        out_.append(text, at, end - at);
+        at = end;
+    }
+}
+
+void VisibleLines::line_end() {
+    blank_ = false;
+    if (!out_.empty() && out_.back() != u'\n') out_.append(vbCrLf);
+}
+
+namespace {
+
+/// What the walk knows of an element.
+enum class Kind {
+    other,     ///< not known here
+    marks,     ///< inline, with an end tag
+    empty,     ///< inline, without content
+    rule,      ///< hr
+    new_line,  ///< br
+    paragraph, ///< p
+    block,     ///< div, center, lists ...
+    heading,   ///< h1 to h6
+    item,      ///< li
+    object,
+    script,
+    table,
+    body_part, ///< tbody, thead, tfoot
+    row,
+    cell,
+    page, ///< html, head, body
+    meta,
+    title,
+};
+
+struct Name {
+    TextView name;
+    Kind kind;
+    int number; ///< tells elements of one kind apart
+};
+
+constexpr Name names[] = {
+    {u"a", Kind::marks, 0},         {u"b", Kind::marks, 0},          {u"i", Kind::marks, 0},
+    {u"u", Kind::marks, 0},         {u"font", Kind::marks, 0},       {u"span", Kind::marks, 0},
+    {u"em", Kind::marks, 0},        {u"strong", Kind::marks, 0},     {u"big", Kind::marks, 0},
+    {u"small", Kind::marks, 0},     {u"img", Kind::empty, 0},        {u"embed", Kind::empty, 0},
+    {u"input", Kind::empty, 1},     {u"param", Kind::empty, 2},      {u"br", Kind::new_line, 0},
+    {u"hr", Kind::rule, 0},         {u"p", Kind::paragraph, 0},      {u"div", Kind::block, 1},
+    {u"center", Kind::block, 2},    {u"blockquote", Kind::block, 3}, {u"ul", Kind::block, 4},
+    {u"ol", Kind::block, 5},        {u"h1", Kind::heading, 1},       {u"h2", Kind::heading, 2},
+    {u"h3", Kind::heading, 3},      {u"h4", Kind::heading, 4},       {u"h5", Kind::heading, 5},
+    {u"h6", Kind::heading, 6},      {u"li", Kind::item, 0},          {u"object", Kind::object, 0},
+    {u"script", Kind::script, 0},   {u"table", Kind::table, 0},      {u"tbody", Kind::body_part, 0},
+    {u"thead", Kind::body_part, 1}, {u"tfoot", Kind::body_part, 2},  {u"tr", Kind::row, 0},
+    {u"td", Kind::cell, 0},         {u"th", Kind::cell, 1},          {u"html", Kind::page, 0},
+    {u"head", Kind::page, 1},       {u"body", Kind::page, 2},        {u"meta", Kind::meta, 0},
+    {u"title", Kind::title, 0},
+};
+
+constexpr int number_div = 1, number_ul = 4, number_ol = 5;
+
+struct Element {
+    Kind kind = Kind::other;
+    int number = 0;
+    bool operator==(const Element&) const = default;
+};
+
+struct Tag {
+    Element element;
+    bool end = false;
+};
+
+/// The page is none of those that the walk knows.
+struct Unknown {};
+
+bool is_letter(char16_t c) {
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+}
+bool is_letter_or_digit(char16_t c) {
+    return is_letter(c) || (c >= u'0' && c <= u'9');
+}
+bool is_blank(char16_t c) {
+    return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r' || c == u'\f';
+}
+
+/// Units that a parser takes as they are: no controls, no half pairs, no code points that are no characters.
+bool is_plain(TextView html) {
+    unsigned strange = 0;
+    for (const char16_t c : html) {
+        const bool control = c < 0x20 && c != u'\t' && c != u'\n' && c != u'\r' && c != u'\f';
+        const bool beyond = (c >= 0x7F && c < 0xA0) || (c >= 0xD800 && c < 0xE000) ||
+                            (c >= 0xFDD0 && c < 0xFDF0) || c == 0xFEFF || c >= 0xFFFD;
+        strange |= static_cast<unsigned>(control | beyond);
+    }
+    return strange == 0;
+}
+
+/// Cuts a page into text and tags; comments fall away.
+class Cutter {
+  public:
+    explicit Cutter(TextView html) : html_(html) {}
+
+    bool at_end() const { return at_ >= html_.size(); }
+    /// The text up to the next "<" that begins a tag or comment.
+    TextView text() {
+        const std::size_t from = at_;
+        while (at_ < html_.size()) {
+            at_ = std::min(html_.find(u'<', at_), html_.size());
+            if (at_ + 1 < html_.size() && (is_letter(html_[at_ + 1]) || html_[at_ + 1] == u'/' ||
+                                           html_[at_ + 1] == u'!' || html_[at_ + 1] == u'?'))
+                break;
+            if (at_ < html_.size()) ++at_;
+        }
+        const TextView text = html_.substr(from, at_ - from);
+        // A reference to a character begins with "&" and a letter or "#".
+        for (std::size_t i = text.find(u'&'); i != TextView::npos; i = text.find(u'&', i + 1))
+            if (i + 1 == text.size() || !is_blank(text[i + 1])) throw Unknown();
+        return text;
+    }
+
+    /// The tag at the place; nothing for a comment.
+    std::optional<Tag> tag() {
+        ++at_; // the "<"
+        if (unit() == u'!') {
+            skip_comment();
+            return std::nullopt;
+        }
+        Tag tag;
+        if (unit() == u'/') {
+            tag.end = true;
+            ++at_;
+        }
+        if (!is_letter(unit())) throw Unknown();
+        tag.element = element();
+        skip_attributes();
+        return tag;
+    }
+
+    /// Text that ends only with the end tag of its element.
+    void skip_to_end_of(TextView name, bool script) {
+        const std::size_t from = at_;
+        for (;; ++at_) {
+            at_ = html_.find(u"</", at_);
+            if (at_ == TextView::npos) throw Unknown();
+            const TextView found = html_.substr(at_ + 2, name.size());
+            const char16_t behind = unit(name.size() + 2);
+            if (same_text(found, name) && (is_blank(behind) || behind == u'>' || behind == u'/')) break;
+        }
+        if (script && html_.substr(from, at_ - from).find(u"<!--") != TextView::npos) throw Unknown();
+        at_ += name.size() + 2;
+        skip_attributes();
+    }
+
+  private:
+    char16_t unit(std::size_t ahead = 0) const {
+        return at_ + ahead < html_.size() ? html_[at_ + ahead] : u'\0';
+    }
+
+    void skip_comment() {
+        if (html_.substr(at_, 3) != u"!--") throw Unknown();
+        at_ += 3;
+        const std::size_t end = html_.find(u"-->", at_);
+        if (end == TextView::npos || unit() == u'>' || end == at_) throw Unknown();
+        const TextView comment = html_.substr(at_, end - at_);
+        // "--!>" ends a comment, too; a dash before the end makes it the parser's business.
+        if (comment.starts_with(u"->") || comment.ends_with(u"-") || comment.find(u"--!") != TextView::npos)
+            throw Unknown();
+        at_ = end + 3;
+    }
+
+    Element element() {
+        const std::size_t from = at_;
+        while (!is_blank(unit()) && unit() != u'/' && unit() != u'>' && at_ < html_.size()) ++at_;
+        const TextView name = html_.substr(from, at_ - from);
+        for (const Name& known : names)
+            if (known.name.size() == name.size() && lower_ascii(name[0]) == known.name[0] &&
+                std::equal(name.begin(), name.end(), known.name.begin(),
+                           [](char16_t a, char16_t b) { return lower_ascii(a) == b; }))
+                return {known.kind, known.number};
+        // What is no name of HTML is an inline element like any other.
+        if (!std::all_of(name.begin(), name.end(), is_letter_or_digit)) return {Kind::marks, 0};
+        throw Unknown();
+    }
+
+    static char16_t lower_ascii(char16_t c) {
+        return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
+    }
+
+    void skip_blanks() {
+        while (is_blank(unit())) ++at_;
+    }
+
+    /// Up to the end of the tag, quoted values as one.
+    void skip_attributes() {
+        for (;;) {
+            while (is_blank(unit()) || unit() == u'/') ++at_;
+            if (at_end()) throw Unknown();
+            if (unit() == u'>') break;
+            ++at_; // a name may begin with "="
+            while (!at_end() && !is_blank(unit()) && unit() != u'/' && unit() != u'>' && unit() != u'=')
+                ++at_;
+            skip_blanks();
+            if (unit() != u'=') continue;
+            ++at_;
+            skip_blanks();
+            if (const char16_t quote = unit(); quote == u'"' || quote == u'\'') {
+                at_ = html_.find(quote, at_ + 1);
+                if (at_ == TextView::npos) throw Unknown();
+                ++at_;
+            } else {
+                while (!at_end() && !is_blank(unit()) && unit() != u'>') ++at_;
+            }
+        }
+        ++at_;
+    }
+
+    TextView html_;
+    std::size_t at_ = 0;
+};
+
+/// Follows the rules by which a parser builds the tree, as far as they touch the elements that end lines and
+/// cells. Inline elements are not followed: where they would matter the page is none for this walk.
+class Walk {
+  public:
+    explicit Walk(TextView html) : cutter_(html) {}
+
+    Text whole() {
+        read_head();
+        while (!cutter_.at_end()) {
+            take_text(cutter_.text());
+            if (cutter_.at_end()) break;
+            if (const std::optional<Tag> tag = cutter_.tag()) take(*tag);
+        }
+        while (!open_.empty()) pop();
+        return lines_.take();
+    }
+
+  private:
+    enum class Mode { body, table, body_part, row, cell };
+
+    // The head
+
+    static bool only_blanks(TextView text) { return std::all_of(text.begin(), text.end(), is_blank); }
+
+    /// The next tag, with nothing but blanks and comments before it.
+    Tag bare_tag() {
+        for (;;) {
+            if (!only_blanks(cutter_.text()) || cutter_.at_end()) throw Unknown();
+            if (const std::optional<Tag> tag = cutter_.tag()) return *tag;
+        }
+    }
+
+    void read_head() {
+        for (int number = 0; number < 2; ++number) { // html, then head
+            const Tag tag = bare_tag();
+            if (tag.end || tag.element != Element{Kind::page, number}) throw Unknown();
+        }
+        for (;;) {
+            const Tag tag = bare_tag();
+            if (tag.element == Element{Kind::page, 1} && tag.end) break;
+            if (tag.end) throw Unknown();
+            if (tag.element.kind == Kind::title)
+                cutter_.skip_to_end_of(u"title", false);
+            else if (tag.element.kind != Kind::meta)
+                throw Unknown();
+        }
+        const Tag tag = bare_tag();
+        if (tag.end || tag.element != Element{Kind::page, 2}) throw Unknown();
+    }
+
+    // The open elements that count
+
+    void push(Element element) {
+        if (ends_a_line(element)) lines_.line_end();
+        open_.push_back(element);
+        inside_ = Inside::nothing;
+    }
+
+    void pop() {
+        const Element element = open_.back();
+        open_.pop_back();
+        if (ends_a_line(element)) lines_.line_end();
+        if (element.kind == Kind::cell) lines_.cell_end();
+        inside_ = Inside::uncertain;
+    }
+
+    static bool ends_a_line(Element element) {
+        return element.kind != Kind::object && element.kind != Kind::body_part && element.kind != Kind::cell;
+    }
+
+    Kind current() const { return open_.empty() ? Kind::other : open_.back().kind; }
+
+    /// Whether an element is open and no table cell, table or object has been opened since.
+    template <class Wanted> bool in_scope(Wanted wanted, bool lists_too = false) const {
+        for (auto at = open_.rbegin(); at != open_.rend(); ++at) {
+            if (wanted(*at)) return true;
+            if (at->kind == Kind::table || at->kind == Kind::cell || at->kind == Kind::object) return false;
+            if (lists_too && at->kind == Kind::block && (at->number == number_ul || at->number == number_ol))
+                return false;
+        }
+        return false;
+    }
+
+    template <class Wanted> bool in_table_scope(Wanted wanted) const {
+        for (auto at = open_.rbegin(); at != open_.rend(); ++at) {
+            if (wanted(*at)) return true;
+            if (at->kind == Kind::table) return false;
+        }
+        return false;
+    }
+
+    template <class Wanted> void pop_through(Wanted wanted) {
+        for (;;) {
+            const bool last = wanted(open_.back());
+            pop();
+            if (last) return;
+        }
+    }
+
+    static auto is(Kind kind) {
+        return [kind](Element element) { return element.kind == kind; };
+    }
+    static auto is(Element wanted) {
+        return [wanted](Element element) { return element == wanted; };
+    }
+
+    void close_paragraph() {
+        if (in_scope(is(Kind::paragraph))) pop_through(is(Kind::paragraph));
+    }
+
+    // Text and tags
+
+    void take_text(TextView text) {
+        if (text.empty()) return;
+        if (mode_ != Mode::body && mode_ != Mode::cell && !only_blanks(text))
+            throw Unknown(); // goes before the table
+        lines_.words(text);
+        if (inside_ == Inside::nothing) inside_ = Inside::uncertain; // an element may have been opened again
+    }
+
+    void take(const Tag& tag) {
+        switch (mode_) {
+        case Mode::body: in_body(tag); break;
+        case Mode::table: in_table(tag); break;
+        case Mode::body_part: in_body_part(tag); break;
+        case Mode::row: in_row(tag); break;
+        case Mode::cell: in_cell(tag); break;
+        }
+    }
+
+    void in_body(const Tag& tag) {
+        if (tag.end)
+            end_in_body(tag.element);
+        else
+            start_in_body(tag.element);
+    }
+
+    void start_in_body(Element element) {
+        switch (element.kind) {
+        case Kind::marks: inside_ = Inside::inline_element; break;
+        case Kind::empty:
+            if (inside_ == Inside::nothing) inside_ = Inside::uncertain;
+            break;
+        case Kind::new_line:
+            lines_.line_end();
+            if (inside_ == Inside::nothing) inside_ = Inside::uncertain;
+            break;
+        case Kind::rule:
+            close_paragraph();
+            lines_.line_end();
+            break;
+        case Kind::paragraph:
+        case Kind::block:
+            close_paragraph();
+            push(element);
+            break;
+        case Kind::heading: start_heading(element); break;
+        case Kind::item: start_item(element); break;
+        case Kind::object: push(element); break;
+        case Kind::script: cutter_.skip_to_end_of(u"script", true); break;
+        case Kind::table: // a page without a document type does not end its paragraph here
+            push(element);
+            mode_ = Mode::table;
+            break;
+        case Kind::body_part:
+        case Kind::row:
+        case Kind::cell: break; // outside a table they are nothing
+        default: throw Unknown();
+        }
+    }
+
+    void start_heading(Element element) {
+        close_paragraph();
+        if (current() == Kind::heading) {
+            if (inside_ == Inside::uncertain) throw Unknown();
+            if (inside_ == Inside::nothing) pop();
+        }
+        push(element);
+    }
+
+    void start_item(Element element) {
+        for (std::size_t i = open_.size(); i-- > 0;) {
+            const Element each = open_[i];
+            if (each.kind == Kind::item) {
+                pop_through(is(Kind::item));
+                break;
+            }
+            const bool passed = each.kind == Kind::paragraph || each == Element{Kind::block, number_div};
+            if (!passed) break;
+        }
+        close_paragraph();
+        push(element);
+    }
+
+    void end_in_body(Element element) {
+        switch (element.kind) {
+        case Kind::marks: inside_ = Inside::uncertain; break;
+        case Kind::empty: break;
+        case Kind::new_line: lines_.line_end(); break; // as its start tag
+        case Kind::paragraph:
+            if (in_scope(is(Kind::paragraph)))
+                close_paragraph();
+            else
+                lines_.line_end(); // an empty one
+            break;
+        case Kind::block:
+        case Kind::object:
+            if (in_scope(is(element))) pop_through(is(element));
+            break;
+        case Kind::heading:
+            if (in_scope(is(Kind::heading))) pop_through(is(Kind::heading));
+            break;
+        case Kind::item:
+            if (in_scope(is(Kind::item), true)) pop_through(is(Kind::item));
+            break;
+        case Kind::rule:
+        case Kind::table:
+        case Kind::body_part:
+        case Kind::row:
+        case Kind::cell: break; // nothing of them is open
+        case Kind::page:
+            if (element.number == 1) throw Unknown();
+            break; // what follows belongs to the body all the same
+        default: throw Unknown();
+        }
+    }
+
+    // Tables. What a table holds outside its cells goes before it: such a page is none for this walk.
+
+    void clear_back_to(std::initializer_list<Kind> kinds) {
+        while (!open_.empty() && std::find(kinds.begin(), kinds.end(), current()) == kinds.end()) pop();
+    }
+
+    void in_table(const Tag& tag) {
+        switch (tag.element.kind) {
+        case Kind::body_part:
+        case Kind::row:
+        case Kind::cell:
+            if (tag.end) return;
+            clear_back_to({Kind::table});
+            if (tag.element.kind == Kind::body_part) {
+                push(tag.element);
+                mode_ = Mode::body_part;
+                return;
+            }
+            push({Kind::body_part, 0});
+            mode_ = Mode::body_part;
+            return in_body_part(tag);
+        case Kind::table:
+            if (!tag.end) throw Unknown();
+            pop_through(is(Kind::table));
+            return reset_mode();
+        case Kind::script:
+            if (tag.end) throw Unknown();
+            return cutter_.skip_to_end_of(u"script", true);
+        case Kind::page:
+            if (tag.end && tag.element.number != 1) return;
+            throw Unknown();
+        default: throw Unknown();
+        }
+    }
+
+    void in_body_part(const Tag& tag) {
+        const Kind kind = tag.element.kind;
+        if (!tag.end && (kind == Kind::row || kind == Kind::cell)) {
+            clear_back_to({Kind::body_part});
+            push({Kind::row, 0});
+            mode_ = Mode::row;
+            if (kind == Kind::cell) in_row(tag);
+            return;
+        }
+        if (tag.end && (kind == Kind::row || kind == Kind::cell)) return;
+        if (tag.end && kind == Kind::body_part && !in_table_scope(is(tag.element))) return;
+        if (kind == Kind::body_part || (kind == Kind::table && tag.end)) {
+            clear_back_to({Kind::body_part});
+            pop();
+            mode_ = Mode::table;
+            if (kind == Kind::body_part && tag.end) return;
+        }
+        in_table(tag);
+    }
+
+    void in_row(const Tag& tag) {
+        const Kind kind = tag.element.kind;
+        if (!tag.end && kind == Kind::cell) {
+            clear_back_to({Kind::row});
+            push(tag.element);
+            mode_ = Mode::cell;
+            return;
+        }
+        if (tag.end && kind == Kind::cell) return;
+        if (tag.end && kind == Kind::body_part && !in_table_scope(is(tag.element))) return;
+        if (kind == Kind::row || kind == Kind::body_part || (kind == Kind::table && tag.end)) {
+            clear_back_to({Kind::row});
+            pop();
+            mode_ = Mode::body_part;
+            if (kind == Kind::row && tag.end) return;
+            return in_body_part(tag);
+        }
+        in_table(tag);
+    }
+
+    void in_cell(const Tag& tag) {
+        const Kind kind = tag.element.kind;
+        if (tag.end && kind == Kind::cell) {
+            if (!in_table_scope(is(tag.element))) return;
+            pop_through(is(tag.element));
+            mode_ = Mode::row;
+            return;
+        }
+        const bool of_table = kind == Kind::table || kind == Kind::body_part || kind == Kind::row;
+        if (tag.end && of_table) {
+            if (!in_table_scope(is(tag.element))) return;
+        } else if (tag.end && kind == Kind::page) {
+            if (tag.element.number == 1) throw Unknown();
+            return;
+        } else if (tag.end || (kind != Kind::cell && kind != Kind::body_part && kind != Kind::row)) {
+            return in_body(tag);
+        }
+        pop_through(is(Kind::cell));
+        mode_ = Mode::row;
+        in_row(tag);
+    }
+
+    void reset_mode() {
+        mode_ = Mode::body;
+        for (auto at = open_.rbegin(); at != open_.rend(); ++at) {
+            switch (at->kind) {
+            case Kind::cell: mode_ = Mode::cell; return;
+            case Kind::row: mode_ = Mode::row; return;
+            case Kind::body_part: mode_ = Mode::body_part; return;
+            case Kind::table: mode_ = Mode::table; return;
+            default: break;
+            }
+        }
+    }
+
+    Cutter cutter_;
+    VisibleLines lines_;
+    std::vector<Element> open_; ///< below html and body
+    Mode mode_ = Mode::body;
+    /// What is open within the innermost of them: whether a heading is the current element hangs on it.
+    enum class Inside { nothing, inline_element, uncertain } inside_ = Inside::nothing;
+};
+
+} // namespace
+
+std::optional<Text> plain_page_text(TextView html) {
+    if (!is_plain(html)) return std::nullopt;
+    try {
+        return Walk(html).whole();
+    } catch (const Unknown&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace twk
