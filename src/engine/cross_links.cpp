@@ -26,7 +26,8 @@ void append_links(Run& run, const Text& path, bool index) {
         page->writeline(u"<br><br>" + links);
     page->writeline(u"<br><br><br><br><br>");
     page->writeline(u"</body></html>");
-    page->Close();
+    run.ultimo_texto = page->close_and_read();
+    run.ultima_pagina = path;
     run.bytes_written += FileLen(path) - before;
 }
 

@@ -1,10 +1,10 @@
 #include "engine/density.h"
 
 #include "engine/page_head.h"
+#include "engine/pattern_index.h"
 #include "engine/read_more.h"
 #include "engine/run.h"
 #include "engine/text_toolkit.h"
-#include "engine/text_windows.h"
 #include "platform/chance.h"
 #include "platform/faults.h"
 #include "platform/numbers.h"
@@ -195,16 +195,34 @@ std::int16_t xrnum2(std::int16_t n) {
     return xrnum(n);
 }
 
+namespace {
+
+/// Every keyword between blanks.
+const PatternSet& highlighted(Run& run) {
+    const auto holds = [&run](int k) {
+        const TextView keyword = trim_view(run.tabla_kw.at(k));
+        const Text& pattern = run.highlighted->pattern(k);
+        return TextView(pattern).substr(1, pattern.size() - 2) == keyword;
+    };
+    bool right = run.highlighted && run.highlighted->size() == run.n_keywords;
+    for (int k = 0; right && k < run.n_keywords; ++k) right = holds(k);
+    if (!right) {
+        std::vector<Text> patterns;
+        for (int k = 0; k < run.n_keywords; ++k) patterns.push_back(u" " + Trim(run.tabla_kw.at(k)) + u" ");
+        run.highlighted = std::make_shared<PatternSet>(std::move(patterns));
+    }
+    return *run.highlighted;
+}
+
+} // namespace
+
 Text highLight(Run& run, TextView texto) {
     Text r(texto);
-    TextWindows windows(r);
-    for (int i = 0; i < run.n_keywords; ++i) {
-        const Text& k = run.tabla_kw.at(i);
-        const Text lone = u" " + Trim(k) + u" ";
-        if (windows.may_hold(lone) &&
-            replace_all(r, lone, u" " + run.settings.hl_abre + k + run.settings.hl_cierra + u" "))
-            windows = TextWindows(r); // what was put in may hold a later keyword
-    }
+    PatternIndex index(highlighted(run), r);
+    for (int i = 0; i < run.n_keywords; ++i)
+        if (index.occurs(i))
+            index.replace(i, index.from_left(i),
+                          u" " + run.settings.hl_abre + run.tabla_kw.at(i) + run.settings.hl_cierra + u" ");
     return r;
 }
 

@@ -151,6 +151,7 @@ void generation_run(Form6& form) {
     try {
         run_all(run);
     } catch (RuntimeFault& fault) {
+        run.origen.reset();
         fault.stage = run.mensaje_error;
         fault.page = run.pagina_actual;
         throw;

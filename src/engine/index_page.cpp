@@ -36,12 +36,12 @@ void index_page(Run& run) {
     const Text aux = page + u"aux";
     run.pagina_actual = page;
     for (const Text& each : {page, finished, aux}) run.fence->check(each);
-    run.origen = run.fso.OpenTextFile(page, OpenMode::reading, !run.fso.FileExists(finished), TextKind::page);
+    const TextStreamPtr origen =
+        run.fso.OpenTextFile(page, OpenMode::reading, !run.fso.FileExists(finished), TextKind::page);
     run.salida = run.fso.OpenTextFile(aux, OpenMode::writing, true, TextKind::page);
     write_index(run);
-    run.origen->Close();
+    origen->Close();
     run.salida->Close();
-    run.origen.reset();
     run.salida.reset();
     run.fso.DeleteFile(page);
     run.fso.CopyFile(aux, finished);

@@ -1,26 +1,109 @@
 #include "engine/keyword_counts.h"
 
+#include "engine/run.h"
+#include "engine/surplus.h"
 #include "engine/text_toolkit.h"
+#include "platform/faults.h"
+#include "platform/numbers.h"
+
+#include <algorithm>
 
 namespace twk {
 
-std::int16_t KeywordCounts::count(Text& keyword) {
-    if (plain_ && !contains(keyword, u"$")) {
-        keyword = Trim(LCase(keyword));
-        quitar_dobles(keyword);
-        return windows_.may_hold(keyword) ? contar_kw(text_, keyword) : std::int16_t{0};
-    }
-    const std::int16_t found = contar_kw(text_, keyword);
-    learn();
-    return found;
+namespace {
+
+Text as_counted(TextView keyword) {
+    Text form = Trim(LCase(keyword));
+    return quitar_dobles(form);
 }
 
-void KeywordCounts::learn() {
-    // A tag without its blanks, a joint or a highlight opening would be changed by any count.
-    Text again = text_;
-    Text not_there = u"\uFFFF \uFFFF";
-    plain_ = contar_kw(again, not_there) == 0 && again == text_;
-    if (plain_) windows_ = TextWindows(text_);
+std::vector<Text> with_disturbing(const std::vector<Text>& keywords) {
+    std::vector<Text> patterns;
+    patterns.reserve(keywords.size() + 2);
+    for (const Text& keyword : keywords) patterns.push_back(as_counted(keyword));
+    patterns.emplace_back(highlight_opening);
+    patterns.emplace_back(keyword_joint);
+    return patterns;
+}
+
+} // namespace
+
+KeywordSet::KeywordSet(const std::vector<Text>& keywords)
+    : size_(static_cast<int>(keywords.size())), patterns_(with_disturbing(keywords)) {}
+
+bool KeywordSet::known(int k) const {
+    return keyword(k).empty() || (patterns_.findable(k) && !contains(keyword(k), u"$"));
+}
+
+bool KeywordSet::same(const std::vector<Text>& keywords) const {
+    if (static_cast<int>(keywords.size()) != size_) return false;
+    for (int k = 0; k < size_; ++k) {
+        const Text& other = keywords[static_cast<std::size_t>(k)];
+        if (other != keyword(k) && as_counted(other) != keyword(k)) return false;
+    }
+    return true;
+}
+
+const KeywordSet& keyword_set(Run& run) {
+    if (!run.keywords) {
+        std::vector<Text> all;
+        for (int k = 0; k < run.n_keywords; ++k) all.push_back(run.tabla_kw.at(k));
+        run.keywords = std::make_shared<KeywordSet>(all);
+    }
+    return *run.keywords;
+}
+
+/// The index is made only of a text that a count leaves alone.
+bool KeywordCounts::ready() {
+    if (index_) return true;
+    if (passes_left_ == 0 || !is_spaced(text_)) return false;
+    --passes_left_;
+    index_.emplace(set_.patterns(), text_);
+    for (int p = set_.first_disturbing(); p < set_.patterns().size(); ++p)
+        if (index_->occurs(p)) index_.reset();
+    return index_.has_value();
+}
+
+std::optional<std::int64_t> KeywordCounts::counted(int k) const {
+    const Text& keyword = set_.keyword(k);
+    if (keyword.empty() || !index_->occurs(k)) return 0;
+    const std::vector<std::size_t> places = index_->from_left(k);
+    if (contains(keyword, u" "))
+        for (std::size_t i = 1; i < places.size(); ++i)
+            if (places[i] - places[i - 1] < 2 * keyword.size()) return std::nullopt;
+    return static_cast<std::int64_t>(places.size());
+}
+
+std::int16_t KeywordCounts::contar(int k, Text& keyword) {
+    absent_ = false;
+    if (keyword != set_.keyword(k)) keyword = set_.keyword(k);
+    if (!set_.known(k)) {
+        changed();
+        return contar_kw(text_, keyword);
+    }
+    const std::optional<std::int64_t> count = ready() ? counted(k) : std::nullopt;
+    if (!count) return contar_kw(text_, keyword);
+    absent_ = *count == 0;
+    return CInt(static_cast<double>(*count));
+}
+
+void KeywordCounts::replace_last(int k, TextView with, int count) {
+    if (!index_ || !set_.known(k)) {
+        changed();
+        return twk::replace_last(text_, set_.keyword(k), with, count);
+    }
+    if (count < -1) throw RuntimeFault(fault_argument);
+    if (count == 0 || set_.keyword(k).empty()) return;
+    const auto most = count < 0 ? text_.size() : static_cast<std::size_t>(count);
+    const std::vector<std::size_t> places = index_->from_right(k, most);
+    if (places.empty()) return;
+    index_->replace(k, places, with);
+    // What was put in may stand close to a tag or hold what a count takes away.
+    const std::size_t first = places.front() == 0 ? 0 : places.front() - 1;
+    bool disturbed = !is_spaced(TextView(text_).substr(first));
+    for (int p = set_.first_disturbing(); p < set_.patterns().size(); ++p)
+        disturbed = disturbed || index_->occurs(p);
+    if (disturbed) changed();
 }
 
 } // namespace twk

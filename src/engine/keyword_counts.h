@@ -1,28 +1,65 @@
 #pragma once
 
-#include "engine/text_windows.h"
+#include "engine/pattern_index.h"
 
+#include <cstdint>
+#include <optional>
+
+/// Counts of many keywords in one text: what `contar_kw` gives for one keyword after the other, from one
+/// pass.
 namespace twk {
 
-/// Counts many keywords in one text, one after the other, each with the result and the side effects of
-/// `contar_kw`. Keywords that the text does not hold are mostly told without another walk over it.
-class KeywordCounts {
+/// The keywords that are counted together, in the form that a count leaves them in.
+class KeywordSet {
   public:
-    /// The text must outlive the object.
-    explicit KeywordCounts(Text& text) : text_(text) {}
+    explicit KeywordSet(const std::vector<Text>& keywords);
 
-    /// As `contar_kw`; faults likewise.
-    std::int16_t count(Text& keyword);
+    int size() const { return size_; }
+    const Text& keyword(int k) const { return patterns_.pattern(k); }
+    /// Whether the index tells all: an empty keyword, or one of two units and more without a "$".
+    bool known(int k) const;
+    const PatternSet& patterns() const { return patterns_; }
+    /// Patterns behind the keywords, which a text that needs no more spacing does not hold.
+    int first_disturbing() const { return size_; }
 
-    /// To be called when the text has been changed from outside.
-    void text_changed() { plain_ = false; }
+    /// Whether these keywords, as a count leaves them, are the ones of the set.
+    bool same(const std::vector<Text>& keywords) const;
 
   private:
-    void learn();
+    int size_;
+    PatternSet patterns_;
+};
 
+struct Run;
+
+/// The set of the run's keywords.
+const KeywordSet& keyword_set(Run& run);
+
+/// Counts in one text. Whatever else changes the text makes the object useless.
+class KeywordCounts {
+  public:
+    KeywordCounts(const KeywordSet& set, Text& text) : set_(set), text_(text) {}
+
+    /// `contar_kw` of the text and keyword `k` of the set, with all it does to both. `keyword` is the
+    /// caller's variable.
+    std::int16_t contar(int k, Text& keyword);
+    /// Whether the last count found the text in the form that it stays in, and no occurrence.
+    bool absent() const { return absent_; }
+    /// `replace_last` of keyword `k` in the text.
+    void replace_last(int k, TextView with, int count);
+    /// The text has been changed by someone else.
+    void changed() { index_.reset(); }
+
+  private:
+    bool ready();
+    /// From the index; nothing when matches of a phrase stand close enough to play into each other.
+    std::optional<std::int64_t> counted(int k) const;
+
+    const KeywordSet& set_;
     Text& text_;
-    bool plain_ = false; ///< `windows_` is of the present text, which a count without a find leaves as it is
-    TextWindows windows_;
+    std::optional<PatternIndex> index_;
+    int passes_left_ = 3; ///< a text that keeps losing its form is counted keyword by keyword
+    bool absent_ = false;
 };
 
 } // namespace twk

@@ -11,19 +11,17 @@ void open_page(Run& run, const Text& path) {
     const Text aux = path + u"aux";
     run.fence->check(path);
     run.fence->check(aux);
-    run.origen = run.fso.OpenTextFile(path, OpenMode::reading, !run.fso.FileExists(path), TextKind::page);
+    run.origen.emplace(path);
     run.salida = run.fso.OpenTextFile(aux, OpenMode::writing, true, TextKind::page);
 }
 
 void close_page(Run& run, const Text& path) {
     const Text aux = run.salida->path();
-    run.origen->Close();
-    run.salida->Close();
-    run.origen.reset();
+    run.ultimo_texto = run.salida->close_and_read();
+    run.ultima_pagina = path;
     run.salida.reset();
-    run.fso.DeleteFile(path);
-    run.fso.CopyFile(aux, path);
-    run.fso.DeleteFile(aux);
+    run.origen->replace_by(aux);
+    run.origen.reset();
     ++run.pages_written;
     run.bytes_written += FileLen(path);
     run.pagina_actual.clear();

@@ -7,7 +7,8 @@ namespace twk {
 
 void analizar_pagina(Run& run, const Text& path, const Text&) {
     if (!run.form.informe_activo) return;
-    Text texto_informe = read_text_file(path);
+    Text texto_informe = path == run.ultima_pagina ? std::move(run.ultimo_texto) : read_text_file(path);
+    run.ultima_pagina.clear();
     // The page's own redirection must not carry the preview away.
     replace_all(texto_informe, u"document.navigate", u"$$$document.navigate");
     Form12& report = screen<Form12>();

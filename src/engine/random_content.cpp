@@ -6,7 +6,6 @@
 #include "engine/generation.h"
 #include "engine/keyword_counts.h"
 #include "engine/run.h"
-#include "engine/surplus.h"
 #include "engine/synonyms.h"
 #include "engine/text_toolkit.h"
 #include "platform/chance.h"
@@ -66,16 +65,14 @@ void perhaps_adjust(Run& run, Text& s, int below, std::int16_t density) {
 /// Of every keyword the first `kept` occurrences stay.
 void limit_keywords(Run& run, Text& s, int kept) {
     ++run.cuenta_archivos;
-    KeywordCounts counts(s);
+    KeywordCounts counts(keyword_set(run), s);
     for (int i = 0; i < run.n_keywords; ++i) {
         status(run, u"Updating Random-Generated Page " + to_text(i) + u"/" + to_text(run.n_keywords) +
                         u" done for file " + to_text(run.cuenta_archivos));
         DoEvents();
         Text& keyword = run.tabla_kw.cell(i);
-        const std::int16_t n = counts.count(keyword);
-        if (keyword.empty() || n < kept) continue;
-        replace_last(s, keyword, run.settings.kw_sustituto, n - kept);
-        counts.text_changed();
+        const std::int16_t n = counts.contar(i, keyword);
+        if (!keyword.empty() && n >= kept) counts.replace_last(i, run.settings.kw_sustituto, n - kept);
     }
 }
 

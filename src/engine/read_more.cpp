@@ -30,7 +30,7 @@ Text read_more_path(Run& run, Text stem, TextView mark) {
 }
 
 void write_read_more(Run& run, const Text& path, const Text& t) {
-    const TextStreamPtr page = run.fso.OpenTextFile(path, OpenMode::reading, true, TextKind::page);
+    ReplacedFile page(path);
     const Text aux = path + u"aux2";
     const TextStreamPtr out = run.fso.OpenTextFile(aux, OpenMode::writing, true, TextKind::page);
     if (run.indice_kw < run.tabla_kw.rows()) // faults are passed over: the line alone is missing then
@@ -46,11 +46,8 @@ void write_read_more(Run& run, const Text& path, const Text& t) {
     out->writeline(u"By " + run.proyecto.designer_name + u"<br><center>");
     out->writeline(u"<br><br>");
     out->writeline(u"</body></html>");
-    page->Close();
     out->Close();
-    run.fso.DeleteFile(path);
-    run.fso.CopyFile(aux, path);
-    run.fso.DeleteFile(aux);
+    page.replace_by(aux);
     ++run.pages_written;
     run.bytes_written += FileLen(path);
 }

@@ -9,10 +9,14 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace twk {
+
+class KeywordSet;
+class PatternSet;
 
 /// The project's record, as the run reads it.
 struct Proyecto {
@@ -65,6 +69,10 @@ struct Run {
     std::array<std::vector<std::int16_t>, max_boxes> densidades; ///< [box][keyword], per cent
     std::int16_t ultima_caja = -1;
 
+    std::shared_ptr<const KeywordSet>
+        keywords; ///< those of the table, to be counted together; made when needed
+    std::shared_ptr<const PatternSet> highlighted; ///< the same between blanks
+
     Text extension;       ///< with its point
     Text separador;       ///< word separator of file names, read once
     Text archivo_sitemap; ///< file name of the hallway page
@@ -99,9 +107,10 @@ struct Run {
 
     Database base_datos; ///< stays open after the run
     FileSystemObject fso;
-    TextStreamPtr origen;
-    TextStreamPtr salida;         ///< the page under way
-    std::shared_ptr<Fence> fence; ///< every file of the run must lie inside
+    std::optional<ReplacedFile> origen; ///< the page under way, as it stands until it is replaced
+    TextStreamPtr salida;               ///< and what is written of it
+    Text ultima_pagina, ultimo_texto;   ///< path and text of the page written last
+    std::shared_ptr<Fence> fence;       ///< every file of the run must lie inside
 
     // What the end of a run tells the command line.
     std::int64_t pages_written = 0;

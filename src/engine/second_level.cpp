@@ -138,17 +138,16 @@ void write_content_block(Run& run, bool split_sentences, bool count_file) {
     status(run, u"Updating Second-Level Page");
     DoEvents();
     if (count_file) ++run.cuenta_archivos;
-    KeywordCounts counts(text);
+    KeywordCounts counts(keyword_set(run), text);
     for (int i = 0; i < run.n_keywords; ++i) {
         // The caption speaks of random pages here, too.
         status(run,
                u"Updating Random-Generated Page " + to_text(i) + u"/" + to_text(run.n_keywords) + u" done");
         DoEvents();
         Text& keyword = run.tabla_kw.cell(i);
-        const std::int16_t found = counts.count(keyword);
-        if (keyword.empty() || found < kept_occurrences) continue;
-        replace_last(text, keyword, run.settings.kw_sustituto, found - kept_occurrences);
-        counts.text_changed();
+        const std::int16_t found = counts.contar(i, keyword);
+        if (!keyword.empty() && found >= kept_occurrences)
+            counts.replace_last(i, run.settings.kw_sustituto, found - kept_occurrences);
     }
     replace_all(text, u". ", run.lista_kw); // the sentence ends go
     if (run.form.Check6.value()) text = highLight(run, text);

@@ -11,15 +11,7 @@
 
 namespace twk {
 
-namespace {
-
-/// Stands for a blank inside a keyword while it is counted.
-constexpr TextView joint = u"$$$";
-/// The search steps over one unit more per blank than it has matched: the count depends on it.
-constexpr TextView long_joint = u"$$$$";
-
-/// Whether every tag has a blank on both sides and no blank follows another. Looks at every unit with the one
-/// before it, without an early exit: compilers vectorise that.
+// Looks at every unit with the one before it, without an early exit: compilers vectorise that.
 bool is_spaced(TextView text) {
     if (text.empty()) return true;
     if (text.front() == u'<' || text.back() == u'>') return false; // those two lack a neighbour
@@ -32,6 +24,11 @@ bool is_spaced(TextView text) {
     }
     return wrong == 0;
 }
+
+namespace {
+
+/// The search steps over one unit more per blank than it has matched: the count depends on it.
+constexpr TextView long_joint = u"$$$$";
 
 /// "<" to " <", ">" to "> ", then single blanks: the form in which tags are pieces of their own. One pass,
 /// and only when the text is not in that form yet.
@@ -87,7 +84,7 @@ namespace {
 /// Counts by the letter: the keyword's blanks become joints in the text, and each match takes the search on
 /// by the length that the keyword has with the longer joints.
 std::int64_t count_joined(Text& texto, const Text& keyword) {
-    const Text joined = Replace(keyword, u" ", joint);
+    const Text joined = Replace(keyword, u" ", keyword_joint);
     const std::size_t step = Replace(keyword, u" ", long_joint).size();
     if (joined != keyword) replace_all(texto, keyword, joined);
     std::int64_t count = 0;
@@ -119,7 +116,7 @@ std::int16_t contar_kw(Text& texto, Text& keyword) {
     keyword = Trim(LCase(keyword));
     const bool phrase = contains(keyword, u" ");
     if (phrase) quitar_dobles(keyword);
-    const bool has_joints = contains(texto, joint);
+    const bool has_joints = contains(texto, keyword_joint);
     // A "$" beside a joint would make the joint another one.
     const bool plain = !has_joints && !contains(keyword, u"$");
     std::int64_t count = 0;
@@ -127,7 +124,7 @@ std::int16_t contar_kw(Text& texto, Text& keyword) {
         count = plain && phrase ? count_apart(texto, keyword) : -1;
         if (count < 0) count = count_joined(texto, keyword);
     }
-    if (has_joints || phrase) replace_all(texto, joint, u" ");
+    if (has_joints || phrase) replace_all(texto, keyword_joint, u" ");
     return as_count(count);
 }
 
@@ -141,7 +138,7 @@ double densidad(const Text& texto, Text& keyword) {
 }
 
 double densidad2(std::int16_t cuenta, Text& texto, const Text& keyword) {
-    replace_all(texto, keyword, Replace(keyword, u" ", joint));
+    replace_all(texto, keyword, Replace(keyword, u" ", keyword_joint));
     const std::int64_t blanks = std::count(texto.begin(), texto.end(), u' ');
     // One less than the pieces, of which an empty text has none.
     const double piezas = texto.empty() ? -1 : blanks == 0 ? 1 : static_cast<double>(blanks);

@@ -11,6 +11,13 @@ namespace twk {
 /// Opening of a keyword highlight; the counts do not see it.
 inline constexpr TextView highlight_opening = u"<span style=\"background-color: #FFFF97\">";
 
+/// Stands for a blank inside a keyword while it is counted; a count turns it to a blank.
+inline constexpr TextView keyword_joint = u"$$$";
+
+/// Whether every tag has a blank on both sides and no blank follows another: the form in which a count leaves
+/// a text.
+bool is_spaced(TextView texto);
+
 /// Collapses runs of blanks in place; returns the argument.
 Text& quitar_dobles(Text& texto);
 

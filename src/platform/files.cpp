@@ -110,13 +110,34 @@ int replace_content(int file, std::string_view bytes) {
     return 0;
 }
 
+/// Opens a file for writing, made where there is none.
+int open_to_write(const std::string& name, const Text& path) {
+    const int file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+    if (file < 0) fail(errno == ENOENT ? ENOTDIR : errno, path);
+    return file;
+}
+
+/// Adds bytes at the end of an open file, which is cut back where the disk is full.
+int append_content(int file, std::string_view bytes) {
+    struct stat before {};
+    if (::fstat(file, &before) != 0) return errno;
+    const int error = write_at(file, bytes, static_cast<std::size_t>(std::max<off_t>(before.st_size, 0)));
+    if (error != 0 && S_ISREG(before.st_mode) && ::ftruncate(file, before.st_size) != 0) return errno;
+    return error;
+}
+
+bool is_ascii(std::string_view bytes) {
+    unsigned char all = 0;
+    for (const char byte : bytes) all |= static_cast<unsigned char>(byte);
+    return all < 0x80;
+}
+
 /// Writes the whole file. Where the disk is full nothing is written: what was there stays, and a file that
 /// was made for it is taken away again.
 void write_bytes(const Text& path, std::string_view bytes) {
     const std::string name = disk_path(path);
     const bool there = ::access(name.c_str(), F_OK) == 0;
-    const int file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
-    if (file < 0) fail(errno == ENOENT ? ENOTDIR : errno, path);
+    const int file = open_to_write(name, path);
     int error = replace_content(file, bytes);
     if (::close(file) != 0 && error == 0) error = errno;
     if (error != 0) {
@@ -124,6 +145,20 @@ void write_bytes(const Text& path, std::string_view bytes) {
         fail(error, path);
     }
     if (!there) NameIndex::entry_added(name);
+}
+
+/// Whether decoding gives back what was encoded: no half of a surrogate pair stands alone.
+bool reads_back(TextView text) {
+    unsigned halves = 0;
+    for (const char16_t unit : text) halves += (unit & 0xF800u) == 0xD800u ? 1u : 0u;
+    if (halves == 0) return true;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] < 0xD800 || text[i] >= 0xE000) continue;
+        if (text[i] >= 0xDC00 || i + 1 == text.size() || text[i + 1] < 0xDC00 || text[i + 1] >= 0xE000)
+            return false;
+        ++i;
+    }
+    return true;
 }
 
 bool is_kind(const Text& path, mode_t kind) {
@@ -169,8 +204,12 @@ void remove_file(const std::string& name, const Text& path) {
 
 // Streams
 
-TextStream::TextStream(Text path, OpenMode mode, TextKind kind, Text content)
-    : path_(std::move(path)), mode_(mode), kind_(kind), content_(std::move(content)) {}
+TextStream::TextStream(Text path, OpenMode mode, TextKind kind, Text content, int file)
+    : path_(std::move(path)), mode_(mode), kind_(kind), content_(std::move(content)), file_(file) {}
+
+TextStream::~TextStream() {
+    if (file_ >= 0) ::close(file_);
+}
 
 Text TextStream::readline() {
     if (AtEndOfStream()) throw RuntimeFault(fault_past_end);
@@ -202,11 +241,31 @@ void TextStream::writeline(TextView line) {
 }
 
 void TextStream::Close() {
-    if (!std::exchange(open_, false) || mode_ == OpenMode::reading) return;
-    // What stands before appended text is read again: its mark and encoding have to fit the whole.
-    if (mode_ == OpenMode::appending) content_.insert(0, read_text_file(path_));
-    write_bytes(path_, encode_text(content_, kind_));
-    content_.clear();
+    if (mode_ == OpenMode::reading)
+        open_ = false;
+    else
+        close_and_read();
+}
+
+Text TextStream::close_and_read() {
+    if (!std::exchange(open_, false) || mode_ == OpenMode::reading) return {};
+    int error = 0;
+    std::string old;
+    if (mode_ == OpenMode::appending) old = read_bytes(path_);
+    std::string bytes = encode_text(content_, kind_);
+    if (is_ascii(old) && (old.empty() || is_ascii(bytes))) {
+        error = old.empty() ? replace_content(file_, bytes) : append_content(file_, bytes);
+        if (!old.empty()) content_.insert(0, decode_text(old));
+    } else {
+        // The mark and the encoding have to fit the whole.
+        content_.insert(0, decode_text(old));
+        bytes = encode_text(content_, kind_);
+        error = replace_content(file_, bytes);
+    }
+    if (::close(std::exchange(file_, -1)) != 0 && error == 0) error = errno;
+    if (error != 0) fail(error, path_);
+    Text text = std::exchange(content_, {});
+    return reads_back(text) ? text : decode_text(bytes);
 }
 
 // The file system
@@ -222,12 +281,13 @@ TextStreamPtr FileSystemObject::OpenTextFile(const Text& path, OpenMode mode, bo
     const std::string name = disk_path(path);
     const bool there = ::access(name.c_str(), F_OK) == 0;
     if (!there && !create) fail(ENOENT, path);
-    if (!there) write_bytes(path, {});
-    if (mode == OpenMode::reading)
-        return std::make_shared<TextStream>(path, mode, kind, there ? read_text_file(path) : Text());
-    const Descriptor file(::open(name.c_str(), O_WRONLY | O_CLOEXEC));
-    if (file.number < 0) fail(errno, path);
-    return std::make_shared<TextStream>(path, mode, kind, Text());
+    if (mode == OpenMode::reading) {
+        if (!there) write_bytes(path, {});
+        return std::make_shared<TextStream>(path, mode, kind, there ? read_text_file(path) : Text(), -1);
+    }
+    const int file = open_to_write(name, path);
+    if (!there) NameIndex::entry_added(name);
+    return std::make_shared<TextStream>(path, mode, kind, Text(), file);
 }
 
 void FileSystemObject::DeleteFile(const Text& path) {
@@ -247,6 +307,17 @@ void FileSystemObject::CopyFile(const Text& from, const Text& to) {
     write_bytes(to, bytes);
 }
 
+void FileSystemObject::MoveOver(const Text& from, const Text& to) {
+    const std::string name = disk_path(from);
+    const std::string place = disk_path(to);
+    const std::string wanted = NameIndex::with_last_name(place, to_utf8(file_part(to)));
+    // A file that stands there under the same name in another case gives way.
+    if (place != wanted && ::access(place.c_str(), F_OK) == 0) remove_file(place, to);
+    if (::rename(name.c_str(), wanted.c_str()) != 0) fail(errno, from);
+    NameIndex::entry_removed(name);
+    NameIndex::entry_added(wanted);
+}
+
 void FileSystemObject::DeleteFolder(const Text& path) {
     const std::string name = disk_path(path);
     struct stat info {};
@@ -256,6 +327,35 @@ void FileSystemObject::DeleteFolder(const Text& path) {
     fs::remove_all(name, error); // removes links, never what they lead to
     NameIndex::forget();
     if (error) fail(error.value(), path);
+}
+
+ReplacedFile::ReplacedFile(Text path) : path_(std::move(path)), missing_(false) {
+    const std::string name = disk_path(path_);
+    const Descriptor file(::open(name.c_str(), O_RDONLY | O_CLOEXEC));
+    struct stat info {};
+    if (file.number >= 0) {
+        if (::fstat(file.number, &info) != 0) fail(errno, path_);
+        if (S_ISDIR(info.st_mode)) fail(EISDIR, path_);
+        return;
+    }
+    if (errno != ENOENT) fail(errno, path_);
+    const std::string folder = std::filesystem::path(name).parent_path().string();
+    if (::access(folder.empty() ? "." : folder.c_str(), W_OK | X_OK) != 0)
+        fail(errno == ENOENT ? ENOTDIR : errno, path_);
+    missing_ = true;
+}
+
+ReplacedFile::~ReplacedFile() {
+    if (!missing_) return;
+    try {
+        if (!file_exists(path_)) write_bytes(path_, {});
+    } catch (const RuntimeFault&) { // the fault that brought us here is the one to be told
+    }
+}
+
+void ReplacedFile::replace_by(const Text& sibling) {
+    FileSystemObject().MoveOver(sibling, path_);
+    missing_ = false;
 }
 
 bool dir_exists(const Text& path) {
@@ -347,13 +447,34 @@ Fence::Fence(Text projects, TextView name) : projects_(std::move(projects)) {
     if (error || folder.parent_path() != root) fenced(folder_);
 }
 
+bool Fence::inside(const std::string& folder) const {
+    if (known_.contains(folder)) return true;
+    std::error_code error;
+    const fs::path root = fs::weakly_canonical(disk_path(folder_), error);
+    if (error) return false;
+    const fs::path place = fs::canonical(folder, error);
+    if (error) return false; // a folder that is not there yet is looked at anew each time
+    const auto [end, at] = std::mismatch(root.begin(), root.end(), place.begin(), place.end());
+    if (end != root.end()) return false;
+    known_.insert(folder);
+    return true;
+}
+
 void Fence::check(const Text& path) const {
+    const std::string name = disk_path(path);
+    const fs::path given(name);
+    struct stat info {};
+    const int failed = ::lstat(name.c_str(), &info) == 0 ? 0 : errno;
+    // What stands in a folder of the project under a plain name, and is no link, lies in it.
+    const std::string last = given.filename().string();
+    const bool plain = !last.empty() && last != "." && last != "..";
+    const bool link = failed == 0 && S_ISLNK(info.st_mode);
+    if (plain && !link && (failed == 0 || failed == ENOENT) && inside(given.parent_path().string())) return;
     std::error_code error;
     const fs::path root = fs::weakly_canonical(disk_path(folder_), error);
     if (error) fenced(path);
-    const std::string name = disk_path(path);
     // A link that leads nowhere yet would make its target when it is written.
-    if (fs::is_symlink(fs::symlink_status(name, error)) && !fs::exists(name, error)) fenced(path);
+    if (link && !fs::exists(name, error)) fenced(path);
     const fs::path place = fs::weakly_canonical(name, error);
     if (error) fenced(path);
     const auto [end, at] = std::mismatch(root.begin(), root.end(), place.begin(), place.end());

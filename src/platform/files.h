@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -23,7 +24,11 @@ enum class OpenMode { reading = 1, writing = 2, appending = 8 };
 /// nothing. Reading takes a UTF-8 mark, else valid UTF-8, else Windows-1252; lines end in CR LF, LF or CR.
 class TextStream {
   public:
-    TextStream(Text path, OpenMode mode, TextKind kind, Text content);
+    /// `file` is the descriptor of an open file that the stream writes to and closes, -1 for a reading one.
+    TextStream(Text path, OpenMode mode, TextKind kind, Text content, int file);
+    ~TextStream();
+    TextStream(const TextStream&) = delete;
+    TextStream& operator=(const TextStream&) = delete;
 
     /// The next line without its end. Fault 62 at the end of the file.
     Text readline();
@@ -36,6 +41,8 @@ class TextStream {
     void writeline(TextView line);
     /// Writes what was gathered. A stream that is closed stays closed.
     void Close();
+    /// Closes a writing stream; returns the whole text as a reader of the file finds it.
+    Text close_and_read();
 
     const Text& path() const { return path_; }
 
@@ -46,6 +53,7 @@ class TextStream {
     Text content_;
     std::size_t at_ = 0;
     bool open_ = true;
+    int file_;
 };
 
 using TextStreamPtr = std::shared_ptr<TextStream>;
@@ -62,8 +70,28 @@ class FileSystemObject {
     void DeleteFile(const Text& path);
     /// Overwrites; the copy's name bears the case given here.
     void CopyFile(const Text& from, const Text& to);
+    /// The file takes the other name; what stood there is gone. The name bears the case given here.
+    void MoveOver(const Text& from, const Text& to);
     /// With all that is in it; symbolic links are removed, never followed.
     void DeleteFolder(const Text& path);
+};
+
+/// A file that is about to be replaced by a sibling. A file that is there is proved to be readable, one that
+/// is not gets its name only when the sibling takes it; when that never happens it stands there empty in the
+/// end, as if it had been made at once.
+class ReplacedFile {
+  public:
+    /// The faults of opening the file for reading, made when it is missing.
+    explicit ReplacedFile(Text path);
+    ~ReplacedFile();
+    ReplacedFile(const ReplacedFile&) = delete;
+    ReplacedFile& operator=(const ReplacedFile&) = delete;
+
+    void replace_by(const Text& sibling);
+
+  private:
+    Text path_;
+    bool missing_;
 };
 
 /// Whether there is a folder (`Dir` with the directory attribute) or a file of that name.
@@ -104,8 +132,12 @@ class Fence {
     void check(const Text& path) const;
 
   private:
+    bool inside(const std::string& folder) const;
+
     Text projects_;
     Text folder_;
+    /// Folders that have been found to lie inside.
+    mutable std::set<std::string> known_;
 };
 
 } // namespace twk

@@ -90,6 +90,11 @@ void Form12::Reporte(const KeywordTable& tabla, int keywords) {
     for (int k = 0; k < n_kw; ++k) xKeyWords[static_cast<std::size_t>(k)] = tabla.at(k);
 }
 
+const KeywordSet& Form12::keyword_set() {
+    if (!counted_ || !counted_->same(xKeyWords)) counted_ = std::make_shared<KeywordSet>(xKeyWords);
+    return *counted_;
+}
+
 void Form12::analyse_body(PageAnalysis& page, const Text& html) {
     Text cuerpo = visible_text(html);
     std::int16_t words = 0;
@@ -97,14 +102,14 @@ void Form12::analyse_body(PageAnalysis& page, const Text& html) {
         words = contar_palabras(cuerpo);
         page.words = to_text(words);
     });
-    KeywordCounts counts(cuerpo);
+    KeywordCounts counts(keyword_set(), cuerpo);
     for (std::size_t k = 0; k < page.keywords.size(); ++k) {
         if (xKeyWords[k].empty()) continue;
         KeywordAnalysis& found = page.keywords[k];
         ignoring_faults([&] {
-            const std::int16_t n = counts.count(xKeyWords[k]);
-            found.count = to_text(n);
-            if (words != 0) found.density = Format(n * 100.0 / words, u"##.##");
+            const std::int16_t n = counts.contar(static_cast<int>(k), xKeyWords[k]);
+            found.count = n == 0 ? Text(u"0") : to_text(n);
+            if (words != 0) found.density = n == 0 ? Text(u".") : Format(n * 100.0 / words, u"##.##");
         });
     }
 }
@@ -114,11 +119,17 @@ void Form12::analyse_title(PageAnalysis& page, const Text& html) {
     Text titulo;
     ignoring_faults([&] { titulo = page.title = title_of(html); });
     ignoring_faults([&] { page.title_words = to_text(contar_palabras(titulo)); });
+    KeywordCounts counts(keyword_set(), titulo);
     for (std::size_t k = 0; k < page.keywords.size(); ++k) {
         KeywordAnalysis& found = page.keywords[k];
         ignoring_faults([&] {
-            const std::int16_t n = contar_kw(titulo, xKeyWords[k]);
+            const std::int16_t n = counts.contar(static_cast<int>(k), xKeyWords[k]);
+            if (counts.absent()) { // its density leaves the title alone
+                found.title_count = found.title_density = u"0";
+                return;
+            }
             found.title_count = to_text(n);
+            counts.changed();
             found.title_density = to_text(densidad2(n, titulo, xKeyWords[k]));
         });
     }

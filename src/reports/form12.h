@@ -4,10 +4,12 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace twk {
 
+class KeywordSet;
 class KeywordTable;
 
 /// What one keyword is in one page; texts as the report shows them, empty where they could not be computed.
@@ -89,10 +91,13 @@ class Form12 {
     std::int16_t inicio2 = 0, inicio3 = 0; ///< first page of the second-level and of the random pages
 
   private:
+    const KeywordSet& keyword_set();
     void analyse_body(PageAnalysis& page, const Text& html);
     void analyse_title(PageAnalysis& page, const Text& html);
     void fill_list(ListBox& list, int first, int end, int width);
     Text report_text(const PageAnalysis& page, int list) const;
+
+    std::shared_ptr<const KeywordSet> counted_; ///< the keywords, to be counted together
 };
 
 } // namespace twk

@@ -1,0 +1,122 @@
+#include "engine/pattern_index.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace twk {
+
+PatternSet::PatternSet(std::vector<Text> patterns)
+    : patterns_(std::move(patterns)), nodes_(1), begins_(pairs) {
+    for (int number = 0; number < size(); ++number)
+        if (findable(number)) add(number);
+}
+
+int PatternSet::child_of(int node, char16_t unit) const {
+    int child = nodes_[static_cast<std::size_t>(node)].child;
+    while (child != 0 && nodes_[static_cast<std::size_t>(child)].unit != unit)
+        child = nodes_[static_cast<std::size_t>(child)].next;
+    return child;
+}
+
+void PatternSet::add(int number) {
+    const Text& added = pattern(number);
+    longest_ = std::max(longest_, added.size());
+    begins_[pair_of(added[0], added[1])] = 1;
+    int node = 0;
+    for (const char16_t unit : added) {
+        int child = child_of(node, unit);
+        if (child == 0) {
+            child = static_cast<int>(nodes_.size());
+            Node& parent = nodes_[static_cast<std::size_t>(node)];
+            const int before = std::exchange(parent.child, child);
+            nodes_.push_back({unit, 0, before, {}});
+        }
+        node = child;
+    }
+    nodes_[static_cast<std::size_t>(node)].ends.push_back(number);
+}
+
+void PatternSet::find(TextView text, std::size_t from, std::size_t end, std::vector<Hit>& hits) const {
+    if (text.size() < 2) return;
+    end = std::min(end, text.size() - 1);
+    for (std::size_t at = from; at < end; ++at)
+        if (begins_[pair_of(text[at], text[at + 1])] != 0) follow(text, at, hits);
+}
+
+void PatternSet::follow(TextView text, std::size_t at, std::vector<Hit>& hits) const {
+    int node = 0;
+    for (std::size_t i = at; i < text.size(); ++i) {
+        node = child_of(node, text[i]);
+        if (node == 0) return;
+        for (const int number : nodes_[static_cast<std::size_t>(node)].ends) hits.push_back({at, number});
+    }
+}
+
+PatternIndex::PatternIndex(const PatternSet& set, Text& text) : set_(set), text_(text) {
+    set_.find(text_, 0, text_.size(), hits_);
+    count();
+}
+
+void PatternIndex::count() {
+    counts_.assign(static_cast<std::size_t>(set_.size()), 0);
+    for (const PatternSet::Hit& hit : hits_) ++counts_[static_cast<std::size_t>(hit.pattern)];
+}
+
+std::vector<std::size_t> PatternIndex::from_left(int number) const {
+    std::vector<std::size_t> places;
+    const std::size_t length = set_.pattern(number).size();
+    for (const PatternSet::Hit& hit : hits_)
+        if (hit.pattern == number && (places.empty() || hit.at >= places.back() + length))
+            places.push_back(hit.at);
+    return places;
+}
+
+std::vector<std::size_t> PatternIndex::from_right(int number, std::size_t most) const {
+    std::vector<std::size_t> places;
+    const std::size_t length = set_.pattern(number).size();
+    for (auto hit = hits_.rbegin(); hit != hits_.rend() && places.size() < most; ++hit)
+        if (hit->pattern == number && (places.empty() || hit->at + length <= places.back()))
+            places.push_back(hit->at);
+    std::reverse(places.begin(), places.end());
+    return places;
+}
+
+void PatternIndex::replace(int number, const std::vector<std::size_t>& places, TextView with) {
+    if (places.empty()) return;
+    const std::size_t length = set_.pattern(number).size();
+    // Whatever begins less than the longest pattern before a place may reach into it.
+    const std::size_t reach = set_.longest() - 1;
+    Text out;
+    out.reserve(text_.size() + (with.size() > length ? places.size() * (with.size() - length) : 0));
+    std::vector<PatternSet::Hit> hits;
+    hits.reserve(hits_.size());
+    auto old = hits_.begin();
+    std::vector<std::size_t> put; // where `with` stands in the new text
+    std::size_t from = 0;
+    for (const std::size_t place : places) {
+        out.append(text_, from, place - from);
+        put.push_back(out.size());
+        out.append(with);
+        from = place + length;
+    }
+    out.append(text_, from);
+    text_ = std::move(out);
+
+    std::size_t found_to = 0; // places of the new text before it have been looked at
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        // Hits before the reach of the place stay, moved with the text.
+        for (; old != hits_.end() && old->at + reach < places[i]; ++old)
+            hits.push_back({old->at + put[i] - places[i], old->pattern});
+        while (old != hits_.end() && old->at < places[i] + length) ++old;
+        const std::size_t begin = std::max(found_to, put[i] - std::min(reach, put[i]));
+        const std::size_t end = put[i] + with.size();
+        set_.find(text_, begin, end, hits);
+        found_to = std::max(found_to, end);
+    }
+    const std::size_t last_old = places.back() + length, last_new = put.back() + with.size();
+    for (; old != hits_.end(); ++old) hits.push_back({old->at - last_old + last_new, old->pattern});
+    hits_ = std::move(hits);
+    count();
+}
+
+} // namespace twk

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <cstdint>
+#include <vector>
+
+/// Finds many patterns in one pass over a text.
+namespace twk {
+
+/// Patterns of two units or more, by number; shorter ones are never found.
+class PatternSet {
+  public:
+    explicit PatternSet(std::vector<Text> patterns);
+
+    int size() const { return static_cast<int>(patterns_.size()); }
+    const Text& pattern(int number) const { return patterns_[static_cast<std::size_t>(number)]; }
+    bool findable(int number) const { return pattern(number).size() >= 2; }
+    /// Units of the longest pattern.
+    std::size_t longest() const { return longest_; }
+
+    /// An occurrence: where it begins, counted from 0, and of which pattern.
+    struct Hit {
+        std::size_t at;
+        int pattern;
+    };
+
+    /// Appends the occurrences that begin in [from, end), overlapping ones among them, in the order of
+    /// places.
+    void find(TextView text, std::size_t from, std::size_t end, std::vector<Hit>& hits) const;
+
+  private:
+    /// A node of the tree of all patterns; its children are a chain.
+    struct Node {
+        char16_t unit = 0;
+        int child = 0, next = 0; ///< 0 is none
+        std::vector<int> ends;   ///< patterns that end here
+    };
+
+    static constexpr std::size_t pairs = 4096; ///< few enough to stay close to the processor
+
+    static std::size_t pair_of(char16_t first, char16_t second) { return (first * 0x9E37u + second) % pairs; }
+    int child_of(int node, char16_t unit) const;
+    void add(int number);
+    void follow(TextView text, std::size_t at, std::vector<Hit>& hits) const;
+
+    std::vector<Text> patterns_;
+    std::vector<Node> nodes_;
+    std::vector<std::uint8_t> begins_; ///< whether a pattern begins with a pair of units, by `pair_of`
+    std::size_t longest_ = 0;
+};
+
+/// A text with the places of all patterns, kept up to date while occurrences are replaced.
+class PatternIndex {
+  public:
+    PatternIndex(const PatternSet& set, Text& text);
+
+    /// Whether the pattern occurs at all.
+    bool occurs(int number) const { return counts_[static_cast<std::size_t>(number)] != 0; }
+    /// Places of the pattern from the left, none overlapping the one before.
+    std::vector<std::size_t> from_left(int number) const;
+    /// Places from the right, at most `most`, none overlapping the one before; the leftmost comes first.
+    std::vector<std::size_t> from_right(int number, std::size_t most) const;
+    /// Puts `with` in the place of the pattern at places that rise and do not overlap.
+    void replace(int number, const std::vector<std::size_t>& places, TextView with);
+
+  private:
+    void count();
+
+    const PatternSet& set_;
+    Text& text_;
+    std::vector<PatternSet::Hit> hits_; ///< by place
+    std::vector<int> counts_;           ///< hits of each pattern
+};
+
+} // namespace twk
