@@ -1,10 +1,15 @@
 // A whole run over a made-up project, from the click to the local site map.
 //
-//   run_bench [KEYWORDS SUBKEYWORDS BOXES WORDS RANDOM_PAGES [TEMPLATE]]
+//   run_bench [KEYWORDS SUBKEYWORDS BOXES WORDS RANDOM_PAGES [TEMPLATE]] [OPTION VALUE]...
 //
 // SUBKEYWORDS are those of each keyword, WORDS those of each box, TEMPLATE is 0 to 3. Prints pages, bytes,
-// seconds,
-// processor seconds (what counts on a busy machine) and the largest resident size.
+// seconds, processor seconds and the process's largest resident size. Options:
+//
+//   --seed N       what the draws start from, 1 by default
+//   --keep DIR     the application folder, made anew and kept; else a temporary one
+//   --switches on  every switch of Step 5 on, other targets, secondary hosts; off: all off; else as delivered
+//   --report FILE  what the report holds of every page
+//   --line yes     one line of figures: pages, bytes, seconds, processor seconds, MB resident
 
 #include "engine/run.h"
 #include "inputs/form3.h"
@@ -13,6 +18,7 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/html.h"
+#include "reports/form12.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
 #include "store/store_setup.h"
@@ -70,6 +76,14 @@ class BenchDesktop : public Desktop {
 
 struct Size {
     int keywords = 100, subkeywords = 20, boxes = 50, words = 500, random_pages = 20, layout = 0;
+};
+
+struct Options {
+    std::map<std::string, std::string> given;
+    std::string value(const std::string& name, const std::string& otherwise = {}) const {
+        const auto found = given.find(name);
+        return found == given.end() ? otherwise : found->second;
+    }
 };
 
 std::string keyword(int k) {
@@ -131,7 +145,7 @@ void deliver(const fs::path& folder, const Size& size) {
 }
 
 /// Steps 1 to 4 as the wizard leaves them; gives Step 5.
-Form6& load_screens(const Size& size) {
+Form6& load_screens(const Size& size, const std::string& switches) {
     module1().pid_actual = 1;
     module1().proyecto_actual = u"bench";
     screen<Form2>().txt_name[0].text = u"bench";
@@ -144,54 +158,104 @@ Form6& load_screens(const Size& size) {
     Form6& form = screen<Form6>();
     form.Combo2.text = from_utf8(std::to_string(size.random_pages));
     form.Check9.value = false;
+    if (!switches.empty())
+        for (CheckBox* box : {&form.Check1, &form.Check2, &form.Check3, &form.Check4, &form.Check5,
+                              &form.Check6, &form.Check7, &form.Check8, &form.Check10, &form.Check11,
+                              &form.Check12, &form.Check13, &form.Check15})
+            box->value = switches == "on";
+    if (switches == "on") {
+        form.Check9.value = true;
+        screen<Form7>().List1.add_item(u"http://second.example/x");
+        screen<Form2>().List1.add_item(u"http://other.example/shop");
+        screen<Form2>().List1.add_item(u"http://other.example/plans");
+    }
     choose_option(form.Template, static_cast<std::size_t>(size.layout));
     return form;
 }
 
-double processor_seconds() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
+void write_report(const std::string& file) {
+    std::ofstream out(file);
+    const auto put = [&out](const Text& text) { out << to_utf8(text) << '|'; };
+    for (const PageAnalysis& page : screen<Form12>().informe) {
+        for (const Text* each :
+             {&page.path, &page.kb, &page.kind, &page.words, &page.title, &page.title_words, &page.file,
+              &page.url, &page.links, &page.links_to, &page.redirect})
+            put(*each);
+        for (const KeywordAnalysis& each : page.keywords)
+            for (const Text* field : {&each.count, &each.density, &each.title_count, &each.title_density})
+                put(*field);
+        out << '\n';
+    }
+}
+
+double processor_seconds(const rusage& usage) {
     const auto seconds = [](const timeval& time) {
         return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
     };
     return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
+/// Runs; true when the run came to its end.
+bool timed_run(const Size& size, const Options& options) {
+    Form6& form = load_screens(size, options.value("--switches"));
+    rusage before{}, after{};
+    getrusage(RUSAGE_SELF, &before);
+    const auto start = std::chrono::steady_clock::now();
+    form.Command1_Click();
+    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+    getrusage(RUSAGE_SELF, &after);
+    const double processor = processor_seconds(after) - processor_seconds(before);
+    const auto pages = static_cast<long long>(form.run->pages_written);
+    const auto bytes = static_cast<double>(form.run->bytes_written);
+    const double resident = static_cast<double>(after.ru_maxrss) / 1024;
+    if (!options.value("--line").empty())
+        std::printf("%lld %.0f %.3f %.3f %.0f\n", pages, bytes, seconds.count(), processor, resident);
+    else
+        std::printf("%d keywords x %d subkeywords, %d boxes of %d words, %d random pages, template %d\n"
+                    "%lld pages, %.1f MB, %.2f s, %.2f s of processor, %.0f MB resident at most\n",
+                    size.keywords, size.subkeywords, size.boxes, size.words, size.random_pages, size.layout,
+                    pages, bytes / 1e6, seconds.count(), processor, resident);
+    if (const std::string file = options.value("--report"); !file.empty()) write_report(file);
+    return form.run->finished;
+}
+
+/// Sizes first, then options with their values; false for anything else.
+bool read_arguments(int argc, char** argv, Size& size, Options& options) {
+    int* const sizes[] = {&size.keywords, &size.subkeywords,  &size.boxes,
+                          &size.words,    &size.random_pages, &size.layout};
+    int i = 1;
+    for (; i < argc && i <= 6 && argv[i][0] != '-'; ++i) *sizes[i - 1] = std::atoi(argv[i]);
+    for (; i + 1 < argc; i += 2) options.given[argv[i]] = argv[i + 1];
+    return i == argc;
+}
+
+std::string application_folder(const Options& options) {
+    if (const std::string kept = options.value("--keep"); !kept.empty()) {
+        fs::create_directories(kept);
+        return fs::absolute(kept).string();
+    }
+    std::string folder = (fs::temp_directory_path() / "tarnwick-bench-XXXXXX").string();
+    return mkdtemp(folder.data()) == nullptr ? std::string() : folder;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     Size size;
-    int* const given[] = {&size.keywords, &size.subkeywords,  &size.boxes,
-                          &size.words,    &size.random_pages, &size.layout};
-    for (int i = 1; i < argc && i <= 6; ++i) *given[i - 1] = std::atoi(argv[i]);
-    std::string folder = (fs::temp_directory_path() / "tarnwick-bench-XXXXXX").string();
-    if (mkdtemp(folder.data()) == nullptr) return 1;
+    Options options;
+    if (!read_arguments(argc, argv, size, options)) return 2;
+    const std::string folder = application_folder(options);
+    if (folder.empty()) return 1;
     BenchDesktop desktop;
     set_desktop(&desktop);
     set_app_path(from_utf8(folder));
     set_clock(std::make_shared<FixedClock>(LocalTime{2026, 11, 24, 10, 18, 5, 0}));
-    chance().fix_seed(1);
+    chance().fix_seed(static_cast<std::uint64_t>(std::atoll(options.value("--seed", "1").c_str())));
     deliver(folder, size);
-
-    bool done = false;
-    const bool whole = screens().dispatch([&] {
-        Form6& form = load_screens(size);
-        const double before = processor_seconds();
-        const auto start = std::chrono::steady_clock::now();
-        form.Command1_Click();
-        const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
-        done = form.run->finished;
-        rusage usage{};
-        getrusage(RUSAGE_SELF, &usage);
-        std::printf("%d keywords x %d subkeywords, %d boxes of %d words, %d random pages, template %d\n"
-                    "%lld pages, %.1f MB, %.2f s (%.2f s of processor), %.0f MB resident at most\n",
-                    size.keywords, size.subkeywords, size.boxes, size.words, size.random_pages, size.layout,
-                    static_cast<long long>(form.run->pages_written),
-                    static_cast<double>(form.run->bytes_written) / 1e6, seconds.count(),
-                    processor_seconds() - before, static_cast<double>(usage.ru_maxrss) / 1024);
-    });
+    bool finished = false;
+    const bool whole = screens().dispatch([&] { finished = timed_run(size, options); });
     screens().unload_all();
     set_desktop(nullptr);
-    fs::remove_all(folder);
-    return whole && done ? 0 : 1;
+    if (options.value("--keep").empty()) fs::remove_all(folder);
+    return whole && finished ? 0 : 1;
 }
