@@ -13,6 +13,7 @@
 #include "inputs/form5.h"
 #include "inputs/form7.h"
 #include "inputs/form8.h"
+#include "platform/files.h"
 #include "reports/form12.h"
 #include "settings/form6.h"
 #include "shell/form1.h"
@@ -52,24 +53,27 @@ QPalette dark_palette() {
     return dark;
 }
 
+constexpr int browser_time = 3000;
+
 class Camera {
   public:
     Camera(MainWindow& window, QString folder, QString suffix)
         : window_(window), folder_(std::move(folder)), suffix_(std::move(suffix)) {}
 
-    void take(const QString& name) const {
-        QTest::qWait(60);
+    void take(const QString& name, int milliseconds = 60) const {
+        QTest::qWait(milliseconds);
         window_.grab().save(folder_ + u'/' + name + suffix_);
     }
 
-    /// Shows one screen alone, prepares it and takes its picture.
-    template <class S, class Prepare> void shoot(const QString& name, Prepare prepare) const {
+    /// Shows one screen alone, prepares it and takes its picture; a browser needs some time.
+    template <class S, class Prepare>
+    void shoot(const QString& name, Prepare prepare, int milliseconds = 60) const {
         screens().dispatch([&] {
             if (!screens().is_loaded<S>()) screens().show<S>();
             screens().bring_forward<S>();
             prepare(screen<S>());
         });
-        take(name);
+        take(name, milliseconds);
         screens().dispatch([] {
             for (Screen* each : screens().open())
                 if (each->name != "mdi1" && each->name != "Form2" && each->name != "Form3" &&
@@ -135,14 +139,24 @@ void shoot_wizard(const Camera& camera) {
     });
     camera.shoot<Form17>("form17_help", [](Form17& form) { form.Frame2.visible = true; });
     camera.shoot<Form17>("form17_replace", [](Form17& form) { form.Frame1.visible = true; });
-    camera.shoot<Form12>("form12", [](Form12& form) {
-        for (ListBox* each : {&form.List1, &form.List2, &form.List3})
-            for (int i = 0; i < 12; ++i) each->add_item(u"garden_tools_pruning_shears.htm");
-        form.Label2.caption = u"Action Complete. Select the pages in the diferent boxes to see the analysis.";
-        form.ProgressBar1.set_value(100);
-        form.RichTextBox1.text =
-            u"File: garden_tools.htm\r\nFileSize: 4.2 Kb.\r\nPage Type: First-Level Page\r\n";
-    });
+    camera.shoot<Form12>(
+        "form12",
+        [](Form12& form) {
+            const Text folder = app_path() + u"/Projects/garden-sample/pages.greenspade.example";
+            if (!dir_exists(folder)) return;
+            for (const Text& each : list_files(folder, u"*.htm")) {
+                const bool second = Split(each, u"_").size() > 2;
+                (second ? form.List2 : form.List1).add_item(each);
+            }
+            for (ListBox* each : {&form.List1, &form.List2, &form.List3}) each->enabled = true;
+            form.RichTextBox1.enabled = true;
+            form.Label2.caption =
+                u"Action Complete. Select the pages in the diferent boxes to see the analysis.";
+            form.ProgressBar1.set_value(100);
+            form.List1.list_index = 0;
+            desktop().navigate(form.wb1, folder + u"/" + form.List1.text());
+        },
+        browser_time);
 }
 
 void shoot_tools(const Camera& camera) {
@@ -166,8 +180,8 @@ void shoot_tools(const Camera& camera) {
         form.gridReplace.resize(5, {u"PlaceHolder/Flag", u"Replace String"});
     });
     camera.shoot<frmTip>("frmtip");
-    camera.shoot<Form9>("form9",
-                        [](Form9&) { desktop().navigate(screen<Form9>().wb1, app_path() + u"/help.htm"); });
+    camera.shoot<Form9>(
+        "form9", [](Form9& form) { desktop().navigate(form.wb1, app_path() + u"/help.htm"); }, browser_time);
     camera.shoot<frmVersion>("frmversion");
     camera.shoot<disclaimer>("disclaimer");
     camera.shoot<Form4>("form4");
