@@ -1,10 +1,12 @@
 #include "store/connection.h"
 
 #include "platform/faults.h"
+#include "store/statement_fence.h"
 #include "store/store_setup.h"
 
 #include <algorithm>
 #include <cctype>
+#include <cerrno>
 #include <regex>
 #include <set>
 
@@ -20,7 +22,6 @@ int authorize(void*, int action, const char* first, const char*, const char*, co
                                               "host",     "host1",    "target",   "synonyms"};
     switch (action) {
     case SQLITE_SELECT:
-    case SQLITE_FUNCTION:
     case SQLITE_TRANSACTION:
     case SQLITE_SAVEPOINT: return SQLITE_OK;
     case SQLITE_READ:
@@ -34,35 +35,6 @@ int authorize(void*, int action, const char* first, const char*, const char*, co
     }
     default: return SQLITE_DENY;
     }
-}
-
-[[noreturn]] void malformed(const Text& statement, const std::string& why) {
-    throw RuntimeFault(fault_statement,
-                       u"Syntax error in the statement: " + from_utf8(why) + u"\n" + statement);
-}
-
-/// Comments and further statements have no place in what the screens build: they can only come from a value
-/// with an apostrophe in it.
-void refuse_foreign_text(const Text& statement) {
-    bool quoted = false;
-    for (std::size_t i = 0; i < statement.size(); ++i) {
-        const char16_t c = statement[i];
-        const char16_t next = i + 1 < statement.size() ? statement[i + 1] : u'\0';
-        if (c == u'\'') quoted = !quoted;
-        if (quoted) continue;
-        if (c == u';' || (c == u'-' && next == u'-') || (c == u'/' && next == u'*') || c == u'\0')
-            malformed(statement, "text that belongs to no statement");
-    }
-    if (quoted) malformed(statement, "a quote is not closed");
-}
-
-/// Lets through statements that begin with one of the words, and so none that opens a transaction.
-void require_first_word(const Text& statement, std::initializer_list<TextView> words) {
-    const std::size_t begin = std::min(statement.find_first_not_of(u" \t\r\n"), statement.size());
-    const std::size_t end = std::min(statement.find_first_of(u" \t\r\n", begin), statement.size());
-    const TextView first = TextView(statement).substr(begin, end - begin);
-    if (std::none_of(words.begin(), words.end(), [&](TextView word) { return same_text(word, first); }))
-        malformed(statement, "it does not begin as one that is known here");
 }
 
 Field::Value column_value(sqlite3_stmt* statement, int column) {
@@ -124,15 +96,16 @@ Connection::Statement Connection::prepare_own(const std::string& sql) {
 }
 
 Connection::Statement Connection::prepare(const Text& text) {
-    refuse_foreign_text(text);
+    // In our own encoding: the library's reading of 16-bit text lets half a character swallow the quote
+    // behind it.
+    const std::string sql = to_utf8(text);
     sqlite3_stmt* made = nullptr;
-    const void* rest = nullptr;
-    const int code = sqlite3_prepare16_v2(db_, text.data(), static_cast<int>(text.size() * sizeof(char16_t)),
-                                          &made, &rest);
+    const int code = sqlite3_prepare_v2(db_, sql.data(), static_cast<int>(sql.size()), &made, nullptr);
     Statement statement(made);
-    if (code == SQLITE_ERROR || code == SQLITE_AUTH) malformed(text, sqlite3_errmsg(db_));
+    if (code == SQLITE_ERROR || code == SQLITE_AUTH)
+        malformed_statement(text, from_utf8(sqlite3_errmsg(db_)));
     if (code != SQLITE_OK) fail(code);
-    if (made == nullptr) malformed(text, "there is no statement");
+    if (made == nullptr) malformed_statement(text, u"there is no statement");
     return statement;
 }
 
@@ -143,7 +116,7 @@ int Connection::step(sqlite3_stmt* statement) {
 }
 
 Connection::Rows Connection::select(const Text& text) {
-    require_first_word(text, {u"select"});
+    fence_statement(text, {u"select"});
     const Statement statement = prepare(text);
     Rows result;
     const int columns = sqlite3_column_count(statement.get());
@@ -162,10 +135,10 @@ Connection::Rows Connection::select(const Text& text) {
 }
 
 void Connection::change(const Text& text) {
-    require_first_word(text, {u"insert", u"update", u"delete"});
+    fence_statement(text, {u"insert", u"update", u"delete"});
     if (!parse_join_delete(to_utf8(text)).tables.empty()) return delete_joined(text);
     const Statement statement = prepare(text);
-    if (sqlite3_column_count(statement.get()) != 0) malformed(text, "it gives rows");
+    if (sqlite3_column_count(statement.get()) != 0) malformed_statement(text, u"it gives rows");
     step(statement.get());
 }
 
@@ -181,7 +154,6 @@ JoinDelete parse_join_delete(const std::string& statement) {
 
 /// Deletes the rows of both tables that the join matches, and no others, in one go.
 void Connection::delete_joined(const Text& text) {
-    refuse_foreign_text(text);
     const JoinDelete parts = parse_join_delete(to_utf8(text));
     const std::string& a = parts.tables[0];
     const std::string& b = parts.tables[1];
@@ -231,9 +203,11 @@ void Connection::write_row(const std::string& table, std::int64_t row_id,
         ++place;
         if (const auto* number = std::get_if<std::int64_t>(&value))
             sqlite3_bind_int64(statement.get(), place, *number);
-        else if (const auto* text = std::get_if<Text>(&value))
-            sqlite3_bind_text16(statement.get(), place, text->data(),
-                                static_cast<int>(text->size() * sizeof(char16_t)), SQLITE_STATIC);
+        else if (const auto* text = std::get_if<Text>(&value)) {
+            const std::string bytes = to_utf8(*text);
+            sqlite3_bind_text(statement.get(), place, bytes.data(), static_cast<int>(bytes.size()),
+                              SQLITE_TRANSIENT);
+        }
     }
     step(statement.get());
 }

@@ -42,7 +42,7 @@ class Connection {
     };
     using Statement = std::unique_ptr<sqlite3_stmt, Finalizer>;
 
-    /// A statement ready to run; text behind it and comments are faults.
+    /// A fenced statement ready to run.
     Statement prepare(const Text& text);
     Statement prepare_own(const std::string& sql);
     void delete_joined(const Text& text);

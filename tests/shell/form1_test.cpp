@@ -54,7 +54,8 @@ struct Manager {
         const Text keyid = app.value(
             u"select keyid from keywords where pid = " + key + u" and keyword = 'green tea'", u"keyid");
         app.run(u"insert into elements ( catid , element ) values ( " + keyid + u" , 'leaves' )");
-        app.run(u"insert into content ( pid , content ) values ( " + key + u" , 'Tea isn''t coffee.' )");
+        app.run_unfenced("insert into content ( pid , content ) values ( " + to_utf8(key) +
+                         " , 'Tea isn''t coffee.' )");
         app.run(u"insert into ties ( pid , keyid , cid ) values ( " + key + u" , " + keyid + u" , 1 )");
         app.run(u"insert into host ( pid , host ) values ( " + key + u" , 'http://second.com' )");
         app.run(u"insert into host1 ( pid , host ) values ( " + key + u" , 'http://main.com' )");
@@ -239,7 +240,7 @@ TEST(CopyProject, RefusesNames) {
 TEST(CopyProject, ABrokenTextStopsHalfWay) {
     Manager manager;
     const Text key = manager.full_project(u"tea");
-    manager.app.run(u"update target set target = 'http://o''neill.com' where pid = " + key);
+    manager.app.run_unfenced("update target set target = 'http://o''neill.com' where pid = " + to_utf8(key));
     manager.select(u"tea");
     manager.app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
     manager.app.desktop.expect(u"Run-time error '3075'");

@@ -182,6 +182,75 @@ TEST(MalformedStatements, ChangeNothing) {
     EXPECT_EQ(app.value(u"select * from host where pid = 2", u"host"), u"a -- b /* c ; \"d\"");
 }
 
+TEST(MalformedStatements, AreThoseThatAnApostropheTurnsIntoOthers) {
+    const Filled app;
+    app.run(u"insert into host ( pid , host ) values ( 2 , 'http://theirs.example' ) ");
+    const std::string rows_before = app.all_rows();
+    const char16_t* const values[] = {u"x' or '1'='1",
+                                      u"x' or 'a'<>'",
+                                      u"x' or pid <> 0 or '' = '",
+                                      u"alpha' and site_name = 'site",
+                                      u"x' , pid = '3",
+                                      u"x' where pid = '2",
+                                      u"x''",
+                                      u"''",
+                                      u"it''s",
+                                      u"' || name || '",
+                                      u"x' union select * from Projects where '' = '",
+                                      u"x' and synonyms  = 'y"};
+    for (const Text value : values) {
+        const Text statements[] = {
+            u"delete from host where pid = 1 and host= '" + value + u"' ",
+            u"delete from elements where element = '" + value + u"' and catid = 1",
+            u"delete from keywords where pid = 1 and keyword = '" + value + u"' ",
+            u"insert into host ( pid , host ) values ( 1 , '" + value + u"' ) ",
+            u"update keywords set keyword = '" + value + u"' where keyword='garden' and pid = 1",
+            u"update keywords set keyword = 'new' where keyword='" + value + u"' and pid = 1",
+            u"update elements set element = '" + value + u"' where catid = 1 and element = 'rose'",
+            u"update Projects set name = 'n' ,  site_name = '" + value +
+                u"' ,  site_url = 'u' ,  title = 't' ,  category = 'c' ,  description = 'd' ,  designer_name = "
+                u"'n' ,  designer_url = 'w'  where pid = 1"};
+        for (const Text& statement : statements)
+            EXPECT_EQ(fault_of([&] { app.run(statement); }), fault_statement) << to_utf8(statement);
+        for (const Text& query : {u"select * from Projects where name = '" + value + u"' ",
+                                  u"select * from keywords where pid = 1 and keyword = '" + value + u"'"})
+            EXPECT_EQ(fault_of([&] { app.hive().OpenRecordset(query); }), fault_statement) << to_utf8(query);
+        EXPECT_EQ(fault_of([&] {
+                      app.synonyms().Execute(u"delete from synonyms where keyword = '" + value + u"'");
+                  }),
+                  fault_statement)
+            << to_utf8(value);
+    }
+    // Each of two values alone would leave an odd number of quotes.
+    EXPECT_EQ(
+        fault_of([&] {
+            app.run(u"update keywords set keyword = 'x'' where keyword=' where keyword='garden' and pid = 1");
+        }),
+        fault_statement);
+    EXPECT_EQ(app.all_rows(), rows_before);
+}
+
+TEST(MalformedStatements, AreNotMadeByHalfACharacterBeforeAQuote) {
+    const Filled app;
+    const Text half(1, char16_t(0xD83D));
+    app.run(
+        u"update Projects set name = 'n' ,  site_name = 's' ,  site_url = 'u' ,  title = 't' ,  category = 'c" +
+        half +
+        u"' ,  description = ' where pid = 2 ' ,  designer_name = 'n' ,  designer_url = 'w'  where pid = 1");
+    EXPECT_EQ(app.value(u"select * from Projects where pid = 2", u"name"), u"beta");
+    EXPECT_EQ(app.value(u"select * from Projects where pid = 1", u"category"), u"c\xFFFD");
+    EXPECT_EQ(app.value(u"select * from Projects where pid = 1", u"description"), u" where pid = 2 ");
+    Recordset box = app.hive().OpenRecordset(u"content");
+    box.AddNew();
+    box.AppendChunk(u"content", half + u"'x");
+    box.Update();
+    EXPECT_EQ(app.value(u"select * from content where cid = 2", u"content"), u"\xFFFD'x");
+    EXPECT_EQ(fault_of([&] {
+                  app.run(u"insert into host ( pid , host ) values ( 1 , 'a" + Text(1, u'\0') + u"b' ) ");
+              }),
+              fault_statement);
+}
+
 TEST(Text, IsComparedWithoutCaseForAllLetters) {
     const TempApp app;
     app.run(u"insert into keywords ( pid , keyword ) values ( 1 , 'Ñandú ÉLAN' ) ");

@@ -91,6 +91,32 @@ Database TempApp::synonyms() const {
     return OpenDatabase(path(u"synonyms.mdb"), false, false, u"");
 }
 
+void TempApp::run_unfenced(const std::string& sql) const {
+    sqlite3* const db = open_store(to_utf8(path(u"hive.mdb")), SQLITE_OPEN_READWRITE, "lantern4821");
+    char* why = nullptr;
+    const int code = sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &why);
+    const std::string reason = why != nullptr ? why : "";
+    sqlite3_free(why);
+    sqlite3_close_v2(db);
+    if (code != SQLITE_OK) throw std::runtime_error(sql + ": " + reason);
+}
+
+std::string TempApp::all_rows() const {
+    std::string all;
+    const auto add = [](void* rows, int columns, char** values, char**) {
+        auto& text = *static_cast<std::string*>(rows);
+        for (int i = 0; i < columns; ++i) text.append(values[i] != nullptr ? values[i] : "null").append("|");
+        text += '\n';
+        return 0;
+    };
+    sqlite3* const db = open_store(to_utf8(path(u"hive.mdb")), SQLITE_OPEN_READONLY, "lantern4821");
+    for (const char* table :
+         {"Projects", "keywords", "elements", "content", "ties", "host", "host1", "target", "sqlite_master"})
+        sqlite3_exec(db, ("select * from " + std::string(table)).c_str(), add, &all, nullptr);
+    sqlite3_close_v2(db);
+    return all;
+}
+
 Text TempApp::value(const Text& statement, TextView column) const {
     const Recordset rows = hive().OpenRecordset(statement);
     return rows.eof() || rows.Fields(column).is_null() ? Text() : rows.Fields(column).text();
