@@ -24,7 +24,9 @@ Text project_name() {
 void write_list(const Form17& form, const Text& path) {
     FileSystemObject fso;
     const Text aux = path + u"aux";
-    TextStreamPtr place = fso.OpenTextFile(path, OpenMode::writing, true);
+    // Proves the name usable. It is never closed: an older list stays whole until the new one takes its
+    // place.
+    const TextStreamPtr place = fso.OpenTextFile(path, OpenMode::writing, true);
     TextStreamPtr out = fso.OpenTextFile(aux, OpenMode::writing, true);
     out->writeline(u"#");
     out->writeline(u"# Random-Generated Pages List");
@@ -40,11 +42,8 @@ void write_list(const Form17& form, const Text& path) {
         u"# You can use this file to re-generate projects with the same filename, even when you change "
         u"the keywords.");
     out->writeline(u"#");
-    place->Close();
     out->Close();
-    fso.DeleteFile(path);
-    fso.CopyFile(aux, path);
-    fso.DeleteFile(aux);
+    fso.MoveOver(aux, path);
 }
 
 bool has_entry(const ListBox& list, const Text& entry) {

@@ -83,7 +83,8 @@ void Form3::exportar() {
     CommonDialog1.show_save();
     Text path = CommonDialog1.file_name;
     if (!contains(path, u".exp")) path += u".exp";
-    // An older export stays whole until the new one is complete beside it.
+    // An older export stays whole until the new one is complete beside it: opening it proves the name usable,
+    // and it is never closed, which would empty it.
     FileSystemObject fso;
     const TextStreamPtr chosen = fso.OpenTextFile(path, OpenMode::writing, true);
     const TextStreamPtr out = fso.OpenTextFile(path + u"aux", OpenMode::writing, true);
@@ -92,10 +93,7 @@ void Form3::exportar() {
         if (!trim_view(List1.list(i)).empty()) exportar_keyword(*out, i + 1, List1.list(i));
     write_end(*out);
     out->Close();
-    chosen->Close();
-    fso.DeleteFile(path);
-    fso.CopyFile(path + u"aux", path);
-    fso.DeleteFile(path + u"aux");
+    fso.MoveOver(path + u"aux", path);
 }
 
 void Form3::exportar_keyword(TextStream& out, int number, const Text& palabra) {

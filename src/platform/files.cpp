@@ -311,10 +311,10 @@ void FileSystemObject::MoveOver(const Text& from, const Text& to) {
     const std::string name = disk_path(from);
     const std::string place = disk_path(to);
     const std::string wanted = NameIndex::with_last_name(place, to_utf8(file_part(to)));
-    // A file that stands there under the same name in another case gives way.
-    if (place != wanted && ::access(place.c_str(), F_OK) == 0) remove_file(place, to);
     if (::rename(name.c_str(), wanted.c_str()) != 0) fail(errno, from);
     NameIndex::entry_removed(name);
+    // A file that stood there under the same name in another case gives way, now that the new one is there.
+    if (place != wanted && ::access(place.c_str(), F_OK) == 0) remove_file(place, to);
     NameIndex::entry_added(wanted);
 }
 

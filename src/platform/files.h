@@ -70,7 +70,8 @@ class FileSystemObject {
     void DeleteFile(const Text& path);
     /// Overwrites; the copy's name bears the case given here.
     void CopyFile(const Text& from, const Text& to);
-    /// The file takes the other name; what stood there is gone. The name bears the case given here.
+    /// The file takes the other name; what stood there is gone. The name bears the case given here. Whenever
+    /// the program ends, one of the two stands under the name, whole.
     void MoveOver(const Text& from, const Text& to);
     /// With all that is in it; symbolic links are removed, never followed.
     void DeleteFolder(const Text& path);

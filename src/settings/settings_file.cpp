@@ -327,9 +327,7 @@ void guardar_dat(Form6& form, const Text& nombre) {
         out = fso.OpenTextFile(sibling, OpenMode::appending, true);
         write_settings(form, *out);
         out->Close();
-        fso.DeleteFile(path);
-        fso.CopyFile(sibling, path);
-        fso.DeleteFile(sibling);
+        fso.MoveOver(sibling, path);
     } catch (const RuntimeFault&) {
         close_partly_written(out.get());
         MsgBox(u"File wasn't saved.");

@@ -18,9 +18,7 @@ void Form21::cmdrefresh_Click() {
     out->writeline(Text1.text());
     out->Close();
     made->Close();
-    fso.DeleteFile(path);
-    fso.CopyFile(path + u"aux", path);
-    fso.DeleteFile(path + u"aux");
+    fso.MoveOver(path + u"aux", path);
     desktop().navigate(WebBrowser1, path);
 }
 

@@ -115,7 +115,7 @@ void Form23::recorrer_archivos() {
 }
 
 /// Returns the number of lines with the find text. When replacing, only these lines are written: a file loses
-/// all others, and one without any ends up empty. A failure between delete and copy leaves the text in the
+/// all others, and one without any ends up empty. A failure at the end leaves the text in the
 /// "_temp" file.
 int Form23::tratar_archivo(const Text& path) {
     const bool replacing = !Check3.value();
@@ -134,9 +134,7 @@ int Form23::tratar_archivo(const Text& path) {
     in->Close();
     if (replacing) {
         out->Close();
-        fso.DeleteFile(path);
-        fso.CopyFile(path + u"_temp", path);
-        fso.DeleteFile(path + u"_temp");
+        fso.MoveOver(path + u"_temp", path);
     }
     return lines;
 }
