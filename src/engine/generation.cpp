@@ -92,9 +92,21 @@ void open_local_site_map(Run& run) {
     }
 }
 
+/// A name that leads elsewhere gets no settings file; the run will stop at its folder.
+void save_own_settings(Form6& form) {
+    const Text beside = app_path() + Text(path_separator);
+    try {
+        const Fence named(beside + u"Projects", project_name());
+    } catch (const RuntimeFault&) {
+        MsgBox(u"File wasn't saved.");
+        return;
+    }
+    guardar_dat(form, beside + project_name() + u".dat");
+}
+
 void run_all(Run& run) {
     Form6& form = run.form;
-    guardar_dat(form, app_path() + Text(path_separator) + project_name() + u".dat");
+    save_own_settings(form);
     make_even(form.Combo2);
     chance().Randomize();
     run.extension = form.Combo10.text();

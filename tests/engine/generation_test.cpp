@@ -176,10 +176,10 @@ TEST_F(GenerationRun, nothing_outside_the_project_is_touched) {
         EXPECT_TRUE(app.exists(u"Projects/shed/inner/old.htm") && app.exists(u"Projects/other/old.htm") &&
                     app.exists(u"hive.mdb"));
     };
+    app.desktop.always(u"File wasn't saved.", Answer::ok); // such a name has no settings file
     for (const char16_t* name : {u"..", u".", u"", u"shed/inner"}) {
         SCOPED_TRACE(to_utf8(name));
         screen<Form2>().txt_name[0].text = Text(name);
-        if (Text(name) == u"shed/inner") app.desktop.always(u"", Answer::ok); // its settings have no place
         refused();
     }
     screen<Form2>().txt_name[0].text = u"shed";
