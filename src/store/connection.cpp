@@ -73,7 +73,8 @@ Connection::~Connection() {
 
 void Connection::fail(int code) {
     const Text why = from_utf8(sqlite3_errmsg(db_));
-    switch (code & 0xFF) {
+    const bool full = (code & 0xFF) == SQLITE_IOERR && sqlite3_system_errno(db_) == ENOSPC;
+    switch (full ? SQLITE_FULL : code & 0xFF) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
         throw RuntimeFault(fault_store_locked,

@@ -4,6 +4,7 @@
 #include "platform/files.h"
 
 #include <algorithm>
+#include <cerrno>
 
 namespace twk {
 
@@ -94,7 +95,10 @@ sqlite3* open_store(const std::string& file, int flags, const std::string& key) 
         opened = try_open(unchangeable(file), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, key);
     }
     if (opened.code == SQLITE_OK || opened.code == SQLITE_BUSY) return opened.db;
+    // Even reading a store wants a little room beside it.
+    const bool full = opened.code == SQLITE_FULL || sqlite3_system_errno(opened.db) == ENOSPC;
     sqlite3_close_v2(opened.db);
+    if (full) throw RuntimeFault(fault_disk_full, u"Disk full: the store could not be opened.");
     const Text path = from_utf8(file);
     if (opened.code == SQLITE_CANTOPEN)
         throw RuntimeFault(fault_store_missing, u"Could not open the file '" + path + u"'.");

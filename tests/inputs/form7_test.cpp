@@ -16,7 +16,7 @@ struct StepFour {
     Text pid;
 
     StepFour() {
-        app.run(u"insert into Projects ( name , site_url ) values ( 'tea' , 'http://tea.com' )");
+        app.run_unfenced("insert into Projects ( name , site_url ) values ( 'tea' , 'http://tea.com' )");
         pid = app.value(u"select pid from Projects", u"pid");
         screen<Form2>().txt_name[0].text = u"tea";
         module1().url_sitio = u"http://tea.com";
