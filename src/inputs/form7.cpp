@@ -90,9 +90,11 @@ void Form7::Command1_Click() {
         MsgBox(u"Main Gateway Domain to Host is not valid!");
         return;
     }
+    WriteTogether replaced(base_datos); // never without a main directory
     base_datos.Execute(u"delete from host1 where pid = " + to_text(pid_form));
     base_datos.Execute(u"insert into host1 ( pid , host ) values ( " + to_text(pid_form) + u" , '" +
                        Text2.text() + u"' ) ");
+    replaced.finish();
     screens().bring_forward<Form6>(); // as it is, when it is loaded
 }
 

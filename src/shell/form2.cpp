@@ -265,10 +265,12 @@ void Form2::modificar_proyecto() {
 }
 
 void Form2::guardar_targets() {
+    WriteTogether replaced(base_datos_); // never half a list
     base_datos_.Execute(u"delete from target where pid = " + to_text(module1().pid_actual));
     for (const Text& other : List1.entries())
         base_datos_.Execute(u"insert into target ( pid , target ) values ( " + to_text(module1().pid_actual) +
                             u" , '" + other + u"' )");
+    replaced.finish();
 }
 
 /// A folder that is there is kept with all its content; a renamed project's old one stays where it is.

@@ -57,6 +57,19 @@ Connection::Connection(const std::string& file, bool read_only, const std::strin
     sqlite3_set_authorizer(db_, authorize, nullptr);
 }
 
+void Connection::begin() {
+    step(prepare_own("begin immediate").get());
+}
+
+void Connection::commit() {
+    const Statement keep = prepare_own("commit");
+    const Statement back = prepare_own("rollback");
+    const int code = sqlite3_step(keep.get());
+    if (code == SQLITE_DONE) return;
+    sqlite3_step(back.get());
+    fail(code);
+}
+
 void Connection::set_durable(bool each) {
     // The store's own settings are none of the statements that the screens may run.
     sqlite3_set_authorizer(db_, nullptr, nullptr);

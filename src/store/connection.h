@@ -28,6 +28,10 @@ class Connection {
     Rows select(const Text& statement);
     void change(const Text& statement);
 
+    /// Holds the writes between them together. A commit that fails takes them back.
+    void begin();
+    void commit();
+
     /// Whether each write is on the disk when its statement has returned, as at first. Turning it on again
     /// brings the writes since to the disk.
     void set_durable(bool each);

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <utility>
 
 namespace twk {
 
@@ -149,6 +150,23 @@ BulkWrite::~BulkWrite() {
     } catch (const RuntimeFault&) {
         // The writes stand; the next checkpoint brings them to the disk.
     }
+}
+
+WriteTogether::WriteTogether(const Database& store) : connection_(store.connection_) {
+    if (!connection_) throw RuntimeFault(fault_store, u"The store is not open.");
+    connection_->begin();
+}
+
+WriteTogether::~WriteTogether() {
+    try {
+        finish();
+    } catch (const RuntimeFault&) {
+        // A fault is on its way already.
+    }
+}
+
+void WriteTogether::finish() {
+    if (const auto connection = std::exchange(connection_, nullptr)) connection->commit();
 }
 
 Database OpenDatabase(const Text& path, bool exclusive, bool read_only, const Text& connect) {

@@ -75,6 +75,7 @@ class Database {
 
   private:
     friend class BulkWrite;
+    friend class WriteTogether;
     friend Database OpenDatabase(const Text&, bool, bool, const Text&);
     std::shared_ptr<Connection> connection_;
 };
@@ -91,6 +92,23 @@ class BulkWrite {
 
   private:
     std::shared_ptr<Connection> connection_;
+};
+
+/// Writes of which none may stand without the others: whenever the program ends, all of them are there or
+/// none. A fault among them leaves the earlier ones in force, as ever. Nothing else may run meanwhile: no
+/// message, no event.
+class WriteTogether {
+  public:
+    /// Fault 3260 when another process holds the store for more than five seconds.
+    explicit WriteTogether(const Database& store);
+    ~WriteTogether();
+    WriteTogether(const WriteTogether&) = delete;
+    WriteTogether& operator=(const WriteTogether&) = delete;
+    /// Makes the writes durable. The faults of a write.
+    void finish();
+
+  private:
+    std::shared_ptr<Connection> connection_; ///< empty when they are written
 };
 
 /// Opens a store file; nothing is ever created. `connect` is "" or ";pwd=" and the password. Fault 3024 when
