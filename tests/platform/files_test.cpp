@@ -125,6 +125,31 @@ TEST(Names, AreFoundWithoutRegardToCase) {
     EXPECT_TRUE(app.exists(u"Projects/copy.htm"));
 }
 
+TEST(MoveOver, LeavesOneFileUnderTheNameAsGiven) {
+    const TempApp app;
+    FileSystemObject files;
+    const auto replace = [&](TextView sibling, TextView name) {
+        return fault_of([&] { files.MoveOver(app.path(sibling), app.path(name)); });
+    };
+    MkDir(app.path(u"P"));
+    app.write(u"P/Page.htm", "old");
+    app.write(u"P/PAGE.htmaux", "new");
+    EXPECT_EQ(replace(u"P/page.htmAUX", u"p/pAGE.htm"), 0);
+    EXPECT_EQ(list_files(app.path(u"P"), u"*"), (std::vector<Text>{u"pAGE.htm"}));
+    EXPECT_EQ(read_text_file(app.path(u"P/PAGE.HTM")), u"new");
+
+    EXPECT_EQ(replace(u"P/gone", u"P/page.htm"), fault_file_not_found);
+    MkDir(app.path(u"P/folder"));
+    EXPECT_EQ(replace(u"P/page.htm", u"P/folder"), fault_path_access);
+    EXPECT_EQ(app.read(u"P/pAGE.htm"), "new");
+
+    app.write(u"precious", "precious"); // a link gives way, what it leads to stays
+    fs::create_symlink(app.folder() / "precious", app.folder() / "P" / "link.htm");
+    EXPECT_EQ(replace(u"P/page.htm", u"P/link.htm"), 0);
+    EXPECT_EQ(app.read(u"precious"), "precious");
+    EXPECT_EQ(app.read(u"P/link.htm"), "new");
+}
+
 TEST(Listings, AreSortedAndMatchWholeNames) {
     const TempApp app;
     MkDir(app.path(u"P"));

@@ -107,6 +107,29 @@ TEST(TwoProcesses, AWriteIsThereAfterItsProcessDied) {
     EXPECT_EQ(app.value(u"select * from keywords", u"keyword"), u"kept");
 }
 
+TEST(WriteTogether, StandsWhollyOrNotAtAll) {
+    const TempApp app;
+    const auto replace = [&app](const Text& last) {
+        Database store = app.hive();
+        WriteTogether together(store);
+        store.Execute(u"delete from keywords where pid = 1");
+        store.Execute(keyword_of(1, u"new"));
+        if (last.empty()) kill(getpid(), SIGKILL);
+        store.Execute(keyword_of(1, last));
+        together.finish();
+    };
+    app.run(keyword_of(1, u"old"));
+    EXPECT_FALSE(ended_well(in_another_process([&] { replace({}); })));
+    EXPECT_EQ(app.value(u"select * from keywords", u"keyword"), u"old");
+    replace(u"newer");
+    EXPECT_EQ(app.count(u"select * from keywords where pid = 1"), 2);
+    // A fault leaves what was written before it, and the store free.
+    EXPECT_EQ(fault_of([&] { replace(u"it's"); }), fault_statement);
+    EXPECT_EQ(app.count(u"select * from keywords where pid = 1"), 1);
+    app.run(keyword_of(1, u"last"));
+    EXPECT_EQ(fault_of([] { WriteTogether(Database{}); }), fault_store);
+}
+
 TEST(Keys, AreNeverUsedAgainAndGoUpInOrderOfInsertion) {
     const TempApp app;
     for (const char16_t* const word : {u"zebra", u"apple", u"mango"}) app.run(keyword_of(1, word));
