@@ -4,10 +4,12 @@
 #include "desktop/forms.h"
 #include "desktop/qt_text.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QEventLoop>
 #include <QMdiArea>
+#include <QMenu>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <functional>
@@ -45,6 +47,13 @@ ScreenWindow::ScreenWindow(Screen& screen, QMdiArea& area) : area_(area) {
     area_.addSubWindow(this);
     hide();
 
+    // Ctrl+W belongs to the main menu; Ctrl+F4 still closes the window.
+    for (QAction* each : systemMenu()->actions()) {
+        QList<QKeySequence> keys = each->shortcuts();
+        keys.removeAll(QKeySequence(Qt::CTRL | Qt::Key_W));
+        each->setShortcuts(keys);
+    }
+
     binding_ = std::make_unique<ScreenBinding>(screen, *form_);
     const auto show_title = [this, &screen](Prop) { setWindowTitle(to_qt(screen.caption())); };
     screen.observer.watch(show_title);
@@ -72,7 +81,10 @@ void ScreenWindow::place() {
 
 void ScreenWindow::open() {
     if (dialog_ != nullptr) return;
-    showNormal();
+    if (isMinimized())
+        showNormal();
+    else
+        show();
     place();
     area_.setActiveSubWindow(this);
 }

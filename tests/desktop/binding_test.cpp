@@ -10,6 +10,7 @@
 #include "inputs/form5.h"
 #include "inputs/form7.h"
 #include "inputs/form8.h"
+#include "opened_addresses.h"
 #include "reports/form12.h"
 #include "settings/form6.h"
 #include "shell/form1.h"
@@ -75,7 +76,6 @@ TEST_F(Binding, EveryControlOfEveryScreenHasItsWidgetAndEveryEventItsSignal) {
 }
 
 TEST_F(Binding, TheMenuIsWholeAndListsTheOpenScreens) {
-    std::vector<std::string> reached;
     for (const MenuEntry& each : mdi1::menu()) {
         const QString name = QString::fromLatin1(each.name);
         const bool there = qt.window().findChild<QAction*>(name) != nullptr ||
@@ -94,6 +94,21 @@ TEST_F(Binding, TheMenuIsWholeAndListsTheOpenScreens) {
     EXPECT_TRUE(list->actions()[1]->isChecked());
     list->actions()[0]->trigger();
     EXPECT_EQ(screens().open().back()->name, "Form1");
+}
+
+TEST_F(Binding, EveryShortcutOfTheMenuWorksWithWindowsOpen) {
+    test::OpenedAddresses opened(QStringLiteral("http"));
+    screens().dispatch([] { screens().show<Form1>(); });
+    user.press(Qt::Key_W, Qt::ControlModifier);
+    ASSERT_EQ(opened.urls.size(), 1) << "the maker's site, not the closing of a window";
+    EXPECT_TRUE(user.sees("Form1"));
+    user.find<QPushButton>("Form1", "Command1")->setFocus();
+    for (const auto& [key, screen] : std::initializer_list<std::pair<Qt::Key, const char*>>{
+             {Qt::Key_I, "frmTip"}, {Qt::Key_D, "disclaimer"}, {Qt::Key_H, "Form9"}}) {
+        user.press(key, Qt::ControlModifier);
+        EXPECT_TRUE(user.sees(screen)) << screen;
+        user.close(screen);
+    }
 }
 
 TEST_F(Binding, WhatIsTypedOrChosenReachesTheControlAndBack) {

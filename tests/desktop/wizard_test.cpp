@@ -1,16 +1,15 @@
 #include "engine/run.h"
+#include "opened_addresses.h"
 #include "platform/files.h"
 #include "settings/form6.h"
 #include "user.h"
 
 #include <QCheckBox>
-#include <QDesktopServices>
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QTest>
-#include <QUrl>
 
 namespace twk {
 namespace {
@@ -88,19 +87,8 @@ class Wizard : public test::WindowTest {
     }
 };
 
-/// Stands for the system's browser.
-class OpenedFiles : public QObject {
-    Q_OBJECT
-  public:
-    OpenedFiles() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open"); }
-    ~OpenedFiles() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
-    QList<QUrl> urls;
-  public Q_SLOTS:
-    void open(const QUrl& url) { urls << url; }
-};
-
 TEST_F(Wizard, TakesANewProjectToTheFinishedRunByClicksAndKeysAlone) {
-    OpenedFiles opened;
+    test::OpenedAddresses opened(QStringLiteral("file"));
     type_properties();
     type_keywords();
     type_contents();
@@ -137,5 +125,3 @@ TEST_F(Wizard, TakesANewProjectToTheFinishedRunByClicksAndKeysAlone) {
 
 } // namespace
 } // namespace twk
-
-#include "wizard_test.moc"
