@@ -22,6 +22,16 @@ def is_root():
     return os.geteuid() == 0
 
 
+def why_not_nobody(options):
+    """Why the program cannot be run as a user without rights; None when it can."""
+    if not is_root():
+        return "needs root to give files to another user"
+    if shutil.which("setpriv") is None:
+        return "needs setpriv"
+    done = subprocess.run([*AS_NOBODY, options.cli, "--help"], capture_output=True, check=False)
+    return None if done.returncode == 0 else "another user cannot reach the program"
+
+
 def give_away(path, owner=NOBODY):
     os.chmod(os.path.dirname(path), 0o755)
     for folder, _, names in os.walk(path):
@@ -116,7 +126,11 @@ def full_disk(options):
 
 
 def read_only_folder(options):
-    prefix = AS_NOBODY if is_root() else []
+    prefix = []
+    if is_root():
+        prefix = AS_NOBODY
+        if why := why_not_nobody(options):
+            return why
     app = AppFolder(options)
     try:
         whole = Undisturbed(app)
@@ -149,8 +163,8 @@ def read_only_folder(options):
 
 
 def unreadable_picture(options):
-    if not is_root():
-        return "needs root to give files to another user"
+    if why := why_not_nobody(options):
+        return why
     app = AppFolder(options)
     try:
         whole = Undisturbed(app)
