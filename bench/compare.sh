@@ -11,6 +11,7 @@ cd "$(dirname "$0")/.."
 bench=${1:-build/release/bench/run_bench}
 rounds=${ROUNDS:-3}
 work=$(mktemp -d "${WORK:-/tmp}/tarnwick-compare-XXXXXX")
+made=0
 trap 'rm -rf "$work"' EXIT
 TIMEFORMAT='%R %U %S'
 
@@ -19,13 +20,13 @@ ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.1f", a / b }'; }
 # Processor seconds of a command.
 processor() { { time "$@" > /dev/null 2>&1; } 2>&1 | awk '{ printf "%.3f\n", $2 + $3 }'; }
 
-# run SIZES...: sets pages, bytes, run_time, resident; leaves the tree in $work/app
+# run SIZES...: sets pages, bytes, run_time, resident; leaves the tree in $app
 run() {
-    local round times=""
+    local round line times=""
+    # Every round into a folder of its own: a file system looks long for room where much has just been deleted.
     for round in $(seq "$rounds"); do
-        rm -rf "$work/app"
-        local line
-        line=$("$bench" "$@" --keep "$work/app" --line yes)
+        app=$work/app$((++made))
+        line=$("$bench" "$@" --keep "$app" --line yes)
         read -r pages bytes _ time resident <<< "$line"
         times+="$time"$'\n'
     done
@@ -35,8 +36,7 @@ run() {
 copy_time() {
     local round
     for round in $(seq "$rounds"); do
-        rm -rf "$work/copy"
-        processor cp -r "$work/app/Projects" "$work/copy"
+        processor cp -r "$app/Projects" "$app/copy$round"
     done | least
 }
 
@@ -66,13 +66,12 @@ if command -v hugo > /dev/null; then
     echo "|---|---|---|---|---|"
     run 200 24 50 500 0
     echo "| this program, report included | $pages | $(megabytes "$bytes") | $run_time | $(per_page "$run_time" "$pages") |"
-    python3 bench/hugo_site.py "$work/app/Projects" "$work/site"
+    python3 bench/hugo_site.py "$app/Projects" "$work/site"
     hugo_time=$(for round in $(seq "$rounds"); do
-        rm -rf "$work/site/public"
-        processor hugo --source "$work/site" --quiet
+        processor hugo --source "$work/site" --destination "$work/public$round" --quiet
     done | least)
-    built=$(find "$work/site/public" -name '*.html' | wc -l)
-    built_bytes=$(find "$work/site/public" -name '*.html' -printf '%s\n' | awk '{ s += $1 } END { print s }')
+    built=$(find "$work/public1" -name '*.html' | wc -l)
+    built_bytes=$(find "$work/public1" -name '*.html' -printf '%s\n' | awk '{ s += $1 } END { print s }')
     echo "| $(hugo version | awk '{ print $1, $2 }' | cut -d- -f1) | $built | $(megabytes "$built_bytes") | $hugo_time" \
         "| $(per_page "$hugo_time" "$built") |"
     echo

@@ -9,6 +9,9 @@
 #include "platform/faults.h"
 #include "platform/numbers.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace twk {
 
 namespace {
@@ -163,14 +166,48 @@ struct Segments {
     }
 };
 
+/// Pieces that begin behind a blank.
+std::int64_t count_starts(TextView texto) {
+    std::int64_t starts = 0;
+    for (std::size_t i = 1; i < texto.size();) {
+        unsigned short some = 0; // small counters are quick
+        for (const std::size_t end = std::min(texto.size(), i + 4096); i < end; ++i)
+            some = static_cast<unsigned short>(some + ((texto[i - 1] == u' ') & (texto[i] != u' ')));
+        starts += some;
+    }
+    return starts;
+}
+
+/// Whether `densidad` of the text could overflow: occurrences of the keyword, words or their ratio past 16
+/// bits. "No" is certain, "yes" is not.
+bool densidad_may_overflow(TextView texto, TextView keyword) {
+    constexpr std::int64_t most = 32767;
+    const std::int64_t ends = count_units(texto, [](char16_t c) { return (c == u'<') | (c == u'>'); });
+    const std::int64_t dollars = count_units(texto, [](char16_t c) { return c == u'$'; });
+    const std::int64_t starts = count_starts(texto);
+    // Once its tags are spaced the text has so many units at most, and so many words at least: every end of a
+    // tag takes one piece, a "$$$" stands for a blank.
+    const std::int64_t units = static_cast<std::int64_t>(texto.size()) + 2 * ends;
+    const std::int64_t words = starts - ends - dollars;
+    Text counted = Trim(keyword);
+    const std::int64_t found = units / std::max<std::int64_t>(1, std::ssize(quitar_dobles(counted)));
+    return words < 1 || units / 2 + 1 > most || found > most || found * 100 / words + 1 > most;
+}
+
+/// `densidad` for the sake of its faults; its value is not used.
+void check_densidad(TextView texto, const Text& keyword) {
+    if (!densidad_may_overflow(texto, keyword)) return;
+    Text medida = keyword;
+    densidad(Text(texto), medida);
+}
+
 } // namespace
 
 Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, std::int16_t densidad_pedida) {
     if (trim_view(texto).empty() || densidad_pedida < 1) return {};
     const std::int16_t w = contar_palabras(texto);
     const Text k = Trim(keyword);
-    Text medida = k;
-    densidad(texto, medida); // overflows where its counts do; its value is not used
+    check_densidad(texto, k);
     quitar_dobles(texto);
     int step = 0;
     const double por_cien = CInt(static_cast<double>(densidad_pedida) * w) / 100.0;
@@ -186,7 +223,7 @@ Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, std::int16_t densida
     for (int i = 0; i <= n; ++i)
         if (!segments.append(static_cast<std::int64_t>(i) * step, step)) break;
     Text out = std::move(segments.out);
-    densidad(out, medida); // likewise
+    check_densidad(out, k);
     quitar_dobles(out);
     return Trim(out);
 }

@@ -69,8 +69,10 @@ std::optional<std::int64_t> KeywordCounts::counted(int k) const {
     if (keyword.empty() || !index_->occurs(k)) return 0;
     const std::vector<std::size_t> places = index_->from_left(k);
     if (contains(keyword, u" "))
-        for (std::size_t i = 1; i < places.size(); ++i)
-            if (places[i] - places[i - 1] < 2 * keyword.size()) return std::nullopt;
+        for (std::size_t i = 1; i < places.size(); ++i) {
+            const std::size_t end = places[i - 1] + keyword.size();
+            if (!are_apart(TextView(text_).substr(end, places[i] - end), keyword)) return std::nullopt;
+        }
     return static_cast<std::int64_t>(places.size());
 }
 

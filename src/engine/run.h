@@ -17,6 +17,7 @@ namespace twk {
 
 class KeywordSet;
 class PatternSet;
+struct KnownSynonyms;
 
 /// The project's record, as the run reads it.
 struct Proyecto {
@@ -72,6 +73,7 @@ struct Run {
     std::shared_ptr<const KeywordSet>
         keywords; ///< those of the table, to be counted together; made when needed
     std::shared_ptr<const PatternSet> highlighted; ///< the same between blanks
+    std::shared_ptr<KnownSynonyms> synonyms;       ///< read when first needed
 
     Text extension;       ///< with its point
     Text separador;       ///< word separator of file names, read once

@@ -71,9 +71,7 @@ class Dictionary {
     std::map<Text, std::size_t> last_rows_;
 };
 
-Dictionary read_dictionary() {
-    const Text sep(path_separator);
-    Database sinonimos = OpenDatabase(app_path() + sep + u"synonyms.mdb", false, false);
+Dictionary read_dictionary(Database& sinonimos) {
     Recordset k =
         sinonimos.OpenRecordset(u"select * from synonyms where synonyms  <> '' order by keyword asc");
     Recordset s =
@@ -92,8 +90,33 @@ double share() {
 
 } // namespace
 
-Text sinonimo(Run&, const Text& texto) {
-    Dictionary dictionary = read_dictionary();
+/// The dictionary as the run read it last.
+struct KnownSynonyms {
+    Database store;
+    Database::RowState state;
+    Dictionary dictionary;
+};
+
+namespace {
+
+/// The dictionary of the run, read again when a row has changed.
+Dictionary& dictionary_of(Run& run) {
+    const Text path = app_path() + Text(path_separator) + u"synonyms.mdb";
+    if (run.synonyms && file_exists(path)) {
+        if (run.synonyms->store.row_state() == run.synonyms->state) return run.synonyms->dictionary;
+    }
+    auto read = std::make_shared<KnownSynonyms>();
+    read->store = OpenDatabase(path, false, false);
+    read->state = read->store.row_state();
+    read->dictionary = read_dictionary(read->store);
+    run.synonyms = std::move(read);
+    return run.synonyms->dictionary;
+}
+
+} // namespace
+
+Text sinonimo(Run& run, const Text& texto) {
+    Dictionary& dictionary = dictionary_of(run);
     Text t = Replace(Replace(texto, u"<", u" <"), u">", u"> ");
     quitar_dobles(t);
     const std::vector<TextView> palabras_texto = split_views(t);

@@ -25,32 +25,73 @@ bool is_spaced(TextView text) {
     return wrong == 0;
 }
 
+bool are_apart(TextView between, TextView keyword) {
+    const auto blank = [](char16_t c) { return c == u' '; };
+    // The longer step passes over one unit for each blank. A match across both would hold what is between
+    // them in one of its words.
+    return std::ssize(between) >= count_units(keyword, blank) &&
+           (between.size() >= keyword.size() || contains(between, u" "));
+}
+
 namespace {
 
 /// The search steps over one unit more per blank than it has matched: the count depends on it.
 constexpr TextView long_joint = u"$$$$";
 
+/// The first place from `at` on with an end of a tag, or with a blank that another one follows. Looks at
+/// blocks without an early exit, which compilers vectorise.
+std::size_t next_to_space(TextView text, std::size_t at) {
+    constexpr std::size_t block = 32;
+    const auto wanted = [](char16_t here, char16_t next) {
+        return (here == u'<') | (here == u'>') | ((here == u' ') & (next == u' '));
+    };
+    for (; at + block < text.size(); at += block) {
+        unsigned short found = 0;
+        for (std::size_t i = at; i < at + block; ++i)
+            found = static_cast<unsigned short>(found | wanted(text[i], text[i + 1]));
+        if (found != 0) break;
+    }
+    while (at < text.size() && !wanted(text[at], at + 1 < text.size() ? text[at + 1] : u'\0')) ++at;
+    return at;
+}
+
 /// "<" to " <", ">" to "> ", then single blanks: the form in which tags are pieces of their own. One pass,
 /// and only when the text is not in that form yet.
 void space_tags(Text& text) {
     if (is_spaced(text)) return;
+    const auto tag_end = [](char16_t c) { return c == u'<' || c == u'>'; };
     Text out;
-    out.resize(text.size() +
-               2 * static_cast<std::size_t>(std::count_if(
-                       text.begin(), text.end(), [](char16_t c) { return c == u'<' || c == u'>'; })));
-    char16_t* at = out.data();
-    char16_t last = 0;
-    const auto put = [&](char16_t unit) {
-        if (unit == u' ' && last == u' ') return;
-        *at++ = last = unit;
-    };
-    for (const char16_t unit : text) {
-        if (unit == u'<') put(u' ');
-        put(unit);
-        if (unit == u'>') put(u' ');
+    out.reserve(text.size() + 2 * static_cast<std::size_t>(std::count_if(text.begin(), text.end(), tag_end)));
+    const auto blank_behind = [&out] { return !out.empty() && out.back() == u' '; };
+    for (std::size_t from = 0; from < text.size();) {
+        if (text[from] == u' ' && blank_behind()) {
+            ++from;
+            continue;
+        }
+        const std::size_t at = next_to_space(text, from);
+        out.append(text, from, at - from);
+        if (at == text.size()) break;
+        if (text[at] == u'<' && !blank_behind()) out.push_back(u' ');
+        out.push_back(text[at]);
+        if (text[at] == u'>') out.push_back(u' ');
+        from = at + 1;
     }
-    out.resize(static_cast<std::size_t>(at - out.data()));
     text = std::move(out);
+}
+
+/// Words of a text in that form, without blanks at its ends: its pieces less those that begin or end a tag.
+std::int64_t words_of_spaced(TextView text) {
+    if (text.empty()) return 0;
+    const std::int64_t blanks = count_units(text, [](char16_t c) { return c == u' '; });
+    const std::int64_t ends = count_units(text, [](char16_t c) { return (c == u'<') | (c == u'>'); });
+    if (ends == 0) return blanks + 1;
+    std::int64_t whole_tags = 0; // pieces that do both
+    for (std::size_t at = 0; (at = text.find(u'<', at)) != TextView::npos;) {
+        at = text.find_first_of(u" >", at);
+        if (at == TextView::npos) break;
+        if (text[at] == u'>') ++whole_tags;
+    }
+    return blanks + 1 - (ends - whole_tags);
 }
 
 std::int16_t as_count(std::int64_t count) {
@@ -61,22 +102,17 @@ std::int16_t as_count(std::int64_t count) {
 
 Text& quitar_dobles(Text& texto) {
     const auto doubled = [](char16_t a, char16_t b) { return a == u' ' && b == u' '; };
-    texto.erase(std::unique(texto.begin(), texto.end(), doubled), texto.end());
+    unsigned short found = 0;
+    for (std::size_t i = 1; i < texto.size(); ++i)
+        found = static_cast<unsigned short>(found | ((texto[i - 1] == u' ') & (texto[i] == u' ')));
+    if (found != 0) texto.erase(std::unique(texto.begin(), texto.end(), doubled), texto.end());
     return texto;
 }
 
 std::int16_t contar_palabras(Text& texto) {
     replace_all(texto, highlight_opening, u"");
     space_tags(texto);
-    const TextView trimmed = trim_view(texto);
-    std::int64_t count = 0;
-    for (std::size_t from = 0; from < trimmed.size();) {
-        const std::size_t blank = trimmed.find(u' ', from);
-        const std::size_t end = blank == TextView::npos ? trimmed.size() : blank;
-        if (end > from && trimmed[from] != u'<' && trimmed[end - 1] != u'>') ++count;
-        from = end + 1;
-    }
-    return as_count(count);
+    return as_count(words_of_spaced(trim_view(texto)));
 }
 
 namespace {
@@ -101,7 +137,10 @@ std::int64_t count_apart(TextView texto, TextView keyword) {
     std::int64_t count = 0;
     int end = 0;
     for (int at = 1; (at = InStr(texto, keyword, at)) != 0; at = end) {
-        if (count != 0 && at - end < length) return -1;
+        if (count != 0 &&
+            !are_apart(texto.substr(static_cast<std::size_t>(end - 1), static_cast<std::size_t>(at - end)),
+                       keyword))
+            return -1;
         end = at + length;
         ++count;
     }

@@ -18,6 +18,23 @@ inline constexpr TextView keyword_joint = u"$$$";
 /// a text.
 bool is_spaced(TextView texto);
 
+/// Number of units of which the test holds; blocks with small counters, which compilers vectorise.
+template <class Test> std::int64_t count_units(TextView texto, Test test) {
+    constexpr std::size_t block = 4096;
+    std::int64_t all = 0;
+    for (std::size_t from = 0; from < texto.size(); from += block) {
+        unsigned short count = 0;
+        for (const char16_t unit : texto.substr(from, block))
+            count = static_cast<unsigned short>(count + (test(unit) ? 1 : 0));
+        all += count;
+    }
+    return all;
+}
+
+/// Whether two occurrences of a phrase with this text between them are counted as two whatever the search
+/// does at the first one's end.
+bool are_apart(TextView between, TextView keyword);
+
 /// Collapses runs of blanks in place; returns the argument.
 Text& quitar_dobles(Text& texto);
 

@@ -6,8 +6,32 @@
 
 namespace twk {
 
-// Words are looked at a run at a time: most units belong to one.
+namespace {
+
+/// Whether a text holds no white space but single blanks.
+bool single_blanks(TextView text) {
+    unsigned short other = 0;
+    for (const char16_t c : text)
+        other =
+            static_cast<unsigned short>(other | (c == u'\t') | (c == u'\n') | (c == u'\r') | (c == u'\f'));
+    for (std::size_t i = 1; i < text.size(); ++i)
+        other = static_cast<unsigned short>(other | ((text[i - 1] == u' ') & (text[i] == u' ')));
+    return other == 0;
+}
+
+constexpr std::size_t long_run = 32;
+
+} // namespace
+
+// A long run of words with single blanks is taken as it is.
 void VisibleLines::words(TextView text) {
+    if (text.size() >= long_run && single_blanks(text)) {
+        const bool before = text.front() == u' ', behind = text.back() == u' ';
+        if ((blank_ || before) && !out_.empty() && out_.back() != u'\n') out_.push_back(u' ');
+        out_.append(text.substr(before ? 1 : 0, text.size() - (before ? 1 : 0) - (behind ? 1 : 0)));
+        blank_ = behind;
+        return;
+    }
     const auto blank = [](char16_t c) {
         return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r' || c == u'\f';
     };
@@ -107,14 +131,17 @@ bool is_blank(char16_t c) {
 
 /// Units that a parser takes as they are: no controls, no half pairs, no code points that are no characters.
 bool is_plain(TextView html) {
-    unsigned strange = 0;
+    unsigned short beyond_ascii = 0, strange = 0;
     for (const char16_t c : html) {
-        const bool control = c < 0x20 && c != u'\t' && c != u'\n' && c != u'\r' && c != u'\f';
-        const bool beyond = (c >= 0x7F && c < 0xA0) || (c >= 0xD800 && c < 0xE000) ||
-                            (c >= 0xFDD0 && c < 0xFDF0) || c == 0xFEFF || c >= 0xFFFD;
-        strange |= static_cast<unsigned>(control | beyond);
+        const bool blank = (c == u'\t') | (c == u'\n') | (c == u'\r') | (c == u'\f');
+        beyond_ascii = static_cast<unsigned short>(beyond_ascii | c);
+        strange = static_cast<unsigned short>(strange | ((c < 0x20) & !blank) | (c == 0x7F));
     }
-    return strange == 0;
+    if (strange != 0 || beyond_ascii < 0x80) return strange == 0;
+    return std::none_of(html.begin(), html.end(), [](char16_t c) {
+        return (c >= 0x80 && c < 0xA0) || (c >= 0xD800 && c < 0xE000) || (c >= 0xFDD0 && c < 0xFDF0) ||
+               c == 0xFEFF || c >= 0xFFFD;
+    });
 }
 
 /// Cuts a page into text and tags; comments fall away.

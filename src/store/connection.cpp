@@ -17,7 +17,7 @@ namespace {
 constexpr int busy_milliseconds = 5000;
 
 /// Lets through what the screens do: reading and changing rows of the nine tables.
-int authorize(void*, int action, const char* first, const char*, const char*, const char*) {
+int authorize(void*, int action, const char* first, const char* second, const char*, const char*) {
     static const std::set<std::string> tables{"projects", "keywords", "elements", "content", "ties",
                                               "host",     "host1",    "target",   "synonyms"};
     switch (action) {
@@ -33,6 +33,8 @@ int authorize(void*, int action, const char* first, const char*, const char*, co
                        [](unsigned char c) { return std::tolower(c); });
         return table.empty() || tables.contains(table) ? SQLITE_OK : SQLITE_DENY;
     }
+    case SQLITE_PRAGMA: // no statement of a screen begins so
+        return std::string_view(first) == "data_version" && second == nullptr ? SQLITE_OK : SQLITE_DENY;
     default: return SQLITE_DENY;
     }
 }
@@ -121,6 +123,12 @@ Connection::Statement Connection::prepare(const Text& text) {
     if (code != SQLITE_OK) fail(code);
     if (made == nullptr) malformed_statement(text, u"there is no statement");
     return statement;
+}
+
+std::int64_t Connection::data_version() {
+    const Statement statement = prepare_own("pragma data_version");
+    step(statement.get());
+    return sqlite3_column_int64(statement.get(), 0);
 }
 
 int Connection::step(sqlite3_stmt* statement) {

@@ -25,6 +25,10 @@ class Connection {
         std::vector<std::vector<Field::Value>> rows;
     };
 
+    /// What the library tells of changes by others, and by this connection.
+    std::int64_t data_version();
+    std::int64_t changed_rows() const { return sqlite3_total_changes(db_); }
+
     Rows select(const Text& statement);
     void change(const Text& statement);
 

@@ -169,6 +169,11 @@ void WriteTogether::finish() {
     if (const auto connection = std::exchange(connection_, nullptr)) connection->commit();
 }
 
+Database::RowState Database::row_state() const {
+    if (!connection_) throw RuntimeFault(fault_store, u"The store is not open.");
+    return {connection_->data_version(), connection_->changed_rows()};
+}
+
 Database OpenDatabase(const Text& path, bool exclusive, bool read_only, const Text& connect) {
     (void)exclusive; // stores are opened shared
     static std::map<std::string, std::weak_ptr<Connection>> open;

@@ -73,6 +73,14 @@ class Database {
 
     bool is_open() const { return connection_ != nullptr; }
 
+    /// Two equal states of one handle have no change to any row between them, by whomever.
+    struct RowState {
+        std::int64_t others = 0; ///< moves when another connection has written
+        std::int64_t own = 0;    ///< rows changed through this connection
+        bool operator==(const RowState&) const = default;
+    };
+    RowState row_state() const;
+
   private:
     friend class BulkWrite;
     friend class WriteTogether;

@@ -38,9 +38,9 @@ class Soup {
     }
 
     std::vector<Text> keywords() {
-        static const Text all[] = {u"tool",         u"tool shed", u"Shed",      u"aa",   u"aba",
-                                   u" tool  shed ", u"",          u"a",         u"l s",  u"$",
-                                   u"ol",           u"a a",       u"shed tool", u"abab", u"tool rack"};
+        static const Text all[] = {u"tool",         u"tool shed", u"Shed",      u"aa",     u"aba",
+                                   u" tool  shed ", u"",          u"a",         u"l s",    u"$",
+                                   u"ol",           u"a a",       u"shed tool", u"a ba b", u"tool rack"};
         std::vector<Text> keywords;
         for (int i = 2 + below(9); i > 0; --i) keywords.push_back(all[below(15)]);
         return keywords;

@@ -7,6 +7,7 @@
 #include <random>
 
 #include <gtest/gtest.h>
+#include <sqlcipher/sqlite3.h>
 
 namespace twk {
 namespace {
@@ -77,6 +78,18 @@ TEST_F(Synonyms, work_both_ways_and_take_the_dictionary_s_case) {
     add(u"auto",
         u"machine"); // a keyword of one row and the synonym of another: the keyword's row comes first
     EXPECT_EQ(expanded(u"auto a b c"), u"machine a b c");
+}
+
+TEST_F(Synonyms, are_read_again_when_another_program_has_changed_them) {
+    add(u"car", u"auto");
+    at_second(59);
+    EXPECT_EQ(expanded(u"car bus b c"), u"auto bus b c");
+    sqlite3* other = nullptr;
+    ASSERT_EQ(sqlite3_open(to_utf8(app.path(u"synonyms.mdb")).c_str(), &other), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(other, "insert into synonyms values ('bus', 'coach')", nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    sqlite3_close(other);
+    EXPECT_EQ(expanded(u"car bus b c"), u"auto coach b c");
 }
 
 TEST_F(Synonyms, rewrite_a_share_by_the_clock_that_is_never_below_a_fifth) {
