@@ -136,6 +136,13 @@ TEST_F(DensityAdjustment, tells_what_the_settings_lack_when_every_sentence_is_em
 TEST_F(DensityAdjustment, holds_words_times_density_in_sixteen_bits) {
     Text text = numbered(0, 699);
     EXPECT_EQ(fault_of([&] { adjusted(text, 50); }), fault_overflow);
+    // So are the occurrences, and their share of the words.
+    const auto with_letter = [&](Text letters) {
+        return fault_of([&] { Ajustar_KW(run, letters, u"a", 3); });
+    };
+    EXPECT_EQ(with_letter(Text(40000, u'a') + u" one two"), fault_overflow);
+    EXPECT_EQ(with_letter(Text(400, u'a')), fault_overflow);
+    EXPECT_EQ(with_letter(Text(300, u'a')), 0);
 }
 
 TEST_F(DensityAdjustment, wraps_the_text_in_paragraphs_and_leaves_the_keyword_alone) {
