@@ -1,5 +1,7 @@
 #include "platform/plain_pages.h"
 
+#include "platform/page_cutter.h"
+
 #include <algorithm>
 #include <array>
 #include <vector>
@@ -57,77 +59,7 @@ void VisibleLines::line_end() {
 
 namespace {
 
-/// What the walk knows of an element.
-enum class Kind {
-    other,     ///< not known here
-    marks,     ///< inline, with an end tag
-    empty,     ///< inline, without content
-    rule,      ///< hr
-    new_line,  ///< br
-    paragraph, ///< p
-    block,     ///< div, center, lists ...
-    heading,   ///< h1 to h6
-    item,      ///< li
-    object,
-    script,
-    table,
-    body_part, ///< tbody, thead, tfoot
-    row,
-    cell,
-    page, ///< html, head, body
-    meta,
-    title,
-};
-
-struct Name {
-    TextView name;
-    Kind kind;
-    int number; ///< tells elements of one kind apart
-};
-
-constexpr Name names[] = {
-    {u"a", Kind::marks, 0},         {u"b", Kind::marks, 0},          {u"i", Kind::marks, 0},
-    {u"u", Kind::marks, 0},         {u"font", Kind::marks, 0},       {u"span", Kind::marks, 0},
-    {u"em", Kind::marks, 0},        {u"strong", Kind::marks, 0},     {u"big", Kind::marks, 0},
-    {u"small", Kind::marks, 0},     {u"img", Kind::empty, 0},        {u"embed", Kind::empty, 0},
-    {u"input", Kind::empty, 1},     {u"param", Kind::empty, 2},      {u"br", Kind::new_line, 0},
-    {u"hr", Kind::rule, 0},         {u"p", Kind::paragraph, 0},      {u"div", Kind::block, 1},
-    {u"center", Kind::block, 2},    {u"blockquote", Kind::block, 3}, {u"ul", Kind::block, 4},
-    {u"ol", Kind::block, 5},        {u"h1", Kind::heading, 1},       {u"h2", Kind::heading, 2},
-    {u"h3", Kind::heading, 3},      {u"h4", Kind::heading, 4},       {u"h5", Kind::heading, 5},
-    {u"h6", Kind::heading, 6},      {u"li", Kind::item, 0},          {u"object", Kind::object, 0},
-    {u"script", Kind::script, 0},   {u"table", Kind::table, 0},      {u"tbody", Kind::body_part, 0},
-    {u"thead", Kind::body_part, 1}, {u"tfoot", Kind::body_part, 2},  {u"tr", Kind::row, 0},
-    {u"td", Kind::cell, 0},         {u"th", Kind::cell, 1},          {u"html", Kind::page, 0},
-    {u"head", Kind::page, 1},       {u"body", Kind::page, 2},        {u"meta", Kind::meta, 0},
-    {u"title", Kind::title, 0},
-};
-
-constexpr int number_div = 1, number_ul = 4, number_ol = 5;
-
-struct Element {
-    Kind kind = Kind::other;
-    int number = 0;
-    bool operator==(const Element&) const = default;
-};
-
-struct Tag {
-    Element element;
-    bool end = false;
-};
-
-/// The page is none of those that the walk knows.
-struct Unknown {};
-
-bool is_letter(char16_t c) {
-    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
-}
-bool is_letter_or_digit(char16_t c) {
-    return is_letter(c) || (c >= u'0' && c <= u'9');
-}
-bool is_blank(char16_t c) {
-    return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r' || c == u'\f';
-}
+using namespace plain_pages;
 
 /// Units that a parser takes as they are: no controls, no half pairs, no code points that are no characters.
 bool is_plain(TextView html) {
@@ -143,129 +75,6 @@ bool is_plain(TextView html) {
                c == 0xFEFF || c >= 0xFFFD;
     });
 }
-
-/// Cuts a page into text and tags; comments fall away.
-class Cutter {
-  public:
-    explicit Cutter(TextView html) : html_(html) {}
-
-    bool at_end() const { return at_ >= html_.size(); }
-    /// The text up to the next "<" that begins a tag or comment.
-    TextView text() {
-        const std::size_t from = at_;
-        while (at_ < html_.size()) {
-            at_ = std::min(html_.find(u'<', at_), html_.size());
-            if (at_ + 1 < html_.size() && (is_letter(html_[at_ + 1]) || html_[at_ + 1] == u'/' ||
-                                           html_[at_ + 1] == u'!' || html_[at_ + 1] == u'?'))
-                break;
-            if (at_ < html_.size()) ++at_;
-        }
-        const TextView text = html_.substr(from, at_ - from);
-        // A reference to a character begins with "&" and a letter or "#".
-        for (std::size_t i = text.find(u'&'); i != TextView::npos; i = text.find(u'&', i + 1))
-            if (i + 1 == text.size() || !is_blank(text[i + 1])) throw Unknown();
-        return text;
-    }
-
-    /// The tag at the place; nothing for a comment.
-    std::optional<Tag> tag() {
-        ++at_; // the "<"
-        if (unit() == u'!') {
-            skip_comment();
-            return std::nullopt;
-        }
-        Tag tag;
-        if (unit() == u'/') {
-            tag.end = true;
-            ++at_;
-        }
-        if (!is_letter(unit())) throw Unknown();
-        tag.element = element();
-        skip_attributes();
-        return tag;
-    }
-
-    /// Text that ends only with the end tag of its element.
-    void skip_to_end_of(TextView name, bool script) {
-        const std::size_t from = at_;
-        for (;; ++at_) {
-            at_ = html_.find(u"</", at_);
-            if (at_ == TextView::npos) throw Unknown();
-            const TextView found = html_.substr(at_ + 2, name.size());
-            const char16_t behind = unit(name.size() + 2);
-            if (same_text(found, name) && (is_blank(behind) || behind == u'>' || behind == u'/')) break;
-        }
-        if (script && html_.substr(from, at_ - from).find(u"<!--") != TextView::npos) throw Unknown();
-        at_ += name.size() + 2;
-        skip_attributes();
-    }
-
-  private:
-    char16_t unit(std::size_t ahead = 0) const {
-        return at_ + ahead < html_.size() ? html_[at_ + ahead] : u'\0';
-    }
-
-    void skip_comment() {
-        if (html_.substr(at_, 3) != u"!--") throw Unknown();
-        at_ += 3;
-        const std::size_t end = html_.find(u"-->", at_);
-        if (end == TextView::npos || unit() == u'>' || end == at_) throw Unknown();
-        const TextView comment = html_.substr(at_, end - at_);
-        // "--!>" ends a comment, too; a dash before the end makes it the parser's business.
-        if (comment.starts_with(u"->") || comment.ends_with(u"-") || comment.find(u"--!") != TextView::npos)
-            throw Unknown();
-        at_ = end + 3;
-    }
-
-    Element element() {
-        const std::size_t from = at_;
-        while (!is_blank(unit()) && unit() != u'/' && unit() != u'>' && at_ < html_.size()) ++at_;
-        const TextView name = html_.substr(from, at_ - from);
-        for (const Name& known : names)
-            if (known.name.size() == name.size() && lower_ascii(name[0]) == known.name[0] &&
-                std::equal(name.begin(), name.end(), known.name.begin(),
-                           [](char16_t a, char16_t b) { return lower_ascii(a) == b; }))
-                return {known.kind, known.number};
-        // What is no name of HTML is an inline element like any other.
-        if (!std::all_of(name.begin(), name.end(), is_letter_or_digit)) return {Kind::marks, 0};
-        throw Unknown();
-    }
-
-    static char16_t lower_ascii(char16_t c) {
-        return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
-    }
-
-    void skip_blanks() {
-        while (is_blank(unit())) ++at_;
-    }
-
-    /// Up to the end of the tag, quoted values as one.
-    void skip_attributes() {
-        for (;;) {
-            while (is_blank(unit()) || unit() == u'/') ++at_;
-            if (at_end()) throw Unknown();
-            if (unit() == u'>') break;
-            ++at_; // a name may begin with "="
-            while (!at_end() && !is_blank(unit()) && unit() != u'/' && unit() != u'>' && unit() != u'=')
-                ++at_;
-            skip_blanks();
-            if (unit() != u'=') continue;
-            ++at_;
-            skip_blanks();
-            if (const char16_t quote = unit(); quote == u'"' || quote == u'\'') {
-                at_ = html_.find(quote, at_ + 1);
-                if (at_ == TextView::npos) throw Unknown();
-                ++at_;
-            } else {
-                while (!at_end() && !is_blank(unit()) && unit() != u'>') ++at_;
-            }
-        }
-        ++at_;
-    }
-
-    TextView html_;
-    std::size_t at_ = 0;
-};
 
 /// Follows the rules by which a parser builds the tree, as far as they touch the elements that end lines and
 /// cells. Inline elements are not followed: where they would matter the page is none for this walk.

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <optional>
+
+/// Pages cut into text and tags, as far as the pages of this program go.
+namespace twk::plain_pages {
+
+/// What is known of an element.
+enum class Kind {
+    other,     ///< not known here
+    marks,     ///< inline, with an end tag
+    empty,     ///< inline, without content
+    rule,      ///< hr
+    new_line,  ///< br
+    paragraph, ///< p
+    block,     ///< div, center, lists ...
+    heading,   ///< h1 to h6
+    item,      ///< li
+    object,
+    script,
+    table,
+    body_part, ///< tbody, thead, tfoot
+    row,
+    cell,
+    page, ///< html, head, body
+    meta,
+    title,
+};
+
+inline constexpr int number_div = 1, number_ul = 4, number_ol = 5;
+
+struct Element {
+    Kind kind = Kind::other;
+    int number = 0;
+    bool operator==(const Element&) const = default;
+};
+
+struct Tag {
+    Element element;
+    bool end = false;
+};
+
+/// The page is none of those that are known here.
+struct Unknown {};
+
+bool is_blank(char16_t c);
+
+/// Cuts a page into text and tags; comments fall away. Whatever is not certain throws `Unknown`.
+class Cutter {
+  public:
+    explicit Cutter(TextView html) : html_(html) {}
+
+    bool at_end() const { return at_ >= html_.size(); }
+    /// The text up to the next "<" that begins a tag or comment.
+    TextView text();
+    /// The tag at the place; nothing for a comment.
+    std::optional<Tag> tag();
+    /// Passes over text that ends only with the end tag of its element, and over that tag.
+    void skip_to_end_of(TextView name, bool script);
+
+  private:
+    char16_t unit(std::size_t ahead = 0) const {
+        return at_ + ahead < html_.size() ? html_[at_ + ahead] : u'\0';
+    }
+    void skip_comment();
+    Element element();
+    void skip_blanks();
+    /// Up to the end of the tag, quoted values as one.
+    void skip_attributes();
+
+    TextView html_;
+    std::size_t at_ = 0;
+};
+
+} // namespace twk::plain_pages
