@@ -163,7 +163,8 @@ void generation_run(Form6& form) {
     try {
         run_all(run);
     } catch (RuntimeFault& fault) {
-        run.origen.reset();
+        run.salida.reset();
+        run.origen.reset(); // a page that was never replaced stands empty
         fault.stage = run.mensaje_error;
         fault.page = run.pagina_actual;
         throw;

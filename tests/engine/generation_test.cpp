@@ -116,6 +116,11 @@ TEST_F(GenerationRun, fault_tells_stage_and_page_and_leaves_what_was_written) {
     const std::vector<std::string> files = files_in(project.main_folder());
     EXPECT_EQ(std::count(files.begin(), files.end(), "garden_shed.htm"), 1);
     EXPECT_EQ(std::count(files.begin(), files.end(), "tool_rack.htm"), 1);
+    // The page under way stands empty beside the sibling that was to become it.
+    for (const char16_t* const name : {u"carpenters_bench.htm", u"carpenters_bench.htmaux"}) {
+        EXPECT_TRUE(app.exists(project.main_folder(name))) << to_utf8(name);
+        EXPECT_EQ(app.read(project.main_folder(name)), "");
+    }
     EXPECT_FALSE(project.run().finished);
 }
 
