@@ -4,6 +4,7 @@
 #include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
+#include "store/stores.h"
 
 namespace twk {
 
@@ -29,7 +30,7 @@ void frmTip::Form_Load() {
         return;
     }
     chance().Randomize();
-    if (LoadTips(app_path() + Text(path_separator) + Text(tip_file))) return;
+    if (LoadTips(beside_program(tip_file))) return;
     lblTipText.caption =
         u"That the " + Text(tip_file) + u" file was not found? \r\nCreate a text file named " +
         Text(tip_file) +

@@ -3,6 +3,7 @@
 #include "assist/form9.h"
 #include "platform/addresses.h"
 #include "platform/desktop.h"
+#include "store/stores.h"
 
 namespace twk {
 
@@ -10,7 +11,7 @@ void mostrar_ayuda(const Text& anchor) {
     Form9& help = screen<Form9>();
     screens().show<Form9>();
     help.wb1.address_bar = true;
-    desktop().navigate(help.wb1, app_path() + Text(path_separator) + u"help.htm#" + anchor);
+    desktop().navigate(help.wb1, beside_program(u"help.htm#") + anchor);
 }
 
 void open_maker_site() {

@@ -6,6 +6,7 @@
 #include "platform/files.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
+#include "store/stores.h"
 
 #include <algorithm>
 
@@ -192,7 +193,7 @@ void Form17::Command1_Click() {
         MsgBox(u"Do you want to save this filename set?", Buttons::yes_no) == Answer::yes)
         Command4_Click();
     try {
-        write_list(*this, app_path() + Text(path_separator) + u"last-generated.txt");
+        write_list(*this, beside_program(u"last-generated.txt"));
     } catch (const RuntimeFault&) { // the set of the last run is a convenience: the run goes on without
     }
     screens().hide<Form17>();

@@ -17,6 +17,7 @@
 #include "reports/form12.h"
 #include "settings/settings_file.h"
 #include "shell/form2.h"
+#include "store/stores.h"
 
 namespace twk {
 
@@ -94,14 +95,13 @@ void open_local_site_map(Run& run) {
 
 /// A name that leads elsewhere gets no settings file; the run will stop at its folder.
 void save_own_settings(Form6& form) {
-    const Text beside = app_path() + Text(path_separator);
     try {
-        const Fence named(beside + u"Projects", project_name());
+        const Fence named(beside_program(u"Projects"), project_name());
     } catch (const RuntimeFault&) {
         MsgBox(u"File wasn't saved.");
         return;
     }
-    guardar_dat(form, beside + project_name() + u".dat");
+    guardar_dat(form, beside_program(project_name() + u".dat"));
 }
 
 void run_all(Run& run) {
@@ -121,8 +121,7 @@ void run_all(Run& run) {
 
     run.mensaje_error =
         u"there was an error preparing project properties (keywords, content boxes, hosts, targets, etc.)";
-    run.base_datos =
-        OpenDatabase(app_path() + Text(path_separator) + u"hive.mdb", false, false, u";pwd=lantern4821");
+    run.base_datos = open_hive();
     read_project(run);
     read_keywords(run);
     collect_terms(run);

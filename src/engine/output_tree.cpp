@@ -6,6 +6,7 @@
 #include "platform/desktop.h"
 #include "platform/faults.h"
 #include "shell/form2.h"
+#include "store/stores.h"
 
 namespace twk {
 
@@ -15,7 +16,7 @@ void rebuild_output_tree(Run& run) {
         u"There was an error trying to create or delete the directory for this project:  " + name +
         u"\nThis is set in the Project Properties (step 1).\nCheck the directory name, if it was not created. Also, "
         u"check if it's empty.";
-    run.fence = std::make_shared<Fence>(app_path() + Text(path_separator) + u"Projects", name);
+    run.fence = std::make_shared<Fence>(beside_program(u"Projects"), name);
     run.project_folder = run.fence->folder();
     run.main_folder = destination_folder(run, main_host(run));
     run.fence->check(run.main_folder);

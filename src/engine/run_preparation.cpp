@@ -7,6 +7,7 @@
 #include "platform/faults.h"
 #include "platform/numbers.h"
 #include "shell/module1.h"
+#include "store/stores.h"
 
 namespace twk {
 
@@ -103,7 +104,7 @@ void measure_boxes(Run& run) {
 
 bool list_pictures(Run& run) {
     Form6& form = run.form;
-    const Text folder = app_path() + Text(path_separator) + u"Images";
+    const Text folder = beside_program(u"Images");
     form.List1.clear();
     form.File1.set_path(folder);
     for (const char16_t* pattern : {u"*.gif", u"*.jpg"}) {

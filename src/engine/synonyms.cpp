@@ -7,6 +7,7 @@
 #include "platform/faults.h"
 #include "platform/numbers.h"
 #include "store/database.h"
+#include "store/stores.h"
 
 #include <algorithm>
 #include <map>

@@ -8,6 +8,7 @@
 #include "platform/numbers.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
+#include "store/stores.h"
 #include "tools/form19.h"
 #include "tools/form20.h"
 
@@ -60,8 +61,7 @@ void Form3::Form_Unload() {
 }
 
 void Form3::abrir() {
-    base_datos_ =
-        OpenDatabase(app_path() + Text(path_separator) + u"hive.mdb", false, false, u";pwd=lantern4821");
+    base_datos_ = open_hive();
 }
 
 void Form3::refrescar_cuentas() {

@@ -8,6 +8,7 @@
 #include "platform/numbers.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
+#include "store/stores.h"
 #include "tools/form11.h"
 #include "tools/form21.h"
 
@@ -30,10 +31,6 @@ Text& cell(std::array<Text, max_boxes>& table, int index) {
 
 const Text& project_name() {
     return screen<Form2>().txt_name[0].text();
-}
-
-Database open_store() {
-    return OpenDatabase(app_path() + Text(path_separator) + u"hive.mdb", false, false, u";pwd=lantern4821");
 }
 
 void warn_of_few_words(Text text) {
@@ -64,7 +61,7 @@ void Form5::Form_Load() {
     marcar_forma(screen_number, true);
     tabla_kw.resize(screen<Form3>().List1.list_count() + 1);
     RTAux.clear();
-    base_datos_ = open_store();
+    base_datos_ = open_hive();
     for (Recordset row =
              base_datos_.OpenRecordset(u"select * from Projects where name = '" + project_name() + u"'");
          !row.eof(); row.MoveNext())
@@ -140,7 +137,7 @@ void Form5::Command2_Click() {
         return;
     }
     criticar();
-    base_datos_ = open_store();
+    base_datos_ = open_hive();
     warn_of_few_words(rt1.text());
     Recordset row = base_datos_.OpenRecordset(u"content");
     row.AddNew();
@@ -163,7 +160,7 @@ void Form5::Command5_Click() {
         return;
     }
     warn_of_few_words(rt1.text());
-    base_datos_ = open_store();
+    base_datos_ = open_hive();
     // After a No above there is no box to write to: a subscript fault, and nothing is saved.
     Recordset row =
         base_datos_.OpenRecordset(u"select * from content WHERE cid = " + cell(caja_cid, List1.list_index()));
@@ -250,7 +247,7 @@ void Form5::cmdtie_Click() {
     const Text cid = cell(caja_cid, List1.list_index());
     const Text& chosen = lstkeyword.list(lstkeyword.list_index());
     const Text keyid = Trim(Left(chosen, InStr(chosen, u"-") - 1));
-    base_datos_ = open_store();
+    base_datos_ = open_hive();
     if (!base_datos_
              .OpenRecordset(u"select * from ties where pid = " + to_text(pid_form) + u" and keyid = " + keyid)
              .eof()) {

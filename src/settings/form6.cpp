@@ -11,6 +11,7 @@
 #include "shell/form2.h"
 #include "shell/module1.h"
 #include "store/database.h"
+#include "store/stores.h"
 
 namespace twk {
 
@@ -21,10 +22,6 @@ constexpr int screen_number = 6;
 /// Project names come from Step 1's own box, not from the name under which the project was opened.
 const Text& project_name() {
     return screen<Form2>().txt_name[0].text();
-}
-
-Text beside_program(TextView file) {
-    return app_path() + Text(path_separator) + Text(file);
 }
 
 } // namespace
@@ -48,7 +45,7 @@ void Form6::Form_Load() {
     if (!screens().is_loaded<Form6>()) return; // no settings file: the screen has closed itself
     // Names the default file whichever was read.
     screens().record<Form6>().caption = u"Step 5 of 6 - Gateway Generation - Using twk.dat";
-    Database base_datos = OpenDatabase(beside_program(u"hive.mdb"), false, false, u";pwd=lantern4821");
+    Database base_datos = open_hive();
     for (Recordset row =
              base_datos.OpenRecordset(u"select * from Projects where name = '" + project_name() + u"'");
          !row.eof(); row.MoveNext())

@@ -7,6 +7,7 @@
 #include "platform/numbers.h"
 #include "shell/module1.h"
 #include "store/database.h"
+#include "store/stores.h"
 
 #include <algorithm>
 
@@ -119,8 +120,7 @@ void Form19::Command5_Click() {
         Text contada = palabra;
         if (contar_palabras(contada) >= 20) continue;
         // Reserved words pass here, and the store is not asked: the lookup has compared with Step 2's list.
-        Database base_datos =
-            OpenDatabase(app_path() + Text(path_separator) + u"hive.mdb", false, false, u";pwd=lantern4821");
+        Database base_datos = open_hive();
         base_datos.Execute(u"insert into keywords ( pid , keyword ) values ( " +
                            to_text(module1().pid_actual) + u" , '" + palabra + u"' ) ");
         screen<Form3>().List1.add_item(palabra);

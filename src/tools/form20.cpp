@@ -8,6 +8,7 @@
 #include "platform/numbers.h"
 #include "shell/module1.h"
 #include "store/database.h"
+#include "store/stores.h"
 #include "tools/form16.h"
 
 namespace twk {
@@ -84,8 +85,7 @@ void Form20::Command14_Click() {
 }
 
 void Form20::Command13_Click() {
-    Database base_datos =
-        OpenDatabase(app_path() + Text(path_separator) + u"hive.mdb", false, false, u";pwd=lantern4821");
+    Database base_datos = open_hive();
     const Text pid = to_text(module1().pid_actual);
     for (int i = 0; i < List1.list_count(); ++i) {
         const Text palabra = Trim(List1.list(i));

@@ -3,11 +3,12 @@
 #include "inputs/form5.h"
 #include "platform/desktop.h"
 #include "platform/files.h"
+#include "store/stores.h"
 
 namespace twk {
 
 Text preview_file() {
-    return app_path() + Text(path_separator) + u"delete.htm";
+    return beside_program(u"delete.htm");
 }
 
 void Form21::cmdrefresh_Click() {

@@ -5,6 +5,7 @@
 #include "platform/faults.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
+#include "store/stores.h"
 
 namespace twk {
 
@@ -32,8 +33,7 @@ void Form23::Form_Load() {
     Dir2.set_path(app_path());
     Text1.text = app_path();
     Text2.text = u"*.htm";
-    base_datos_ =
-        OpenDatabase(app_path() + Text(path_separator) + u"hive.mdb", false, false, u";pwd=lantern4821");
+    base_datos_ = open_hive();
     archivos.assign(2, {});
     Text5.read_only = true;
     for (std::size_t i = 0; i < Frame1.size(); ++i) Frame1[i].visible = i == all_files;
