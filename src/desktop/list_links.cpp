@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalBlocker>
+#include <algorithm>
 
 namespace twk {
 
@@ -197,7 +198,8 @@ void show_folders(QListWidget& list, const DirListBox& box) {
         list.addItem(item);
     };
     qsizetype depth = 0;
-    for (auto each = chain.rbegin(); each != chain.rend(); ++each) add(*each, depth++);
+    std::reverse(chain.begin(), chain.end());
+    for (const Text& each : chain) add(each, depth++);
     for (const Text& each : box.entries()) add(each, depth);
     list.setProperty("own_row", static_cast<int>(chain.size()) - 1);
 }

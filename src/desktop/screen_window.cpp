@@ -37,9 +37,8 @@ class ModalFrame : public QDialog {
 
 } // namespace
 
-ScreenWindow::ScreenWindow(Screen& screen, QMdiArea& area) : area_(area) {
+ScreenWindow::ScreenWindow(Screen& screen, QMdiArea& area) : area_(area), form_(make_form(screen.name)) {
     setObjectName(QString::fromStdString(screen.name));
-    form_ = make_form(screen.name);
     if (form_ == nullptr) form_ = new QWidget;
     drawn_size_ = form_->size();
     form_area_ = new FormArea(*form_);

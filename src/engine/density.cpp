@@ -245,6 +245,7 @@ const PatternSet& highlighted(Run& run) {
     for (int k = 0; right && k < run.n_keywords; ++k) right = holds(k);
     if (!right) {
         std::vector<Text> patterns;
+        patterns.reserve(static_cast<std::size_t>(run.n_keywords));
         for (int k = 0; k < run.n_keywords; ++k) patterns.push_back(u" " + Trim(run.tabla_kw.at(k)) + u" ");
         run.highlighted = std::make_shared<PatternSet>(std::move(patterns));
     }

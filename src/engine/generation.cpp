@@ -41,7 +41,7 @@ bool confirmed() {
                   Buttons::yes_no, u"Create Pages?") == Answer::yes;
 }
 
-void prepare_report(Run& run) {
+void prepare_report(const Run& run) {
     Form12& report = screen<Form12>();
     report.ProgressBar1.set_value(CDbl(u"0,0001"));
     for (ListBox* list : {&report.List1, &report.List2, &report.List3}) list->clear();
@@ -51,7 +51,7 @@ void prepare_report(Run& run) {
     report.Reporte(run.tabla_kw, run.n_keywords);
 }
 
-void finish_report(Run& run) {
+void finish_report(const Run& run) {
     Form12& report = screen<Form12>();
     report.reporte2_3(run.n_keywords);
     report.reporte_nivel2(run.cuenta1, run.cuenta2);
@@ -85,7 +85,7 @@ void run_phases(Run& run) {
     run.fase = 5;
 }
 
-void open_local_site_map(Run& run) {
+void open_local_site_map(const Run& run) {
     const Text sep(path_separator);
     try {
         desktop().start(ruta_corta(run.project_folder + sep + u"sitemap-do-not-upload.htm"));
@@ -142,7 +142,7 @@ void run_all(Run& run) {
 /// One run at a time, from whichever screen: a second one would erase the pages under the first.
 class UnderWay {
   public:
-    explicit UnderWay(bool& flag) : flag_(flag) { flag_ = true; }
+    explicit UnderWay(bool& flag) : flag_(flag) { flag = true; }
     ~UnderWay() { flag_ = false; }
     UnderWay(const UnderWay&) = delete;
     UnderWay& operator=(const UnderWay&) = delete;

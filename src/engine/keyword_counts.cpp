@@ -47,6 +47,7 @@ bool KeywordSet::same(const std::vector<Text>& keywords) const {
 const KeywordSet& keyword_set(Run& run) {
     if (!run.keywords) {
         std::vector<Text> all;
+        all.reserve(static_cast<std::size_t>(run.n_keywords));
         for (int k = 0; k < run.n_keywords; ++k) all.push_back(run.tabla_kw.at(k));
         run.keywords = std::make_shared<KeywordSet>(all);
     }
@@ -78,7 +79,7 @@ std::optional<std::int64_t> KeywordCounts::counted(int k) const {
 
 std::int16_t KeywordCounts::contar(int k, Text& keyword) {
     absent_ = false;
-    if (keyword != set_.keyword(k)) keyword = set_.keyword(k);
+    keyword = set_.keyword(k);
     if (!set_.known(k)) {
         changed();
         return contar_kw(text_, keyword);

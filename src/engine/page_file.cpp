@@ -27,7 +27,7 @@ void close_page(Run& run, const Text& path) {
     run.pagina_actual.clear();
 }
 
-Text destination_folder(Run& run, TextView address) {
+Text destination_folder(const Run& run, TextView address) {
     Text name = Replace(address, u"http://", u"");
     replace_all(name, u"\\", u"-");
     replace_all(name, u"/", u"-");

@@ -15,7 +15,7 @@ void open_page(Run& run, const Text& path);
 void close_page(Run& run, const Text& path);
 
 /// The folder of a destination: its address as one segment.
-Text destination_folder(Run& run, TextView address);
+Text destination_folder(const Run& run, TextView address);
 
 /// Copies a delivered file into a folder of the project, overwriting.
 void copy_into_project(Run& run, const Text& from, const Text& to);

@@ -80,9 +80,10 @@ void limit_keywords(Run& run, Text& s, int kept) {
 
 void fill_content_pool(Run& run) {
     const int u = run.ultima_caja;
-    run.fuente.assign(static_cast<std::size_t>(2 * u + 3), Run::nothing);
+    const int size = 2 * u + 3;
+    run.fuente.assign(static_cast<std::size_t>(size), Run::nothing);
     for (int i = 0; i <= u; ++i) run.fuente[static_cast<std::size_t>(i)] = i;
-    for (int j = 1; j <= u + 1; ++j) run.fuente[static_cast<std::size_t>(u + j)] = j - 1;
+    for (int i = u + 1; i <= 2 * u + 1; ++i) run.fuente[static_cast<std::size_t>(i)] = i - u - 1;
     run.seleccion.assign(run.fuente.size(), Run::nothing);
     run.n_fuente = static_cast<std::int16_t>(2 * u); // the last entry is never drawn
 }

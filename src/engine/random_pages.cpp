@@ -197,17 +197,17 @@ Text tp3_hiddenform(Run& run) {
     return u"<input type=hidden name=content value=" + Replace(run.lista_kw, u",", u"") + u"><br>";
 }
 
-Text google_search_link(Run& run) {
+Text google_search_link(const Run& run) {
     return u"<li><a href=\"" + Text(addresses::google_search) + u"/search?hl=es&ie=ISO-8859-1&q=" +
            module1().url_principal + u"&lr=\">" + run.settings.frases[7] + u"</a>";
 }
 
-Text google_related_link(Run& run) {
+Text google_related_link(const Run& run) {
     return u"<li><a href=\"" + Text(addresses::google_search) + u"/search?hl=es&lr=&ie=UTF-8&q=related:" +
            module1().url_principal + u" \">" + run.settings.frases[8] + u"</a>";
 }
 
-Text tp3_linktogoogle(Run& run) {
+Text tp3_linktogoogle(const Run& run) {
     return google_search_link(run) + google_related_link(run);
 }
 

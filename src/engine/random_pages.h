@@ -28,9 +28,9 @@ Text first_level_link(Run& run);
 Text tp3_hiddenform(Run& run);
 
 /// Two search links.
-Text tp3_linktogoogle(Run& run);
-Text google_search_link(Run& run);
-Text google_related_link(Run& run);
+Text tp3_linktogoogle(const Run& run);
+Text google_search_link(const Run& run);
+Text google_related_link(const Run& run);
 
 /// The picture of a random page under Check2.
 void write_random_image(Run& run);

@@ -14,7 +14,7 @@ namespace twk {
 namespace {
 
 /// Path of a read-more page whose name begins like the text; `mark` stands behind the stem.
-Text read_more_path(Run& run, Text stem, TextView mark) {
+Text read_more_path(const Run& run, Text stem, TextView mark) {
     Text host = Replace(screen<Form7>().Text2.text(), u"http://", u"");
     replace_all(host, u"\\", u"-");
     for (const TextView drop : {u":", u"\\", u"/", u"+", u"\"", u"'"}) replace_all(stem, drop, u"");

@@ -2,6 +2,7 @@
 
 #include "platform/faults.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace twk {
@@ -22,9 +23,10 @@ void replace_last(Text& text, TextView find, TextView with, int count) {
     Text out;
     out.reserve(text.size());
     std::size_t from = 0;
-    for (auto place = places.rbegin(); place != places.rend(); ++place) {
-        out.append(text, from, *place - from).append(with);
-        from = *place + find.size();
+    std::reverse(places.begin(), places.end());
+    for (const std::size_t place : places) {
+        out.append(text, from, place - from).append(with);
+        from = place + find.size();
     }
     text = out.append(text, from);
 }

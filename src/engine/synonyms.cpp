@@ -22,7 +22,7 @@ namespace {
 /// of the other.
 class Dictionary {
   public:
-    void add(Text clave_k, Text sinonimo_k, Text sinonimo_s, Text clave_s) {
+    void add(const Text& clave_k, Text sinonimo_k, const Text& sinonimo_s, Text clave_s) {
         const std::size_t j = rows_.size();
         by_keyword_.emplace(LCase(clave_k), j);
         by_synonym_.emplace(LCase(sinonimo_s), j);
@@ -102,12 +102,11 @@ namespace {
 
 /// The dictionary of the run, read again when a row has changed.
 Dictionary& dictionary_of(Run& run) {
-    const Text path = app_path() + Text(path_separator) + u"synonyms.mdb";
-    if (run.synonyms && file_exists(path)) {
+    if (run.synonyms && file_exists(beside_program(u"synonyms.mdb"))) {
         if (run.synonyms->store.row_state() == run.synonyms->state) return run.synonyms->dictionary;
     }
     auto read = std::make_shared<KnownSynonyms>();
-    read->store = OpenDatabase(path, false, false);
+    read->store = open_synonyms();
     read->state = read->store.row_state();
     read->dictionary = read_dictionary(read->store);
     run.synonyms = std::move(read);

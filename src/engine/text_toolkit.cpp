@@ -18,9 +18,9 @@ bool is_spaced(TextView text) {
     unsigned short wrong = 0;
     for (std::size_t i = 1; i < text.size(); ++i) {
         const char16_t before = text[i - 1], here = text[i];
-        const bool blank_before = before == u' ', blank_here = here == u' ';
-        wrong = static_cast<unsigned short>(wrong | ((here == u'<') & !blank_before) |
-                                            ((before == u'>') & !blank_here) | (blank_before & blank_here));
+        wrong = static_cast<unsigned short>(wrong | ((here == u'<') & (before != u' ')) |
+                                            ((before == u'>') & (here != u' ')) |
+                                            ((before == u' ') & (here == u' ')));
     }
     return wrong == 0;
 }

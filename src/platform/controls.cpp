@@ -41,13 +41,13 @@ const Text& ListBox::list(int index) const {
     return entry(entries_, index);
 }
 
-void ListBox::set_list(int index, Text text) {
-    entries_[place(entries_, index)] = std::move(text);
+void ListBox::set_list(int index, Text entry) {
+    entries_[place(entries_, index)] = std::move(entry);
     observer(Prop::list);
 }
 
-void ListBox::add_item(Text text) {
-    entries_.push_back(std::move(text));
+void ListBox::add_item(Text entry) {
+    entries_.push_back(std::move(entry));
     marks_.push_back(false);
     observer(Prop::list);
 }
@@ -104,8 +104,8 @@ const Text& ComboBox::list(int index) const {
     return entry(entries_, index);
 }
 
-void ComboBox::add_item(Text text) {
-    entries_.push_back(std::move(text));
+void ComboBox::add_item(Text entry) {
+    entries_.push_back(std::move(entry));
     observer(Prop::list);
 }
 

@@ -79,7 +79,7 @@ std::string NameIndex::find(const std::string& path) {
     if (name.empty()) return path;
     const std::string given = folder_of(path);
     const std::string folder = there(given) ? given : find(given);
-    const std::string here =
+    std::string here =
         path.find('/') == std::string::npos ? name : (folder == "/" ? "/" : folder + "/") + name;
     if (folder != given && there(here)) return here;
     const Folder* const names = names_in(folder);

@@ -4,10 +4,8 @@
 
 #include <algorithm>
 #include <array>
-#include <clocale>
+#include <clocale> // newlocale, too
 #include <cwctype>
-
-#include <locale.h>
 
 namespace twk {
 
@@ -16,8 +14,8 @@ namespace {
 constexpr char16_t replacement = 0xFFFD;
 
 struct CaseTables {
-    std::array<char16_t, 65536> lower;
-    std::array<char16_t, 65536> upper;
+    std::array<char16_t, 65536> lower{};
+    std::array<char16_t, 65536> upper{};
 
     CaseTables() {
         const locale_t locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
@@ -108,31 +106,31 @@ Text Mid(TextView text, int start, int count) {
     return Text(text.substr(from, as_count(count)));
 }
 
-int InStr(TextView text, TextView what, int start) {
+int InStr(TextView text, TextView find, int start) {
     if (start < 1) throw RuntimeFault(fault_argument);
     if (text.empty()) return 0;
-    const std::size_t at = position(text, what, static_cast<std::size_t>(start - 1));
+    const std::size_t at = position(text, find, static_cast<std::size_t>(start - 1));
     return at == npos ? 0 : static_cast<int>(at) + 1;
 }
 
-Text Replace(TextView text, TextView what, TextView with, int count) {
+Text Replace(TextView text, TextView find, TextView with, int count) {
     if (count < -1) throw RuntimeFault(fault_argument);
-    std::size_t at = what.empty() || count == 0 ? npos : position(text, what, 0);
+    std::size_t at = find.empty() || count == 0 ? npos : position(text, find, 0);
     if (at == npos) return Text(text);
     Text out;
-    out.reserve(text.size() + (with.size() > what.size() ? text.size() / 8 : 0));
+    out.reserve(text.size() + (with.size() > find.size() ? text.size() / 8 : 0));
     std::size_t from = 0;
     for (int left = count; at != npos && left != 0; --left) {
         out.append(text, from, at - from).append(with);
-        from = at + what.size();
-        at = position(text, what, from);
+        from = at + find.size();
+        at = position(text, find, from);
     }
     return out.append(text, from);
 }
 
-bool replace_all(Text& text, TextView what, TextView with) {
-    if (what.empty() || position(text, what, 0) == npos) return false;
-    text = Replace(text, what, with);
+bool replace_all(Text& text, TextView find, TextView with) {
+    if (find.empty() || position(text, find, 0) == npos) return false;
+    text = Replace(text, find, with);
     return true;
 }
 
@@ -145,7 +143,7 @@ std::vector<TextView> split_views(TextView text, TextView separator) {
     const auto next = [&](std::size_t at) {
         return separator.size() == 1 ? text.find(separator.front(), at) : position(text, separator, at);
     };
-    for (std::size_t at; (at = next(from)) != npos; from = at + separator.size())
+    for (std::size_t at = 0; (at = next(from)) != npos; from = at + separator.size())
         pieces.push_back(text.substr(from, at - from));
     pieces.push_back(text.substr(from));
     return pieces;
@@ -188,8 +186,8 @@ Text StrReverse(TextView text) {
     return Text(text.rbegin(), text.rend());
 }
 
-bool contains(TextView text, TextView what) {
-    return position(text, what, 0) != npos;
+bool contains(TextView text, TextView find) {
+    return position(text, find, 0) != npos;
 }
 
 bool same_text(TextView a, TextView b) {

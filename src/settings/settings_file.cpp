@@ -74,7 +74,7 @@ Text entry_text(TextView piece) {
 Text valor1(Text& linea) {
     // The unit behind each "=" is lost, whatever it is: "1.a=300" gives "00".
     TextView rest = linea;
-    for (std::size_t at; (at = rest.find(u'=')) != TextView::npos;)
+    for (std::size_t at = 0; (at = rest.find(u'=')) != TextView::npos;)
         rest = at + 2 < rest.size() ? trim_view(rest.substr(at + 2)) : TextView{};
     linea = Text(rest);
     return linea;

@@ -143,9 +143,9 @@ void Form2::Command2_Click() {
     module1().url_sitio = txt_url[0].text();
     module1().url_webmaster = txt_url[2].text();
     if (!campos_completos() || !direcciones_validas()) return;
-    const Text name = Trim(txt_name[0].text());
-    if (module1().pid_actual != 0 && name != module1().proyecto_actual)
-        MsgBox(u"The project " + module1().proyecto_actual + u" has been renamed to " + name);
+    const Text project = Trim(txt_name[0].text());
+    if (module1().pid_actual != 0 && project != module1().proyecto_actual)
+        MsgBox(u"The project " + module1().proyecto_actual + u" has been renamed to " + project);
     base_datos_ = open_hive();
     bool name_taken = false;
     if (module1().pid_actual == 0)
@@ -208,15 +208,16 @@ bool Form2::direcciones_sin_barra() const {
 
 /// Inserts the project, in the place of one of the same name when the user agrees. False when he does not.
 bool Form2::proyecto_nuevo() {
-    const Text name = txt_name[0].text();
+    const Text project = txt_name[0].text();
     bool taken = false;
-    for (Recordset row = base_datos_.OpenRecordset(u"SELECT * From Projects where name = '" + name + u"' ");
+    for (Recordset row =
+             base_datos_.OpenRecordset(u"SELECT * From Projects where name = '" + project + u"' ");
          !row.eof(); row.MoveNext()) {
         taken = true;
         pid_igual_ = CInt(row.Fields(u"pid").number());
     }
     if (taken) {
-        if (MsgBox(u"There's another project named " + name +
+        if (MsgBox(u"There's another project named " + project +
                        u"! \nDo you want to replace it?\nAll data related to the old project (keywords, "
                        u"contents, settings) will be lost.",
                    Buttons::ok_cancel, u"Replace project?") != Answer::ok)
@@ -240,14 +241,14 @@ void Form2::reemplazar(std::int16_t pid) {
 
 void Form2::insertar_proyecto() {
     const auto clean = [](const TextBox& box) { return preparar_texto(Text(box.text())); };
-    const Text name = clean(txt_name[0]);
+    const Text project = clean(txt_name[0]);
     base_datos_.Execute(
         u"insert into Projects ( name , site_name , site_url , title , category , description , "
         u"designer_name , designer_url )  values ( '" +
-        name + u"' , '" + clean(Text2[0]) + u"' , '" + preparar_texto(module1().url_sitio) + u"'  , '" +
+        project + u"' , '" + clean(Text2[0]) + u"' , '" + preparar_texto(module1().url_sitio) + u"'  , '" +
         clean(txt_dat[0]) + u"' , '" + clean(txt_dat[1]) + u"' ,  '" + clean(txt_dat[2]) + u"' , '" +
         clean(Text7) + u"' , '" + preparar_texto(module1().url_webmaster) + u"' ) ");
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from projects where name = '" + name + u"'");
+    for (Recordset row = base_datos_.OpenRecordset(u"select * from projects where name = '" + project + u"'");
          !row.eof(); row.MoveNext())
         module1().pid_actual = CInt(row.Fields(u"pid").number());
 }

@@ -53,8 +53,8 @@ Field::Value column_value(sqlite3_stmt* statement, int column) {
 
 } // namespace
 
-Connection::Connection(const std::string& file, bool read_only, const std::string& key) {
-    db_ = open_store(file, read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE, key);
+Connection::Connection(const std::string& file, bool read_only, const std::string& key)
+    : db_(open_store(file, read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE, key)) {
     sqlite3_busy_timeout(db_, busy_milliseconds);
     sqlite3_set_authorizer(db_, authorize, nullptr);
 }

@@ -29,8 +29,8 @@ class Connection {
     std::int64_t data_version();
     std::int64_t changed_rows() const { return sqlite3_total_changes(db_); }
 
-    Rows select(const Text& statement);
-    void change(const Text& statement);
+    Rows select(const Text& text);
+    void change(const Text& text);
 
     /// Holds the writes between them together. A commit that fails takes them back.
     void begin();
