@@ -1,0 +1,47 @@
+#!/bin/sh
+# Static analysis of src/: cppcheck, then clang-tidy with the checks of .clang-tidy. Fails at the first finding.
+#   tests/analysis.sh                 all of src/ that the build folder compiles
+#   tests/analysis.sh --cppcheck      cppcheck alone, which takes a minute
+#   tests/analysis.sh FILE.cpp ...    clang-tidy on these files alone
+# BUILD names the build folder with the compile commands (build/dev, made without windows when it is not there).
+set -eu
+cd "$(dirname "$0")/.."
+. .ci/packages.sh
+install_missing cppcheck clang-tidy
+
+build=${BUILD:-build/dev}
+
+run_cppcheck() {
+    # It reads no headers of libraries. What is told to be silent:
+    # - useStlAlgorithm: a plain loop is often the clearer text;
+    # - shadowFunction: a local variable may be called like a routine that nobody calls there;
+    # - duplicateCondition in screens.h: it takes one "if constexpr (requires ...)" for the other;
+    # - returnTempReference in screens.h: it does not see that record() returns a member's element;
+    # - internalAstError in binder.cpp: it does not parse the generic lambda.
+    cppcheck --std=c++20 --language=c++ --enable=warning,style,performance,portability --inline-suppr \
+        --error-exitcode=1 --quiet -j "$(nproc)" -I src \
+        --suppress=missingIncludeSystem --suppress=useStlAlgorithm --suppress=shadowFunction \
+        --suppress=duplicateCondition:src/platform/screens.h \
+        --suppress=returnTempReference:src/platform/screens.h \
+        --suppress=internalAstError:src/desktop/binder.cpp \
+        --template='{file}:{line}: {severity}: {message} [{id}]' src
+}
+
+run_clang_tidy() {
+    tidy=$(command -v clang-tidy || command -v clang-tidy-14)
+    [ -f "$build/compile_commands.json" ] || cmake --preset dev -B "$build" -DTARNWICK_DESKTOP=OFF
+    if [ $# = 0 ]; then
+        set -- $(grep -o '"file": "[^"]*/src/[^"]*\.cpp"' "$build/compile_commands.json" | cut -d'"' -f4 |
+            grep -v autogen | sort -u)
+    fi
+    printf '%s\n' "$@" | xargs -P "$(nproc)" -n 1 "$tidy" -p "$build" --quiet
+}
+
+case "${1:-}" in
+--cppcheck) run_cppcheck ;;
+"")
+    run_cppcheck
+    run_clang_tidy
+    ;;
+*) run_clang_tidy "$@" ;;
+esac
