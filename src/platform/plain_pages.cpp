@@ -65,9 +65,9 @@ using namespace plain_pages;
 bool is_plain(TextView html) {
     unsigned short beyond_ascii = 0, strange = 0;
     for (const char16_t c : html) {
-        const bool blank = (c == u'\t') | (c == u'\n') | (c == u'\r') | (c == u'\f');
+        const bool no_blank = (c != u'\t') & (c != u'\n') & (c != u'\r') & (c != u'\f');
         beyond_ascii = static_cast<unsigned short>(beyond_ascii | c);
-        strange = static_cast<unsigned short>(strange | ((c < 0x20) & !blank) | (c == 0x7F));
+        strange = static_cast<unsigned short>(strange | ((c < 0x20) & no_blank) | (c == 0x7F));
     }
     if (strange != 0 || beyond_ascii < 0x80) return strange == 0;
     return std::none_of(html.begin(), html.end(), [](char16_t c) {
