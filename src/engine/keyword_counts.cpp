@@ -60,7 +60,7 @@ bool KeywordCounts::ready() {
     if (passes_left_ == 0 || !is_spaced(text_)) return false;
     --passes_left_;
     index_.emplace(set_.patterns(), text_);
-    for (int p = set_.first_disturbing(); p < set_.patterns().size(); ++p)
+    for (int p = set_.first_disturbing(); index_ && p < set_.patterns().size(); ++p)
         if (index_->occurs(p)) index_.reset();
     return index_.has_value();
 }
