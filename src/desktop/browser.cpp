@@ -98,17 +98,15 @@ void BrowserView::follow(const QWebEngineLoadingInfo& loading) {
     const auto is = [&loading](const QUrl& url) {
         return loading.url().matches(url, QUrl::StripTrailingSlash | QUrl::RemoveFragment);
     };
-    switch (loading.status()) {
-    case QWebEngineLoadingInfo::LoadStartedStatus: busy_ = true; return;
-    // What ends without success may be the page before, broken off by the one that has been asked for.
-    case QWebEngineLoadingInfo::LoadStoppedStatus:
-        if (!asked_.isEmpty() && !is(asked_)) return;
-        break;
-    case QWebEngineLoadingInfo::LoadFailedStatus:
-        if (!asked_.isEmpty() && is(asked_before_) && !is(asked_)) return;
-        break;
-    case QWebEngineLoadingInfo::LoadSucceededStatus: break;
+    if (loading.status() == QWebEngineLoadingInfo::LoadStartedStatus) {
+        busy_ = true;
+        return;
     }
+    // What ends may be the page before, broken off by the one that has been asked for, or the blank page that
+    // a fresh engine begins with.
+    const bool another = !asked_.isEmpty() && !is(asked_);
+    const bool stopped = loading.status() == QWebEngineLoadingInfo::LoadStoppedStatus;
+    if (another && (stopped || is(asked_before_) || is(QUrl(blank_page)))) return;
     busy_ = false;
     asked_.clear();
     if (html_.isEmpty()) Q_EMIT finished();

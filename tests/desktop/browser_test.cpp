@@ -31,8 +31,11 @@ class Browser : public test::WindowTest {
 
     /// Waits until the browser has come to rest at an address.
     bool at(WebBrowser& browser, const QString& address) {
-        return QTest::qWaitFor([&] { return !qt.busy(browser) && to_qt(browser.location_url()) == address; },
-                               30000);
+        if (QTest::qWaitFor([&] { return !qt.busy(browser) && to_qt(browser.location_url()) == address; },
+                            30000))
+            return true;
+        ADD_FAILURE() << "still at " << to_utf8(browser.location_url()) << (qt.busy(browser) ? ", busy" : "");
+        return false;
     }
 
     PageServer server;
