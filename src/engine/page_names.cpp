@@ -1,5 +1,6 @@
 #include "engine/page_names.h"
 
+#include "engine/decorations.h"
 #include "engine/density.h"
 #include "engine/form17.h"
 #include "engine/fragments.h"
@@ -60,10 +61,9 @@ void build_page_names(Run& run) {
                 const int words = xrnum(2) + run.settings.palabras_extracto;
                 // The letter takes 25 from a `b` above 25, and the loop goes on from there.
                 Text w = cortar_palabras(name, words) + rspaces(form, u" ") + letra(b);
-                if (c == s) {
-                    w += u"_js";
-                    c = -1;
-                }
+                const bool redirects = c == s;
+                w += tiene_java(redirects);
+                if (redirects) c = -1;
                 run.nombres[static_cast<std::size_t>(i)] = std::move(w);
                 ++i;
                 ++c;

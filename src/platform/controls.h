@@ -20,19 +20,12 @@ enum class Prop {
     list,       ///< entries of a list, or of a file or folder list
     list_index, ///< the current entry, -1 for none
     selection,  ///< marks of a list in which several entries can be chosen
-    colour,
-    tool_tip,
-    minimum,
-    maximum,
     path,
     pattern,
     focus, ///< the control has been given the focus
     cells,
-    address,
     location,
-    busy,
     interval,
-    font,
 };
 
 /// Who is told of a change; at most one, the front end that shows the control.

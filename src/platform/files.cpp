@@ -273,9 +273,6 @@ Text TextStream::close_and_read() {
 bool FileSystemObject::FileExists(const Text& path) const {
     return file_exists(path);
 }
-bool FileSystemObject::FolderExists(const Text& path) const {
-    return dir_exists(path);
-}
 
 TextStreamPtr FileSystemObject::OpenTextFile(const Text& path, OpenMode mode, bool create, TextKind kind) {
     const std::string name = disk_path(path);

@@ -61,7 +61,6 @@ using TextStreamPtr = std::shared_ptr<TextStream>;
 class FileSystemObject {
   public:
     bool FileExists(const Text& path) const;
-    bool FolderExists(const Text& path) const;
     /// Opening for reading a file that is not there is fault 53, unless `create` makes an empty one. Opening
     /// for writing or appending proves at once that the file can be written, and creates it under `create`.
     TextStreamPtr OpenTextFile(const Text& path, OpenMode mode, bool create = false,

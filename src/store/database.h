@@ -71,8 +71,6 @@ class Database {
     /// Runs an insert, update or delete; durable when it returns. The same faults.
     void Execute(const Text& statement);
 
-    bool is_open() const { return connection_ != nullptr; }
-
     /// Two equal states of one handle have no change to any row between them, by whomever.
     struct RowState {
         std::int64_t others = 0; ///< moves when another connection has written
