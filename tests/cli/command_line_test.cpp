@@ -2,7 +2,6 @@
 #include "platform/screens.h"
 #include "support/temp_app.h"
 
-#include <fstream>
 #include <map>
 #include <sstream>
 
@@ -50,11 +49,8 @@ class CommandLine : public ::testing::Test {
         const fs::path folder = app.folder() / "Projects" / "garden-sample";
         std::map<std::string, std::string> files;
         for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-            if (!entry.is_regular_file()) continue;
-            std::ifstream stream(entry.path(), std::ios::binary);
-            std::ostringstream content;
-            content << stream.rdbuf();
-            files[entry.path().lexically_relative(folder).string()] = content.str();
+            if (entry.is_regular_file())
+                files[entry.path().lexically_relative(folder).string()] = bytes_of(entry.path());
         }
         return files;
     }

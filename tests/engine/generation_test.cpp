@@ -1,8 +1,6 @@
 #include "engine/form17.h"
 #include "engine/generation.h"
-#include "inputs/form7.h"
 #include "reports/form12.h"
-#include "shell/form2.h"
 #include "shell/module1.h"
 #include "support/sample_project.h"
 
@@ -60,35 +58,11 @@ TEST_F(GenerationRun, no_at_the_question_ends_it) {
     EXPECT_FALSE(screens().is_loaded<Form12>());
 }
 
-TEST_F(GenerationRun, cancel_in_step_6_leaves_the_old_pages) {
-    test::SampleProject project(app);
-    leave_old_file(project.folder());
-    project.form.Check9.value = true;
-    app.desktop.on_modal = [](Screen& shown) { screens().fire(shown, "Command9", "Click"); };
-    EXPECT_TRUE(project.generate());
-    EXPECT_EQ(module1().paso6_cancelado, u"0");
-    EXPECT_FALSE(screens().is_loaded<Form17>());
-    EXPECT_FALSE(project.run().finished);
-    EXPECT_TRUE(app.exists(project.folder(u"old.htm")));
-}
-
-TEST_F(GenerationRun, too_few_pictures_leave_an_empty_tree) {
-    test::SampleProject project(app);
-    leave_old_file(project.folder());
-    for (const auto& file : fs::directory_iterator(to_utf8(app.path(u"Images"))))
-        if (file.is_regular_file() && file.path().extension() == ".gif") fs::remove(file.path());
-    fs::remove(to_utf8(app.path(u"Images/aurora.jpg")));
-    app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
-    app.desktop.expect(app.path(u"Images Must have more than 3 images (*.gif or *.jpg)"));
-    EXPECT_TRUE(click(project.form));
-    EXPECT_FALSE(app.exists(project.folder(u"old.htm")));
-    EXPECT_TRUE(fs::is_empty(to_utf8(app.path(project.main_folder()))));
-}
-
-TEST_F(GenerationRun, step_6_names_the_pages_and_their_hosts) {
+TEST_F(GenerationRun, step_6_names_the_pages_and_its_cancel_leaves_the_old_ones) {
     test::SampleContent content;
     content.hosts = {u"http://second.example"};
     test::SampleProject project(app, content);
+    leave_old_file(project.folder());
     project.form.Check9.value = true;
     project.form.Combo3.text = u"0";
     project.form.Combo2.text = u"4";
@@ -103,6 +77,29 @@ TEST_F(GenerationRun, step_6_names_the_pages_and_their_hosts) {
         screens().fire(shown, "Command9", "Click");
     };
     EXPECT_TRUE(project.generate());
+    EXPECT_EQ(module1().paso6_cancelado, u"0");
+    EXPECT_FALSE(screens().is_loaded<Form17>());
+    EXPECT_TRUE(app.exists(project.folder(u"old.htm")));
+    const twk::Run& run = project.run();
+    EXPECT_FALSE(run.finished);
+    EXPECT_EQ(run.terminos, (std::vector<Text>{u"cedar roof", u"Small Garden Shed", u"Garden Shed ",
+                                               u"Tool Rack ", u"folding workbench", u"workbench ", u""}));
+    EXPECT_EQ(run.tabla_kw.at(0, 0), u"Garden Shed"); // not measured yet
+    EXPECT_EQ(run.tabla_kw.at(1, 1), u"OakShed");     // stands in for subkeywords, and is no term
+    EXPECT_EQ(run.tabla_kw.at(3, 1), u"OakShed");     // in the empty row behind the last, too
+}
+
+TEST_F(GenerationRun, too_few_pictures_leave_an_empty_tree) {
+    test::SampleProject project(app);
+    leave_old_file(project.folder());
+    for (const auto& file : fs::directory_iterator(to_utf8(app.path(u"Images"))))
+        if (file.is_regular_file() && file.path().extension() == ".gif") fs::remove(file.path());
+    fs::remove(to_utf8(app.path(u"Images/aurora.jpg")));
+    app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
+    app.desktop.expect(app.path(u"Images Must have more than 3 images (*.gif or *.jpg)"));
+    EXPECT_TRUE(click(project.form));
+    EXPECT_FALSE(app.exists(project.folder(u"old.htm")));
+    EXPECT_TRUE(fs::is_empty(to_utf8(app.path(project.main_folder()))));
 }
 
 TEST_F(GenerationRun, fault_tells_stage_and_page_and_leaves_what_was_written) {
@@ -167,45 +164,6 @@ TEST_F(GenerationRun, preparation_faults_come_before_anything_is_erased) {
     app.desktop.expect(u"Run-time error '11':");
     EXPECT_FALSE(click(project.form));
     EXPECT_TRUE(app.exists(project.folder(u"old.htm")));
-}
-
-TEST_F(GenerationRun, nothing_outside_the_project_is_touched) {
-    test::SampleProject project(app);
-    leave_old_file(u"Projects/shed/inner");
-    leave_old_file(u"Projects/other");
-    const auto refused = [&] {
-        app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
-        app.desktop.expect(u"Run-time error '75':");
-        EXPECT_FALSE(click(project.form));
-        EXPECT_TRUE(contains(app.desktop.last_message(), u"This is set in the Project Properties (step 1)."));
-        EXPECT_TRUE(app.exists(u"Projects/shed/inner/old.htm") && app.exists(u"Projects/other/old.htm") &&
-                    app.exists(u"hive.mdb"));
-    };
-    app.desktop.always(u"File wasn't saved.", Answer::ok); // such a name has no settings file
-    for (const char16_t* name : {u"..", u".", u"", u"shed/inner"}) {
-        SCOPED_TRACE(to_utf8(name));
-        screen<Form2>().txt_name[0].text = Text(name);
-        refused();
-    }
-    screen<Form2>().txt_name[0].text = u"shed";
-    screen<Form7>().Text2.text = u"http://..";
-    refused();
-}
-
-TEST_F(GenerationRun, terms_and_table_of_a_project) {
-    test::SampleProject project(app);
-    project.form.Check9.value = true; // a way out before the pages
-    app.desktop.on_modal = [](Screen& shown) { screens().fire(shown, "Command9", "Click"); };
-    EXPECT_TRUE(project.generate());
-    const twk::Run& run = project.run();
-    EXPECT_EQ(run.n_keywords, 3);
-    EXPECT_EQ(run.total_sub, 3);
-    EXPECT_EQ(run.total_terminos, 6);
-    EXPECT_EQ(run.terminos, (std::vector<Text>{u"cedar roof", u"Small Garden Shed", u"Garden Shed ",
-                                               u"Tool Rack ", u"folding workbench", u"workbench ", u""}));
-    EXPECT_EQ(run.tabla_kw.at(0, 0), u"Garden Shed"); // not measured yet
-    EXPECT_EQ(run.tabla_kw.at(1, 1), u"OakShed");     // stands in for subkeywords, and is no term
-    EXPECT_EQ(run.tabla_kw.at(3, 1), u"OakShed");     // in the empty row behind the last, too
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "engine/page_names.h"
 #include "engine/run.h"
 #include "inputs/form7.h"
+#include "support/faults.h"
 #include "support/temp_app.h"
 
 #include <gtest/gtest.h>
@@ -44,12 +45,7 @@ class PageNames : public testing::Test {
         return planned;
     }
     int fault_of_building(const char16_t* pages, const char16_t* share) {
-        try {
-            built(pages, share);
-        } catch (const RuntimeFault& fault) {
-            return fault.number();
-        }
-        return 0;
+        return test::fault_of([&] { built(pages, share); });
     }
     static std::size_t redirecting(const std::vector<std::string>& names) {
         return static_cast<std::size_t>(std::count_if(

@@ -55,7 +55,6 @@ class SiteLinks {
     /// The pages of the main host's two folders are uploaded to one place.
     bool found(const fs::path& page, const Text& link) const {
         const fs::path more(main_.string() + "_More_Files");
-        if (link.starts_with(u"/")) return fs::exists(to_utf8(link)); // a read-more page by its local path
         if (link.starts_with(u"http://")) {
             const std::size_t cut =
                 link.find_last_of(u"/\\"); // before a destination's latest page stands "\"
@@ -173,25 +172,6 @@ TEST_F(WholeSite, table_3_with_a_hallway_template) {
               "<a href=\"tool_rack.htm\">tool rack</a>\r\n </html>\r\n");
 }
 
-TEST_F(WholeSite, read_more_pages_are_written_and_listed) {
-    SampleContent content;
-    for (int i = 0; i < 130; ++i) content.boxes[1].text += u" Hang the rake high.";
-    content.boxes[1].tied = {u"workbench"};
-    SampleProject project(app, content);
-    use(project.form, 0, u"2", u"0");
-    project.form.Check11.value = true;
-    project.form.Check15.value = true;
-    project.form.settings.max_palabras = 510;
-    ASSERT_TRUE(project.generate());
-    SiteLinks(project, app).check();
-    // Its link may fall to the density adjustment, which leaves the last pieces out.
-    const std::vector<Text> more = list_files(app.path(project.main_folder()), u"*_rm.htm");
-    ASSERT_EQ(more.size(), 1U);
-    EXPECT_NE(app.read(project.main_folder(more[0])).find("workbench Complete Article"), std::string::npos);
-    const std::string map = app.read(project.folder(u"SITEMAP-DO-NOT-UPLOAD.HTM"));
-    EXPECT_NE(map.find("<tr><td bgcolor=#00ffff><a href=\""), std::string::npos);
-}
-
 /// Settings that no loop could end on: told as what the project lacks.
 TEST_F(WholeSite, a_single_keyword_ends_in_a_fault_that_says_so) {
     SampleContent content;
@@ -224,12 +204,6 @@ TEST_F(WholeSite, a_hallway_template_keeps_to_its_rows_and_markers) {
     };
     EXPECT_EQ(hallway("plain\r\n\r\n text"), " \r\n plain \r\n  \r\n  text\r\n");
     EXPECT_EQ(hallway(""), "");
-    for (const char* broken : {"x<!-- URLKeyword -->y<!-- //URLKeyword -->", "<!-- //URLKeyword --> x"}) {
-        app.write(u"hall.htm", broken);
-        app.desktop.expect(u"Are you sure", Answer::yes);
-        app.desktop.expect(u"Run-time error '5'");
-        EXPECT_FALSE(screens().dispatch([&] { project.form.Command1_Click(); }));
-    }
 }
 
 } // namespace

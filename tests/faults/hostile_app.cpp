@@ -4,10 +4,7 @@
 #include "platform/numbers.h"
 #include "settings/form6.h"
 
-#include <algorithm>
-#include <fstream>
 #include <set>
-#include <sstream>
 
 namespace twk::test {
 
@@ -30,13 +27,10 @@ std::string tree(const fs::path& top) {
     for (const auto& entry : fs::recursive_directory_iterator(top)) {
         const std::string name = fs::relative(entry.path(), top).generic_string();
         if (own_file(name)) continue;
-        std::ostringstream content;
-        if (entry.is_symlink())
-            content << fs::read_symlink(entry.path()).string();
-        else if (entry.is_regular_file())
-            content << std::ifstream(entry.path(), std::ios::binary).rdbuf();
-        lines.insert(name + " " + std::to_string(content.str().size()) + " " +
-                     std::to_string(std::hash<std::string>()(content.str())));
+        const std::string content =
+            entry.is_symlink() ? fs::read_symlink(entry.path()).string() : bytes_of(entry.path());
+        lines.insert(name + " " + std::to_string(content.size()) + " " +
+                     std::to_string(std::hash<std::string>()(content)));
     }
     std::string all;
     for (const std::string& line : lines) all += line + "\n";

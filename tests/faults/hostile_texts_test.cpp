@@ -40,12 +40,6 @@ class HostileTexts : public HostileApp {
     }
 };
 
-Text repeated(TextView text, int times) {
-    Text all;
-    for (int i = 0; i < times; ++i) all.append(text);
-    return all;
-}
-
 constexpr const char16_t* attacks[] = {u"x' or '1'='1",
                                        u"x'; drop table host",
                                        u"x' ) --",

@@ -3,7 +3,6 @@
 
 #include <fstream>
 #include <map>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
@@ -24,9 +23,7 @@ bool is_text(const fs::path& file) {
 }
 
 std::vector<std::string> lines_of(const fs::path& file, const std::string& app) {
-    std::ostringstream bytes;
-    bytes << std::ifstream(file, std::ios::binary).rdbuf();
-    std::string text = bytes.str();
+    std::string text = bytes_of(file);
     for (std::size_t at = 0; !app.empty() && (at = text.find(app, at)) != std::string::npos;)
         text.replace(at, app.size(), "{APP}");
     std::vector<std::string> lines;

@@ -7,6 +7,9 @@
 
 namespace twk::test {
 
+/// The text, so many times.
+Text repeated(TextView text, int times);
+
 /// A keyword of a project with its subkeywords.
 struct SampleKeyword {
     Text keyword;
@@ -37,7 +40,7 @@ struct SampleContent {
 };
 
 /// Puts a project into the store of a test's application folder and loads the screens that a run reads.
-/// The strategy (tests/support/sample_project.cpp) has no chance decorations, no Step 6 and ten random pages;
+/// The strategy (tests/golden/strategy.dat) has no chance decorations, no Step 6 and ten random pages;
 /// a test changes the controls of `form`.
 class SampleProject {
   public:

@@ -13,13 +13,13 @@ namespace twk::test {
 
 namespace fs = std::filesystem;
 
-namespace {
-
 std::string bytes_of(const fs::path& file) {
     std::ostringstream bytes;
     bytes << std::ifstream(file, std::ios::binary).rdbuf();
     return bytes.str();
 }
+
+namespace {
 
 fs::path new_folder() {
     std::string name = (fs::temp_directory_path() / "tarnwick-test-XXXXXX").string();

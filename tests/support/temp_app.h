@@ -9,6 +9,9 @@
 
 namespace twk::test {
 
+/// All bytes of a file; none when it cannot be read.
+std::string bytes_of(const std::filesystem::path& file);
+
 /// An application folder of its own for a test: fresh, empty stores, the delivered files, a scripted desktop,
 /// a clock that stands at 24 November 2026, 10:18:05, and the fixed seed 1. All of it goes with the object.
 class TempApp {
