@@ -75,7 +75,8 @@ TEST_F(HostileNames, StepOneMakesNoFolderElsewhere) {
 TEST_F(HostileNames, DeletingAProjectErasesNothingElsewhere) {
     take_pages_away();
     int number = 0;
-    for (const Text& name : {Text(u".."), Text(u"."), Text(u"../outside"), Text(u"link"), Text(u"a/b")}) {
+    for (const Text& name : {Text(u".."), Text(u"."), Text(u""), Text(u"../outside"), Text(u"..\\.."),
+                             Text(u"link"), Text(u"precious/main")}) {
         app.run_unfenced("update Projects set name = '" + to_utf8(name) + "' where pid = 1");
         screens().dispatch([] { screens().unload<Form1>(); });
         screens().dispatch([] { screens().show<Form1>(); });

@@ -68,15 +68,6 @@ TEST(SynonymDictionary, AddsModifiesAndDeletesWords) {
     EXPECT_FALSE(screens().is_loaded<Form10>());
 }
 
-TEST(SynonymDictionary, AnApostropheBreaksTheStatement) {
-    Dictionary words;
-    screen<Form10>().Text2.text = u"it's";
-    words.app.desktop.expect(u"Run-time error '3075'");
-    words.click("Command2");
-    EXPECT_EQ(words.count(u"1 = 1"), 0);
-    EXPECT_TRUE(screens().is_loaded<Form10>());
-}
-
 TEST(KeywordSynonyms, AddARowEachTimeAndDeleteOnlyTheVeryText) {
     Dictionary words;
     words.run(u"insert into synonyms ( keyword ) values ( 'green tea' )");

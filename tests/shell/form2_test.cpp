@@ -188,14 +188,6 @@ TEST(StepOneNext, ANameThatNoFolderBearsIsSavedAndThenFaults) {
     EXPECT_TRUE(step.app.exists(u"Projects/tea"));
 }
 
-TEST(StepOneNext, AnApostropheBreaksTheStatement) {
-    StepOne step;
-    step.form().txt_dat[0].text = u"Bob's tea";
-    step.app.desktop.expect(u"Run-time error '3075'");
-    step.next();
-    EXPECT_EQ(step.app.count(u"select * from Projects"), 0);
-}
-
 TEST(StepOne, LoadsWithWhatTheLastProjectLeftAndExitsUnsaved) {
     TempApp app;
     module1().url_sitio = u"http://last.com";
