@@ -2,7 +2,7 @@
 #include "desktop/qt_text.h"
 #include "inputs/form5.h"
 #include "page_server.h"
-#include "platform/faults.h"
+#include "support/faults.h"
 #include "tools/form11.h"
 #include "tools/form20.h"
 #include "user.h"
@@ -20,13 +20,13 @@ using test::User;
 class Browser : public test::WindowTest {
   protected:
     Browser() {
-        server.pages["/one"] =
-            "<html><head><title>One</title><script>nonsense(</script></head><body><h1>First "
-            "page</h1><script>document.title='x'; missing.call();</script>"
-            "<p>caf\xc3\xa9</p><a name=here>anchor</a><a href='two'>next</a>"
-            "<a href='http://elsewhere.example/x?y=1'>away</a></body></html>";
-        server.pages["/two"] =
-            "<html><body>Second page<script>alert('stop'); window.open('one');</script></body></html>";
+        server.page("/one", "<html><head><title>One</title><script>nonsense(</script></head><body><h1>First "
+                            "page</h1><script>document.title='x'; missing.call();</script>"
+                            "<p>caf\xc3\xa9</p><a name=here>anchor</a><a href='two'>next</a>"
+                            "<a href='http://elsewhere.example/x?y=1'>away</a></body></html>");
+        server.page(
+            "/two",
+            "<html><body>Second page<script>alert('stop'); window.open('one');</script></body></html>");
     }
 
     /// Waits until the browser has come to rest at an address.
@@ -87,7 +87,7 @@ TEST_F(Browser, TakesPageTextsAtOnceAndNeverFollowsTheirScripts) {
 }
 
 TEST_F(Browser, MayBeClosedWhileItLoads) {
-    server.held_back = "/slow";
+    server.hold_back("/slow");
     screens().dispatch([&] {
         screen<Form5>().Text2.text = from_qt(server.address(QStringLiteral("/slow")));
         screens().show<Form11>();
@@ -100,7 +100,6 @@ TEST_F(Browser, MayBeClosedWhileItLoads) {
 
 TEST_F(Browser, TransfersFetchPagesWhileOtherEventsRun) {
     Inet inet;
-    server.pages["/latin"] = "<p>caf\xe9</p>";
     bool ran = false;
     QTimer::singleShot(0, &qt.window(), [&] { ran = true; });
     const auto fetch = [&](const char* path) {
@@ -108,25 +107,20 @@ TEST_F(Browser, TransfersFetchPagesWhileOtherEventsRun) {
     };
     EXPECT_TRUE(contains(fetch("/one"), u"café"));
     EXPECT_TRUE(ran);
-    server.content_type = "text/html; charset=ISO-8859-1";
-    EXPECT_EQ(fetch("/latin"), u"<p>café</p>");
-    server.content_type = "text/html";
-    EXPECT_EQ(fetch("/latin"), u"<p>café</p>");
-    server.pages["/large"] = QByteArray(9 * 1024 * 1024, 'x');
+    for (const char* type : {"text/html; charset=ISO-8859-1", "text/html"}) {
+        server.page("/latin", "<p>caf\xe9</p>", type);
+        EXPECT_EQ(fetch("/latin"), u"<p>café</p>") << type;
+    }
+    server.page("/large", QByteArray(9 * 1024 * 1024, 'x'));
     const Text large = fetch("/large");
     EXPECT_GT(large.size(), 1024u * 1024u);
     EXPECT_LT(large.size(), 6u * 1024u * 1024u);
 
     const auto fault_of = [&](const Text& address) {
-        try {
-            qt.fetch(inet, address);
-        } catch (const RuntimeFault& fault) {
-            return fault.number();
-        }
-        return 0;
+        return test::fault_of([&] { qt.fetch(inet, address); });
     };
     inet.request_timeout = 1;
-    server.held_back = "/slow";
+    server.hold_back("/slow");
     EXPECT_EQ(fault_of(from_qt(server.address(QStringLiteral("/slow")))), fault_timed_out);
     EXPECT_FALSE(inet.still_executing);
     for (const char16_t* refused :

@@ -1,30 +1,10 @@
 // Shows every screen of the program on the sample project and keeps its picture:
 //   grab_screens APPLICATION-FOLDER PICTURE-FOLDER WIDTH HEIGHT [dark]
-#include "assist/disclaimer.h"
-#include "assist/form4.h"
-#include "assist/form9.h"
-#include "assist/frm_tip.h"
-#include "assist/frm_version.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/qt_text.h"
-#include "engine/form17.h"
-#include "inputs/form10.h"
-#include "inputs/form3.h"
-#include "inputs/form5.h"
-#include "inputs/form7.h"
-#include "inputs/form8.h"
+#include "every_screen.h"
 #include "platform/files.h"
-#include "reports/form12.h"
-#include "settings/form6.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
 #include "shell/mdi1.h"
-#include "tools/form11.h"
-#include "tools/form16.h"
-#include "tools/form19.h"
-#include "tools/form20.h"
-#include "tools/form21.h"
-#include "tools/form23.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -36,22 +16,6 @@
 namespace {
 
 using namespace twk;
-
-QPalette dark_palette() {
-    QPalette dark(QColor(0x35, 0x35, 0x35));
-    dark.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
-    dark.setColor(QPalette::AlternateBase, QColor(0x2d, 0x2d, 0x2d));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::BrightText})
-        dark.setColor(role, Qt::white);
-    dark.setColor(QPalette::ToolTipBase, QColor(0x23, 0x23, 0x23));
-    dark.setColor(QPalette::ToolTipText, Qt::white);
-    dark.setColor(QPalette::PlaceholderText, Qt::gray);
-    dark.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
-    dark.setColor(QPalette::HighlightedText, Qt::white);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        dark.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
-    return dark;
-}
 
 constexpr int browser_time = 3000;
 
@@ -195,7 +159,7 @@ int main(int argc, char** argv) {
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
     const bool dark = argc > 5;
-    if (dark) QApplication::setPalette(dark_palette());
+    if (dark) QApplication::setPalette(QPalette(QColor(0x35, 0x35, 0x35)));
     set_app_path(from_qt(QString::fromLocal8Bit(argv[1])));
     QtDesktop qt;
     set_desktop(&qt);

@@ -8,8 +8,8 @@
 
 namespace twk::test {
 
-/// Serves a few pages on the loopback interface. A path that it does not know is 404; one that it holds back
-/// is never answered.
+/// Serves pages on the loopback interface, those that misbehave among them. A path that it does not know is
+/// 404.
 class PageServer : public QTcpServer {
   public:
     PageServer() {
@@ -21,25 +21,39 @@ class PageServer : public QTcpServer {
         });
     }
 
-    QHash<QByteArray, QByteArray> pages; ///< path to body
-    QByteArray held_back;
-    QByteArray content_type = "text/html; charset=utf-8";
+    /// A page, sent as these bytes; it tells that so many more would follow.
+    void page(const QByteArray& path, const QByteArray& body,
+              const QByteArray& type = "text/html; charset=utf-8", int missing = 0) {
+        answers_[path] = "HTTP/1.1 200 OK\r\nContent-Type: " + type +
+                         "\r\nContent-Length: " + QByteArray::number(body.size() + missing) +
+                         "\r\nConnection: close\r\n\r\n" + body;
+    }
+    void redirect(const QByteArray& path, const QString& to) {
+        answers_[path] =
+            "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nConnection: close\r\nLocation: " + to.toLatin1() +
+            "\r\n\r\n";
+    }
+    /// Takes requests for the path and never answers.
+    void hold_back(const QByteArray& path) { answers_[path].clear(); }
 
     QString address(const QString& path) const {
         return QStringLiteral("http://127.0.0.1:%1%2").arg(serverPort()).arg(path);
     }
 
+    QByteArrayList requests; ///< paths asked for, in order
+
   private:
     void answer(QTcpSocket& socket) {
         const QByteArray path = socket.readAll().split(' ').value(1);
-        if (path == held_back) return;
-        const bool known = pages.contains(path);
-        const QByteArray body = pages.value(path);
-        socket.write(QByteArray(known ? "HTTP/1.1 200 OK" : "HTTP/1.1 404 Not Found") + "\r\nContent-Type: " +
-                     content_type + "\r\nContent-Length: " + QByteArray::number(body.size()) +
-                     "\r\nConnection: close\r\n\r\n" + body);
+        requests << path;
+        const QByteArray bytes =
+            answers_.value(path, "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
+        if (bytes.isEmpty()) return;
+        socket.write(bytes);
         socket.disconnectFromHost();
     }
+
+    QHash<QByteArray, QByteArray> answers_; ///< path to all that is sent
 };
 
 } // namespace twk::test

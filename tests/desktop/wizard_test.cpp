@@ -110,10 +110,29 @@ TEST_F(Wizard, TakesANewProjectToTheFinishedRunByClicksAndKeysAlone) {
               user.find<QProgressBar>("Form12", "ProgressBar1")->maximum());
     ASSERT_EQ(opened.urls.size(), 1);
     EXPECT_EQ(opened.urls[0].fileName().toLower(), QStringLiteral("sitemap-do-not-upload.htm"));
-    bool renamed = false;
-    for (const Text& folder : list_folders(app.path(u"Projects/teahouse")))
-        renamed = renamed || file_exists(app.path(u"Projects/teahouse/" + folder + u"/renamed-by-hand.htm"));
-    EXPECT_TRUE(renamed);
+    for (const auto& [table, rows] : std::initializer_list<std::pair<const char16_t*, int>>{{u"Projects", 1},
+                                                                                            {u"keywords", 3},
+                                                                                            {u"elements", 2},
+                                                                                            {u"content", 3},
+                                                                                            {u"ties", 1},
+                                                                                            {u"host", 1},
+                                                                                            {u"host1", 1},
+                                                                                            {u"target", 1}})
+        EXPECT_EQ(app.count(u"select * from " + Text(table)), rows) << to_utf8(table);
+    const std::vector<Text> folders = list_folders(app.path(u"Projects/teahouse"));
+    EXPECT_EQ(folders, (std::vector<Text>{u"teas.example", u"www.teahouse.example-pages",
+                                          u"www.teahouse.example-pages_More_Files"}));
+    std::size_t renamed = 0, total = 0;
+    for (const Text& folder : folders)
+        for (const Text& page : list_files(app.path(u"Projects/teahouse/" + folder), u"*.htm")) {
+            ++total;
+            renamed += page == u"renamed-by-hand.htm" ? 1 : 0;
+            EXPECT_TRUE(contains(
+                LCase(read_text_file(app.path(u"Projects/teahouse/" + folder + u"/" + page))), u"</html>"))
+                << to_utf8(page);
+        }
+    EXPECT_EQ(renamed, 1U);
+    EXPECT_GE(total, 3U + 3U + 6U + 1U) << "first and second level, random, hallway";
 
     user.choose("Form12", "List1", 2);
     const QString report = user.find<QPlainTextEdit>("Form12", "RichTextBox1")->toPlainText();
