@@ -2,7 +2,6 @@
 
 #include "desktop/control_links.h"
 
-#include <QMetaObject>
 #include <QPushButton>
 #include <QTimer>
 #include <QWidget>
@@ -14,6 +13,7 @@ std::function<void()> ScreenBinding::after_event;
 
 namespace {
 
+/// Dialogs, timers and transfers have no place in a window.
 template <class C>
 constexpr bool is_windowless =
     std::is_same_v<C, Inet> || std::is_same_v<C, CommonDialog> || std::is_same_v<C, Timer>;
@@ -22,16 +22,15 @@ std::string event_key(const std::string& object, const std::string& event) {
     return object + "." + event;
 }
 
-} // namespace
-
-bool has_no_widget(const Screen& screen, const ScreenMap::Control& control) {
+/// Whether a list is one that the screen keeps for its own use, without a place in its window.
+bool is_own_list(const Screen& screen, const ScreenMap::Control& control) {
     static const std::set<std::string> own_lists = {
-        "Form1.Dir1", "Form1.File1", "Form5.RTAux",          "Form6.File1",
-        "Form6.Dir1", "Form6.List1", "Form23.dir_escondido", "Form23.file_escondido"};
-    const bool windowless = std::visit(
-        [](auto* each) { return is_windowless<std::remove_pointer_t<decltype(each)>>; }, control.ref);
-    return windowless || own_lists.contains(screen.name + "." + control.object_name());
+        "Form1.Dir1",  "Form1.File1",          "Form6.File1",          "Form6.Dir1",
+        "Form6.List1", "Form23.dir_escondido", "Form23.file_escondido"};
+    return own_lists.contains(screen.name + "." + control.object_name());
 }
+
+} // namespace
 
 ScreenBinding::ScreenBinding(Screen& screen, QWidget& form) : screen_(&screen) {
     for (auto* button : form.findChildren<QPushButton*>()) button->setAutoDefault(false);
@@ -62,7 +61,7 @@ void ScreenBinding::bind_controls(QWidget& form) {
                     return true;
                 } else {
                     auto* const widget = form.findChild<QWidget*>(QString::fromStdString(each.object_name()));
-                    if (widget == nullptr) return has_no_widget(*screen_, each);
+                    if (widget == nullptr) return is_own_list(*screen_, each);
                     return link(ControlLink<C>{*this, each, *control, *widget});
                 }
             },

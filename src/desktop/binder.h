@@ -55,8 +55,4 @@ class ScreenBinding : public QObject {
     std::vector<std::string> unbound_;
 };
 
-/// Whether a control has no place in a window: dialogs, timers and transfers, and the lists that a screen
-/// keeps for its own use.
-bool has_no_widget(const Screen& screen, const ScreenMap::Control& control);
-
 } // namespace twk

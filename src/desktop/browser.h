@@ -19,7 +19,6 @@ class BrowserView : public QWidget {
     explicit BrowserView(QWidget* parent = nullptr);
     ~BrowserView() override;
 
-    void set_silent(bool silent) { silent_ = silent; }
     /// Goes to an address or a local file. The first one is the control's home.
     void navigate(const QString& address);
     /// Takes a page's text: its visible text can be had at once, the page is shown when events run.
@@ -53,7 +52,6 @@ class BrowserView : public QWidget {
     QString home_;
     QString html_;      ///< page text taken by show_html; empty behind a navigation
     QTimer html_timer_; ///< shows at most a few of the pages that follow each other quickly
-    bool silent_ = false;
     QUrl asked_;        ///< address asked for whose loading has not ended; empty for none
     QUrl asked_before_; ///< the one that it has broken off
     bool busy_ = false;

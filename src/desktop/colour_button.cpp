@@ -1,5 +1,7 @@
 #include "desktop/colour_button.h"
 
+#include "desktop/qt_colour.h"
+
 #include <QLineEdit>
 #include <QPainter>
 #include <QPixmap>
@@ -11,9 +13,7 @@ namespace {
 QColor colour_of(const QString& text) {
     bool decimal = false;
     const uint value = text.trimmed().toUInt(&decimal);
-    if (!decimal) return QColor(text.trimmed());
-    return QColor(static_cast<int>(value & 0xFF), static_cast<int>(value >> 8 & 0xFF),
-                  static_cast<int>(value >> 16 & 0xFF));
+    return decimal ? to_qt_colour(value) : QColor(text.trimmed());
 }
 
 } // namespace

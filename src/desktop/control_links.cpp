@@ -1,3 +1,4 @@
+#include "desktop/control_links.h"
 
 #include "desktop/binder.h"
 #include "desktop/browser.h"
@@ -229,7 +230,6 @@ bool link(const ControlLink<WebBrowser>& link) {
     auto* const view = qobject_cast<BrowserView*>(&link.widget);
     if (view == nullptr) return false;
     watch_control(link, {}, [](Prop) {});
-    view->set_silent(link.control.silent);
     link.binding.add_browser(link.control, *view);
     QObject::connect(view, &BrowserView::located, &link.binding, [link](const QString& address) {
         if (link.binding.screen() != nullptr) link.control.location_url.from_user(from_qt(address));

@@ -73,9 +73,24 @@ void take_selection(const QListWidget& list, ListBox& box) {
     box.select_from_user(none ? -1 : list.currentRow(), marked);
 }
 
-/// A click tells itself; a selection that the keys have moved counts as one.
-bool moved_by_keys() {
-    return QApplication::mouseButtons() == Qt::NoButton;
+/// Whenever the user has chosen in the list, `take` brings the choice into the control and says whether there
+/// is one, which the screen is told as a click.
+template <class C, class Take> void link_choice(const ControlLink<C>& link, QListWidget& list, Take take) {
+    const auto taken = [link, take](bool told) {
+        if (link.binding.screen() != nullptr && take() && told) link.binding.fire(link.name, "Click");
+    };
+    // A click tells itself; a selection that the keys have moved counts as one.
+    QObject::connect(&list, &QListWidget::itemSelectionChanged, &link.binding,
+                     [taken] { taken(QApplication::mouseButtons() == Qt::NoButton); });
+    QObject::connect(&list, &QListWidget::itemClicked, &link.binding, [taken] { taken(true); });
+    QObject::connect(&list, &QListWidget::itemChanged, &link.binding, [taken] { taken(false); }); // a tick
+    link.binding.offer(link.name, "Click");
+}
+
+template <class C> void link_double_click(const ControlLink<C>& link, QListWidget& list) {
+    QObject::connect(&list, &QListWidget::itemDoubleClicked, &link.binding,
+                     [link] { link.binding.fire(link.name, "DblClick"); });
+    link.binding.offer(link.name, "DblClick");
 }
 
 } // namespace
@@ -92,18 +107,11 @@ bool link(const ControlLink<ListBox>& link) {
         if (changed == Prop::list || changed == Prop::list_index) show_current(*list, box.list_index());
         if (changed == Prop::list || changed == Prop::selection) show_marks(*list, box);
     });
-    const auto taken = [link, list](bool told) {
-        if (link.binding.screen() == nullptr) return;
-        take_selection(*list, link.control);
-        if (told) link.binding.fire(link.name, "Click");
-    };
-    QObject::connect(list, &QListWidget::itemSelectionChanged, &link.binding,
-                     [taken] { taken(moved_by_keys()); });
-    QObject::connect(list, &QListWidget::itemClicked, &link.binding, [taken] { taken(true); });
-    QObject::connect(list, &QListWidget::itemChanged, &link.binding, [taken] { taken(false); });
-    QObject::connect(list, &QListWidget::itemDoubleClicked, &link.binding,
-                     [link] { link.binding.fire(link.name, "DblClick"); });
-    for (const char* event : {"Click", "DblClick"}) link.binding.offer(link.name, event);
+    link_choice(link, *list, [list, &box] {
+        take_selection(*list, box);
+        return true;
+    });
+    link_double_click(link, *list);
     return true;
 }
 
@@ -164,17 +172,11 @@ bool link(const ControlLink<FileListBox>& link) {
         }
         if (changed == Prop::list || changed == Prop::list_index) show_current(*list, box.list_index());
     });
-    const auto taken = [link, list](bool told) {
-        if (link.binding.screen() == nullptr) return;
-        link.control.list_index.from_user(list->selectedItems().isEmpty() ? -1 : list->currentRow());
-        if (told) link.binding.fire(link.name, "Click");
-    };
-    QObject::connect(list, &QListWidget::itemSelectionChanged, &link.binding,
-                     [taken] { taken(moved_by_keys()); });
-    QObject::connect(list, &QListWidget::itemClicked, &link.binding, [taken] { taken(true); });
-    QObject::connect(list, &QListWidget::itemDoubleClicked, &link.binding,
-                     [link] { link.binding.fire(link.name, "DblClick"); });
-    for (const char* event : {"Click", "DblClick"}) link.binding.offer(link.name, event);
+    link_choice(link, *list, [list, &box = link.control] {
+        box.list_index.from_user(list->selectedItems().isEmpty() ? -1 : list->currentRow());
+        return true;
+    });
+    link_double_click(link, *list);
     return true;
 }
 
@@ -226,14 +228,11 @@ bool link(const ControlLink<DirListBox>& link) {
             if (list->currentItem() != nullptr) list->scrollToItem(list->currentItem());
         }
     });
-    const auto taken = [link, list](bool told) {
-        if (link.binding.screen() == nullptr || list->currentRow() < 0) return;
-        link.control.list_index.from_user(entry_of_row(*list, list->currentRow()));
-        if (told) link.binding.fire(link.name, "Click");
-    };
-    QObject::connect(list, &QListWidget::itemSelectionChanged, &link.binding,
-                     [taken] { taken(moved_by_keys()); });
-    QObject::connect(list, &QListWidget::itemClicked, &link.binding, [taken] { taken(true); });
+    link_choice(link, *list, [list, &box = link.control] {
+        if (list->currentRow() < 0) return false;
+        box.list_index.from_user(entry_of_row(*list, list->currentRow()));
+        return true;
+    });
     QObject::connect(
         list, &QListWidget::itemActivated, &link.binding,
         [link, list] {
@@ -247,7 +246,7 @@ bool link(const ControlLink<DirListBox>& link) {
             });
         },
         Qt::QueuedConnection); // the list is filled anew
-    for (const char* event : {"Click", "Change"}) link.binding.offer(link.name, event);
+    link.binding.offer(link.name, "Change");
     return true;
 }
 

@@ -7,13 +7,11 @@
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QTimer>
-#include <algorithm>
 #include <map>
 
 namespace twk {

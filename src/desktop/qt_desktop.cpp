@@ -1,6 +1,7 @@
 #include "desktop/qt_desktop.h"
 
 #include "desktop/browser.h"
+#include "desktop/qt_colour.h"
 #include "desktop/qt_text.h"
 #include "desktop/screen_window.h"
 #include "platform/faults.h"
@@ -35,11 +36,6 @@ QString name_filter(const Text& filter) {
         all << QStringLiteral("%1 (%2)").arg(name, to_qt(parts[i + 1]).replace(u';', u' '));
     }
     return all.join(QStringLiteral(";;"));
-}
-
-QColor to_color(std::uint32_t value) {
-    return QColor(static_cast<int>(value & 0xFF), static_cast<int>(value >> 8 & 0xFF),
-                  static_cast<int>(value >> 16 & 0xFF));
 }
 
 ScreenWindow* window_of(const Screen& screen) {
@@ -98,7 +94,7 @@ std::optional<Text> QtDesktop::ask_save_file(const FileQuestion& question) {
 }
 
 std::optional<std::uint32_t> QtDesktop::ask_color(std::uint32_t start) {
-    const QColor chosen = QColorDialog::getColor(to_color(start), &window_);
+    const QColor chosen = QColorDialog::getColor(to_qt_colour(start), &window_);
     if (!chosen.isValid()) return std::nullopt;
     return static_cast<std::uint32_t>(chosen.red() | chosen.green() << 8 | chosen.blue() << 16);
 }
@@ -185,10 +181,7 @@ BrowserView* QtDesktop::view(const WebBrowser& browser) const {
 }
 
 void QtDesktop::navigate(WebBrowser& browser, const Text& address) {
-    if (BrowserView* const shown = view(browser)) {
-        shown->set_silent(browser.silent);
-        shown->navigate(to_qt(address));
-    }
+    if (BrowserView* const shown = view(browser)) shown->navigate(to_qt(address));
 }
 
 void QtDesktop::show_html(WebBrowser& browser, const Text& html) {

@@ -4,7 +4,6 @@
 #include "desktop/transfer.h"
 #include "platform/desktop.h"
 
-#include <memory>
 #include <vector>
 
 namespace twk {
