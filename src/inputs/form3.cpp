@@ -41,10 +41,9 @@ void Form3::Form_Load() {
     silencio = 0;
     marcar_forma(screen_number, true);
     abrir();
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from Projects where name = '" +
-                                                   screen<Form2>().txt_name[0].text() + u"'");
-         !row.eof(); row.MoveNext())
-        pid_form = CInt(row.Fields(u"pid").number());
+    take_last_key(base_datos_.OpenRecordset(u"select * from Projects where name = '" +
+                                            screen<Form2>().txt_name[0].text() + u"'"),
+                  u"pid", pid_form);
     llenar_proyectos();
     Dir2.set_path(app_path());
     File2.set_path(app_path());
@@ -80,8 +79,7 @@ Recordset Form3::filas_keyword(const Text& palabra) {
 
 std::int16_t Form3::buscar_keyid(const Text& palabra) {
     std::int16_t key = 0;
-    for (Recordset row = filas_keyword(palabra); !row.eof(); row.MoveNext())
-        key = CInt(row.Fields(u"keyid").number());
+    take_last_key(filas_keyword(palabra), u"keyid", key);
     return key;
 }
 
@@ -111,11 +109,10 @@ void Form3::List1_Click() {
     try {
         const Text palabra = List1.text();
         if (palabra.empty() || List1.list_index() < 0) return;
-        for (Recordset row = base_datos_.OpenRecordset(u"select keywords.keyid as X2 , keywords.pid as X3 "
-                                                       u" from keywords where keyword = '" +
-                                                       palabra + u"' and pid = " + to_text(pid_form));
-             !row.eof(); row.MoveNext())
-            keyid = CInt(row.Fields(u"X2").number());
+        take_last_key(base_datos_.OpenRecordset(u"select keywords.keyid as X2 , keywords.pid as X3 "
+                                                u" from keywords where keyword = '" +
+                                                palabra + u"' and pid = " + to_text(pid_form)),
+                      u"X2", keyid);
         Text1.text = palabra;
         List2.clear();
         for (Recordset row =

@@ -99,11 +99,10 @@ void Form3::exportar() {
 void Form3::exportar_keyword(TextStream& out, int number, const Text& palabra) {
     out.writeline(u" " + to_text(number) + u".= " + palabra);
     std::int16_t key = 0;
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from keywords where pid = " +
-                                                   to_text(module1().pid_actual) + u" and keyword = '" +
-                                                   Trim(palabra) + u"'");
-         !row.eof(); row.MoveNext())
-        key = CInt(row.Fields(u"keyid").number());
+    take_last_key(base_datos_.OpenRecordset(u"select * from keywords where pid = " +
+                                            to_text(module1().pid_actual) + u" and keyword = '" +
+                                            Trim(palabra) + u"'"),
+                  u"keyid", key);
     int subnumber = 0;
     for (Recordset row = base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(key) +
                                                    u" order by element ");
@@ -221,8 +220,7 @@ void Form3::importar_linea(const Text& line, std::int16_t& current) {
         if (!base_datos_.OpenRecordset(select).eof()) return;
         base_datos_.Execute(u"insert into keywords ( pid , keyword ) values ( " + to_text(pid_form) +
                             u" , '" + value + u"' ) ");
-        for (Recordset row = base_datos_.OpenRecordset(select); !row.eof(); row.MoveNext())
-            current = CInt(row.Fields(u"keyid").number());
+        take_last_key(base_datos_.OpenRecordset(select), u"keyid", current);
         List1.add_item(value);
         return;
     }

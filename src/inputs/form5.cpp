@@ -62,10 +62,8 @@ void Form5::Form_Load() {
     tabla_kw.resize(screen<Form3>().List1.list_count() + 1);
     RTAux.clear();
     base_datos_ = open_hive();
-    for (Recordset row =
-             base_datos_.OpenRecordset(u"select * from Projects where name = '" + project_name() + u"'");
-         !row.eof(); row.MoveNext())
-        pid_form = CInt(row.Fields(u"pid").number());
+    take_last_key(base_datos_.OpenRecordset(u"select * from Projects where name = '" + project_name() + u"'"),
+                  u"pid", pid_form);
     const std::int16_t open_project = module1().pid_actual;
     if (open_project != 0) {
         pid_form = open_project;

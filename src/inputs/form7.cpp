@@ -50,10 +50,9 @@ void Form7::enumerate(ScreenMap& map) {
 void Form7::Form_Load() {
     marcar_forma(screen_number, true);
     base_datos = open_hive();
-    for (Recordset row = base_datos.OpenRecordset(u"select Projects.pid as X1 from Projects where name = '" +
-                                                  screen<Form2>().txt_name[0].text() + u"' ");
-         !row.eof(); row.MoveNext())
-        pid_form = CInt(row.Fields(u"x1").number());
+    take_last_key(base_datos.OpenRecordset(u"select Projects.pid as X1 from Projects where name = '" +
+                                           screen<Form2>().txt_name[0].text() + u"' "),
+                  u"x1", pid_form);
     Text2.text = placeholder();
     for (Recordset row = base_datos.OpenRecordset(u"select * from host1 where pid = " + to_text(pid_form));
          !row.eof(); row.MoveNext())
@@ -133,7 +132,6 @@ void Form7::Command2_Click() {
         MsgBox(u"You can't define the same URL in Main Host and other Domain/Directory");
     }
     if (estado != 1) return;
-    base_datos = open_hive();
     base_datos.Execute(u"insert into host ( pid , host ) values ( " + to_text(pid_form) + u" , '" +
                        Text1.text() + u"' ) ");
     List1.add_item(Text1.text());

@@ -2,7 +2,6 @@
 
 #include "engine/text_toolkit.h"
 #include "inputs/form3.h"
-#include "platform/desktop.h"
 #include "platform/numbers.h"
 #include "shell/form2.h"
 #include "shell/module1.h"

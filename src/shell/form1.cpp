@@ -20,10 +20,6 @@ namespace {
 
 constexpr int screen_number = 1;
 
-Text projects_folder() {
-    return beside_program(u"Projects");
-}
-
 void close_by_name(const std::string& name) {
     if (Screen* const loaded = screens().find(name)) screens().unload(*loaded);
 }
@@ -165,7 +161,7 @@ void Form1::Command4_Click() {
 /// Files of the first-level folders, those folders, files of the folder, the folder. Fault 75 before a file
 /// is touched for a name or a link that leads elsewhere, and at a folder that holds another one.
 void Form1::borrar_carpeta(const Text& nombre) {
-    const Fence cerca(projects_folder(), nombre);
+    const Fence cerca(beside_program(u"Projects"), nombre);
     if (!dir_exists(cerca.folder())) {
         MsgBox(u"The folder corresponding to this project no longer exist or it has been renamed.");
         return;
@@ -248,9 +244,8 @@ void Form1::copiar_fila(const Text& nombre) {
         u"insert into Projects ( name , site_name , site_url , title , category , description , "
         u"designer_name , designer_url )  values ( '" +
         limpio + u"' , " + valores);
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from projects where name = '" + limpio + u"'");
-         !row.eof(); row.MoveNext())
-        pid_copia_ = CInt(row.Fields(u"pid").number());
+    take_last_key(base_datos_.OpenRecordset(u"select * from projects where name = '" + limpio + u"'"), u"pid",
+                  pid_copia_);
 }
 
 void Form1::copiar_keywords() {
@@ -260,11 +255,9 @@ void Form1::copiar_keywords() {
         const Text keyword = row.Fields(u"keyword").text();
         base_datos_.Execute(u"insert into keywords (pid, keyword) values ( " + to_text(pid_copia_) + u" , '" +
                             keyword + u"')");
-        for (Recordset nueva =
-                 base_datos_.OpenRecordset(u"select keyid from keywords where pid = " + to_text(pid_copia_) +
-                                           u" and keyword = '" + keyword + u"'");
-             !nueva.eof(); nueva.MoveNext())
-            keyid = CInt(nueva.Fields(u"keyid").number());
+        take_last_key(base_datos_.OpenRecordset(u"select keyid from keywords where pid = " +
+                                                to_text(pid_copia_) + u" and keyword = '" + keyword + u"'"),
+                      u"keyid", keyid);
         for (Recordset sub = base_datos_.OpenRecordset(u"select * from elements where catid = " +
                                                        to_text(CInt(row.Fields(u"keyid").number())));
              !sub.eof(); sub.MoveNext())

@@ -40,6 +40,11 @@ bool ends_in_slash(TextView url) {
     return trimmed.ends_with(u'/') || trimmed.ends_with(u'\\');
 }
 
+/// Text of a box as it goes into a statement.
+Text clean(const TextBox& box) {
+    return preparar_texto(Text(box.text()));
+}
+
 } // namespace
 
 void Form2::enumerate(ScreenMap& map) {
@@ -209,14 +214,10 @@ bool Form2::direcciones_sin_barra() const {
 /// Inserts the project, in the place of one of the same name when the user agrees. False when he does not.
 bool Form2::proyecto_nuevo() {
     const Text project = txt_name[0].text();
-    bool taken = false;
-    for (Recordset row =
-             base_datos_.OpenRecordset(u"SELECT * From Projects where name = '" + project + u"' ");
-         !row.eof(); row.MoveNext()) {
-        taken = true;
-        pid_igual_ = CInt(row.Fields(u"pid").number());
-    }
-    if (taken) {
+    const Recordset same_name =
+        base_datos_.OpenRecordset(u"SELECT * From Projects where name = '" + project + u"' ");
+    if (!same_name.eof()) {
+        take_last_key(same_name, u"pid", pid_igual_);
         if (MsgBox(u"There's another project named " + project +
                        u"! \nDo you want to replace it?\nAll data related to the old project (keywords, "
                        u"contents, settings) will be lost.",
@@ -240,7 +241,6 @@ void Form2::reemplazar(std::int16_t pid) {
 }
 
 void Form2::insertar_proyecto() {
-    const auto clean = [](const TextBox& box) { return preparar_texto(Text(box.text())); };
     const Text project = clean(txt_name[0]);
     base_datos_.Execute(
         u"insert into Projects ( name , site_name , site_url , title , category , description , "
@@ -248,15 +248,12 @@ void Form2::insertar_proyecto() {
         project + u"' , '" + clean(Text2[0]) + u"' , '" + preparar_texto(module1().url_sitio) + u"'  , '" +
         clean(txt_dat[0]) + u"' , '" + clean(txt_dat[1]) + u"' ,  '" + clean(txt_dat[2]) + u"' , '" +
         clean(Text7) + u"' , '" + preparar_texto(module1().url_webmaster) + u"' ) ");
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from projects where name = '" + project + u"'");
-         !row.eof(); row.MoveNext())
-        module1().pid_actual = CInt(row.Fields(u"pid").number());
+    take_last_key(base_datos_.OpenRecordset(u"select * from projects where name = '" + project + u"'"),
+                  u"pid", module1().pid_actual);
 }
 
 /// Writes the whole row. A rename onto the name of another project is not looked for.
 void Form2::modificar_proyecto() {
-    const auto clean = [](const TextBox& box) { return preparar_texto(Text(box.text())); };
-    base_datos_ = open_hive();
     base_datos_.Execute(u"update Projects set name = '" + clean(txt_name[0]) + u"' ,  site_name = '" +
                         clean(Text2[0]) + u"' ,  site_url = '" + preparar_texto(module1().url_sitio) +
                         u"' ,  title = '" + clean(txt_dat[0]) + u"' ,  category = '" + clean(txt_dat[1]) +

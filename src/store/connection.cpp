@@ -7,14 +7,26 @@
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
+#include <optional>
 #include <regex>
 #include <set>
 
 namespace twk {
 
+/// "delete A.* , B.* from A , B where ...", in its parts.
+struct JoinDelete {
+    std::string a, b;
+    std::string condition;
+};
+
 namespace {
 
 constexpr int busy_milliseconds = 5000;
+
+std::string lower_case(std::string name) {
+    std::transform(name.begin(), name.end(), name.begin(), [](unsigned char c) { return std::tolower(c); });
+    return name;
+}
 
 /// Lets through what the screens do: reading and changing rows of the nine tables.
 int authorize(void*, int action, const char* first, const char* second, const char*, const char*) {
@@ -28,9 +40,7 @@ int authorize(void*, int action, const char* first, const char* second, const ch
     case SQLITE_INSERT:
     case SQLITE_UPDATE:
     case SQLITE_DELETE: {
-        std::string table = first != nullptr ? first : "";
-        std::transform(table.begin(), table.end(), table.begin(),
-                       [](unsigned char c) { return std::tolower(c); });
+        const std::string table = lower_case(first != nullptr ? first : "");
         return table.empty() || tables.contains(table) ? SQLITE_OK : SQLITE_DENY;
     }
     case SQLITE_PRAGMA: // no statement of a screen begins so
@@ -49,6 +59,17 @@ Field::Value column_value(sqlite3_stmt* statement, int column) {
                     static_cast<std::size_t>(sqlite3_column_bytes16(statement, column)) / sizeof(char16_t));
     }
     }
+}
+
+/// The parts of a statement that has that form.
+std::optional<JoinDelete> parse_join_delete(const std::string& statement) {
+    static const std::regex form(
+        R"(\s*delete\s+(\w+)\.\*\s*,\s*(\w+)\.\*\s+from\s+(\w+)\s*,\s*(\w+)\s+where\s+)", std::regex::icase);
+    // The pattern is looked for at the beginning only: the condition may be of any length.
+    std::smatch parts;
+    if (!std::regex_search(statement, parts, form, std::regex_constants::match_continuous)) return {};
+    if (parts[1] != parts[3] || parts[2] != parts[4]) return {};
+    return JoinDelete{parts[1], parts[2], parts.suffix()};
 }
 
 } // namespace
@@ -142,12 +163,8 @@ Connection::Rows Connection::select(const Text& text) {
     const Statement statement = prepare(text);
     Rows result;
     const int columns = sqlite3_column_count(statement.get());
-    for (int i = 0; i < columns; ++i) {
-        std::string name = sqlite3_column_name(statement.get(), i);
-        std::transform(name.begin(), name.end(), name.begin(),
-                       [](unsigned char c) { return std::tolower(c); });
-        result.columns.push_back(std::move(name));
-    }
+    for (int i = 0; i < columns; ++i)
+        result.columns.push_back(lower_case(sqlite3_column_name(statement.get(), i)));
     while (step(statement.get()) == SQLITE_ROW) {
         std::vector<Field::Value>& row = result.rows.emplace_back();
         row.reserve(static_cast<std::size_t>(columns));
@@ -158,34 +175,20 @@ Connection::Rows Connection::select(const Text& text) {
 
 void Connection::change(const Text& text) {
     fence_statement(text, {u"insert", u"update", u"delete"});
-    if (!parse_join_delete(to_utf8(text)).tables.empty()) return delete_joined(text);
+    if (const auto parts = parse_join_delete(to_utf8(text))) return delete_joined(*parts);
     const Statement statement = prepare(text);
     if (sqlite3_column_count(statement.get()) != 0) malformed_statement(text, u"it gives rows");
     step(statement.get());
 }
 
-JoinDelete parse_join_delete(const std::string& statement) {
-    static const std::regex form(
-        R"(\s*delete\s+(\w+)\.\*\s*,\s*(\w+)\.\*\s+from\s+(\w+)\s*,\s*(\w+)\s+where\s+)", std::regex::icase);
-    // The pattern is looked for at the beginning only: the condition may be of any length.
-    std::smatch parts;
-    if (!std::regex_search(statement, parts, form, std::regex_constants::match_continuous)) return {};
-    if (parts[1] != parts[3] || parts[2] != parts[4]) return {};
-    return {{parts[1], parts[2]}, parts.suffix()};
-}
-
 /// Deletes the rows of both tables that the join matches, and no others, in one go.
-void Connection::delete_joined(const Text& text) {
-    const JoinDelete parts = parse_join_delete(to_utf8(text));
-    const std::string& a = parts.tables[0];
-    const std::string& b = parts.tables[1];
-    const Statement begin = prepare_own("begin immediate");
-    const Statement keep = prepare_own("commit");
+void Connection::delete_joined(const JoinDelete& parts) {
+    const auto& [a, b, condition] = parts;
     const Statement back = prepare_own("rollback");
-    step(begin.get());
+    begin();
     try {
         const Statement matches = prepare_own("select " + a + ".rowid , " + b + ".rowid from " + a + " , " +
-                                              b + " where " + parts.condition);
+                                              b + " where " + condition);
         std::set<std::int64_t> of_a, of_b;
         while (step(matches.get()) == SQLITE_ROW) {
             of_a.insert(sqlite3_column_int64(matches.get(), 0));
@@ -201,11 +204,11 @@ void Connection::delete_joined(const Text& text) {
         };
         remove(a, of_a);
         remove(b, of_b);
-        step(keep.get());
     } catch (...) {
         sqlite3_step(back.get());
         throw;
     }
+    commit();
 }
 
 void Connection::write_row(const std::string& table, std::int64_t row_id,

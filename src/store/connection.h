@@ -2,7 +2,6 @@
 
 #include "store/database.h"
 
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -10,6 +9,8 @@
 #include <sqlcipher/sqlite3.h>
 
 namespace twk {
+
+struct JoinDelete;
 
 /// One open store file, shared by all handles on it.
 class Connection {
@@ -29,6 +30,8 @@ class Connection {
     std::int64_t data_version();
     std::int64_t changed_rows() const { return sqlite3_total_changes(db_); }
 
+    /// Run a statement of a screen: one that gives rows, or one that changes some. Fault 3075 for a text that
+    /// is not exactly one statement of its kind, 3260 and 61 when the store cannot be locked or written.
     Rows select(const Text& text);
     void change(const Text& text);
 
@@ -40,7 +43,7 @@ class Connection {
     /// brings the writes since to the disk.
     void set_durable(bool each);
 
-    /// Inserts or, with a row id, changes one row of `content` by bound values.
+    /// Inserts a row of the table by bound values or, with another row id than 0, changes that row.
     void write_row(const std::string& table, std::int64_t row_id,
                    const std::vector<std::pair<std::string, Field::Value>>& values);
 
@@ -50,23 +53,15 @@ class Connection {
     };
     using Statement = std::unique_ptr<sqlite3_stmt, Finalizer>;
 
-    /// A fenced statement ready to run.
+    /// A statement of a screen that has passed the fence.
     Statement prepare(const Text& text);
+    /// One that the store itself runs.
     Statement prepare_own(const std::string& sql);
-    void delete_joined(const Text& text);
+    void delete_joined(const JoinDelete& parts);
     int step(sqlite3_stmt* statement);
     [[noreturn]] void fail(int code);
 
     sqlite3* db_ = nullptr;
 };
-
-/// "delete A.* , B.* from A , B where ...", in its parts.
-struct JoinDelete {
-    std::vector<std::string> tables;
-    std::string condition;
-};
-
-/// The parts when the statement has that form; otherwise no tables.
-JoinDelete parse_join_delete(const std::string& statement);
 
 } // namespace twk

@@ -18,6 +18,11 @@ std::string plain(TextView name) {
     return to_utf8(LCase(trim_view(name)));
 }
 
+Connection& opened(const std::shared_ptr<Connection>& connection) {
+    if (!connection) throw RuntimeFault(fault_store, u"The store is not open.");
+    return *connection;
+}
+
 } // namespace
 
 Text Field::text() const {
@@ -120,14 +125,17 @@ void Recordset::Close() {
     *state_ = State();
 }
 
+void take_last_key(Recordset rows, TextView column, std::int16_t& key) {
+    for (; !rows.eof(); rows.MoveNext()) key = CInt(rows.Fields(column).number());
+}
+
 Recordset Database::OpenRecordset(const Text& statement) {
-    if (!connection_) throw RuntimeFault(fault_store, u"The store is not open.");
+    const std::string text = plain(statement);
+    const bool bare = text == "content";
     auto state = std::make_shared<Recordset::State>();
     state->connection = connection_;
-    const bool bare = plain(statement) == "content";
-    state->data = connection_->select(bare ? Text(u"select * from content where 1 = 0") : statement);
+    state->data = opened(connection_).select(bare ? Text(u"select * from content where 1 = 0") : statement);
     // Boxes alone are written row by row, and only through rows of their own table.
-    const std::string text = plain(statement);
     const bool of_content =
         text.find("content") != std::string::npos && text.find("projects") == std::string::npos;
     if (bare || (of_content && state->data.columns == std::vector<std::string>{"cid", "pid", "content"}))
@@ -136,8 +144,7 @@ Recordset Database::OpenRecordset(const Text& statement) {
 }
 
 void Database::Execute(const Text& statement) {
-    if (!connection_) throw RuntimeFault(fault_store, u"The store is not open.");
-    connection_->change(statement);
+    opened(connection_).change(statement);
 }
 
 BulkWrite::BulkWrite(const Database& store) : connection_(store.connection_) {
@@ -153,8 +160,7 @@ BulkWrite::~BulkWrite() {
 }
 
 WriteTogether::WriteTogether(const Database& store) : connection_(store.connection_) {
-    if (!connection_) throw RuntimeFault(fault_store, u"The store is not open.");
-    connection_->begin();
+    opened(connection_).begin();
 }
 
 WriteTogether::~WriteTogether() {
@@ -170,18 +176,19 @@ void WriteTogether::finish() {
 }
 
 Database::RowState Database::row_state() const {
-    if (!connection_) throw RuntimeFault(fault_store, u"The store is not open.");
-    return {connection_->data_version(), connection_->changed_rows()};
+    Connection& connection = opened(connection_);
+    return {connection.data_version(), connection.changed_rows()};
 }
 
 Database OpenDatabase(const Text& path, bool exclusive, bool read_only, const Text& connect) {
     (void)exclusive; // stores are opened shared
     static std::map<std::string, std::weak_ptr<Connection>> open;
-    if (!file_exists(path)) throw RuntimeFault(fault_store_missing, u"Could not find file '" + path + u"'.");
-    // An empty file would pass for a store without tables.
-    if (FileLen(path) == 0) throw RuntimeFault(fault_store, u"Unrecognized database format '" + path + u"'.");
     std::error_code error;
     const std::string file = std::filesystem::canonical(disk_path(path), error).string();
+    if (error || !file_exists(path))
+        throw RuntimeFault(fault_store_missing, u"Could not find file '" + path + u"'.");
+    // An empty file would pass for a store without tables.
+    if (FileLen(path) == 0) throw RuntimeFault(fault_store, u"Unrecognized database format '" + path + u"'.");
     const std::string key =
         connect.starts_with(u";pwd=") ? to_utf8(TextView(connect).substr(5)) : std::string();
     // A handle with another key does not profit from one that is open.

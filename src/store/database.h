@@ -4,9 +4,7 @@
 
 #include <cstdint>
 #include <memory>
-#include <string>
 #include <variant>
-#include <vector>
 
 /// The project store and the synonym store: files that open only with their key, reached by statements that
 /// the screens build as one text.
@@ -58,6 +56,10 @@ class Recordset {
     explicit Recordset(std::shared_ptr<State> state) : state_(std::move(state)) {}
     std::shared_ptr<State> state_;
 };
+
+/// Puts a column of keys into `key`, row by row: that of the last row stays, and without a row `key` is left
+/// as it is. Fault 6 when one needs more than 16 bits.
+void take_last_key(Recordset rows, TextView column, std::int16_t& key);
 
 /// A handle on a store. Handles on one file share one connection, which ends with the last of them.
 class Database {
