@@ -24,30 +24,30 @@ void Form5::criticar() {
         Text3.text = Text(critic_at_rest);
         return;
     }
-    texto_critico_ = rt1.text();
-    for (const TextView line_end : {vbCrLf, vbCr, vbLf}) replace_all(texto_critico_, line_end, u" <p> ");
-    texto_critico_ = limpiar_html(texto_critico_);
-    quitar_dobles(texto_critico_);
-    rt1.text = texto_critico_;
+    Text text = rt1.text();
+    for (const TextView line_end : {vbCrLf, vbCr, vbLf}) replace_all(text, line_end, u" <p> ");
+    text = limpiar_html(text);
+    quitar_dobles(text);
+    rt1.text = text;
 
-    const std::int16_t total = contar_palabras(texto_critico_);
-    informe_ = u"CONTENT CRITIC: \r\n[Total word count]: " + to_text(total) + u"\r\n";
-    if (total + 1 < 250) informe_ += u"(Caution: Low Value!)\r\n\r\n";
-    bool sin_densidad = true;
+    const std::int16_t total = contar_palabras(text);
+    Text report = u"CONTENT CRITIC: \r\n[Total word count]: " + to_text(total) + u"\r\n";
+    if (total + 1 < 250) report += u"(Caution: Low Value!)\r\n\r\n";
+    bool none_dense = true;
     // Keywords added in Step 2 since this screen was loaded are not in the table.
     const int last = std::min(screen<Form3>().List1.list_count(), tabla_kw.rows() - 1);
     for (int k = 0; k <= last; ++k) {
         Text& keyword = tabla_kw.cell(k);
         if (keyword.empty()) continue;
-        const std::int16_t cuenta = contar_kw(texto_critico_, keyword); // lower-cases the table's keyword
-        informe_ += u"[KW: '" + Trim(keyword) + u"' ]: " + to_text(cuenta) + u"\r\n";
-        if (cuenta <= 0) continue;
-        if (cuenta > 1) sin_densidad = false;
-        informe_ += u"     [KW Density]: " + to_text(densidad2(cuenta, texto_critico_, keyword)) + u"%\r\n";
+        const std::int16_t count = contar_kw(text, keyword); // lower-cases the table's keyword
+        report += u"[KW: '" + Trim(keyword) + u"' ]: " + to_text(count) + u"\r\n";
+        if (count <= 0) continue;
+        if (count > 1) none_dense = false;
+        report += u"     [KW Density]: " + to_text(densidad2(count, text, keyword)) + u"%\r\n";
     }
     // Whatever it says, this depends on the counts alone: no keyword occurs twice.
-    if (sin_densidad) informe_ += u"\r\nCaution: In this content box no keyword reaches 1% density!";
-    Text3.text = informe_;
+    if (none_dense) report += u"\r\nCaution: In this content box no keyword reaches 1% density!";
+    Text3.text = report;
 }
 
 } // namespace twk

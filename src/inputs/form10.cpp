@@ -34,7 +34,7 @@ void Form10::enumerate(ScreenMap& map) {
 
 void Form10::Form_Load() {
     marcar_forma(screen_number, true);
-    sinonimos_ = open_synonyms();
+    synonyms_ = open_synonyms();
     refrescar_sinonimos();
 }
 
@@ -44,7 +44,7 @@ void Form10::Form_Unload() {
 
 void Form10::refrescar_sinonimos() {
     List1.clear();
-    for (Recordset row = sinonimos_.OpenRecordset(u"select * from synonyms order by keyword"); !row.eof();
+    for (Recordset row = synonyms_.OpenRecordset(u"select * from synonyms order by keyword"); !row.eof();
          row.MoveNext())
         List1.add_item(row.Fields(u"keyword").text());
     Text1.text = u"";
@@ -53,7 +53,7 @@ void Form10::refrescar_sinonimos() {
 
 void Form10::List1_Click() {
     for (Recordset row =
-             sinonimos_.OpenRecordset(u"select * from synonyms where keyword = '" + List1.text() + u"'");
+             synonyms_.OpenRecordset(u"select * from synonyms where keyword = '" + List1.text() + u"'");
          !row.eof(); row.MoveNext()) {
         const Field synonyms = row.Fields(u"synonyms");
         if (synonyms.is_null()) {
@@ -70,20 +70,20 @@ void Form10::Command1_Click() {
 }
 
 void Form10::Command2_Click() {
-    sinonimos_.Execute(u"insert into synonyms ( keyword ) values ( '" + Text2.text() + u"' ) ");
+    synonyms_.Execute(u"insert into synonyms ( keyword ) values ( '" + Text2.text() + u"' ) ");
     MsgBox(u"The keyword was added. Now select it in the listbox, and modify (add) its synonime");
     refrescar_sinonimos();
 }
 
 void Form10::Command3_Click() {
-    sinonimos_.Execute(u"update synonyms set synonyms = '" + Text1.text() + u"' where keyword = '" +
-                       List1.text() + u"' ");
+    synonyms_.Execute(u"update synonyms set synonyms = '" + Text1.text() + u"' where keyword = '" +
+                      List1.text() + u"' ");
     refrescar_sinonimos();
 }
 
 void Form10::Command4_Click() {
     if (List1.list_index() < 0) return;
-    sinonimos_.Execute(u"delete from synonyms where keyword = '" + List1.text() + u"'");
+    synonyms_.Execute(u"delete from synonyms where keyword = '" + List1.text() + u"'");
     refrescar_sinonimos();
 }
 

@@ -40,7 +40,7 @@ class Form10 {
     void Command5_Click();
 
   private:
-    Database sinonimos_;
+    Database synonyms_;
 };
 
 } // namespace twk

@@ -38,9 +38,9 @@ Form3::Form3() {
 void Form3::Form_Load() {
     Frame1.visible = false;
     Frame3.visible = false;
-    silencio = 0;
+    silent = 0;
     marcar_forma(screen_number, true);
-    abrir();
+    open_store();
     take_last_key(base_datos_.OpenRecordset(u"select * from Projects where name = '" +
                                             screen<Form2>().txt_name[0].text() + u"'"),
                   u"pid", pid_form);
@@ -52,89 +52,104 @@ void Form3::Form_Load() {
                  base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid_form));
              !row.eof(); row.MoveNext())
             List1.add_item(row.Fields(u"keyword").text());
-    refrescar_cuentas();
+    show_counts();
 }
 
 void Form3::Form_Unload() {
     marcar_forma(screen_number, false);
 }
 
-void Form3::abrir() {
+void Form3::open_store() {
     base_datos_ = open_hive();
 }
 
-void Form3::refrescar_cuentas() {
+void Form3::show_counts() {
     keyw.caption = to_text(List1.list_count());
     skeyw.caption = to_text(List2.list_count());
 }
 
-void Form3::avisar(TextView mensaje) const {
-    if (silencio == 0) MsgBox(Text(mensaje));
+void Form3::warn(TextView message) const {
+    if (silent == 0) MsgBox(Text(message));
 }
 
-Recordset Form3::filas_keyword(const Text& palabra) {
-    return base_datos_.OpenRecordset(u"select * from keywords where keyword = '" + palabra + u"' and pid = " +
+Recordset Form3::keyword_rows(const Text& word) {
+    return base_datos_.OpenRecordset(u"select * from keywords where keyword = '" + word + u"' and pid = " +
                                      to_text(pid_form));
 }
 
-std::int16_t Form3::buscar_keyid(const Text& palabra) {
+std::int16_t Form3::find_keyid(const Text& word) {
     std::int16_t key = 0;
-    take_last_key(filas_keyword(palabra), u"keyid", key);
+    take_last_key(keyword_rows(word), u"keyid", key);
     return key;
 }
 
-bool Form3::demasiadas_palabras() {
-    Text palabra = Trim(Text1.text());
-    if (contar_palabras(palabra) <= most_words) return false;
-    avisar(u"Can't edit a +20 words Keyword Phrase");
+bool Form3::too_many_words() {
+    Text word = Trim(Text1.text());
+    if (contar_palabras(word) <= most_words) return false;
+    warn(u"Can't edit a +20 words Keyword Phrase");
     return true;
 }
 
-bool Form3::hay_elemento(std::int16_t catid, const Text& palabra) {
+bool Form3::has_element(std::int16_t catid, const Text& word) {
     return !base_datos_
-                .OpenRecordset(u"select * from elements where element = '" + palabra + u"' and catid = " +
+                .OpenRecordset(u"select * from elements where element = '" + word + u"' and catid = " +
                                to_text(catid))
                 .eof();
+}
+
+void Form3::insert_keyword(const Text& word) {
+    base_datos_.Execute(u"insert into keywords ( pid , keyword ) values ( " + to_text(pid_form) + u" , '" +
+                        word + u"' ) ");
+    List1.add_item(word);
+}
+
+void Form3::insert_element(std::int16_t catid, const Text& word) {
+    base_datos_.Execute(u"insert into elements ( catid , element ) values ( " + to_text(catid) + u" , '" +
+                        word + u"' ) ");
+}
+
+void Form3::clear_selection(ListBox& list) {
+    for (int i = 0; i < list.list_count(); ++i)
+        if (list.selected(i)) list.set_selected(i, false);
+    list.list_index = -1;
 }
 
 // Entering, by the keyboard's Enter key too, and selecting
 
 void Form3::Text1_Click() {
-    for (int i = 0; i < List1.list_count(); ++i)
-        if (List1.selected(i)) List1.set_selected(i, false);
-    List1.list_index = -1;
+    clear_selection(List1);
 }
 
 void Form3::List1_Click() {
     try {
-        const Text palabra = List1.text();
-        if (palabra.empty() || List1.list_index() < 0) return;
+        const Text word = List1.text();
+        if (word.empty() || List1.list_index() < 0) return;
         take_last_key(base_datos_.OpenRecordset(u"select keywords.keyid as X2 , keywords.pid as X3 "
                                                 u" from keywords where keyword = '" +
-                                                palabra + u"' and pid = " + to_text(pid_form)),
+                                                word + u"' and pid = " + to_text(pid_form)),
                       u"X2", keyid);
-        Text1.text = palabra;
+        Text1.text = word;
         List2.clear();
         for (Recordset row =
                  base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(keyid));
              !row.eof(); row.MoveNext())
             List2.add_item(Trim(row.Fields(u"element").text()));
         Text2.text = u"";
-        refrescar_cuentas();
+        show_counts();
     } catch (const RuntimeFault&) {
-        refrescar_cuentas(); // stepped over: the right panel stays as far as it was filled
+        show_counts(); // stepped over: the right panel stays as far as it was filled
     }
 }
 
 void Form3::List2_Click() {
     if (List2.list_index() >= 0 && !List2.text().empty()) Text2.text = List2.text();
-    refrescar_cuentas();
+    show_counts();
 }
 
 // Keywords
 
-void Form3::agregar_keyword(TextView palabra) {
-    Text1.text = Trim(palabra);
+void Form3::agregar_keyword(TextView word) {
+    Text1.text = Trim(word);
     Command2_Click();
 }
 
@@ -144,49 +159,47 @@ void Form3::Command2_Click() {
         Text1.set_focus();
         return;
     }
-    if (demasiadas_palabras()) {
+    if (too_many_words()) {
         Text1.set_focus();
         return;
     }
-    Text palabra = Text1.text();
-    palabra = validar_palabra(palabra);
-    Text1.text = palabra;
-    if (palabra.empty()) {
+    Text word = Text1.text();
+    word = validar_palabra(word);
+    Text1.text = word;
+    if (word.empty()) {
         Text1.set_focus();
         return;
     }
-    estado = 1;
-    if (!filas_keyword(palabra).eof()) {
-        estado = 2;
-        avisar(u"You can't define 2 equal keywords");
+    status = 1;
+    if (!keyword_rows(word).eof()) {
+        status = 2;
+        warn(u"You can't define 2 equal keywords");
     }
     // One question for all keywords of the project, so that adding stays quick when there are thousands.
-    if (estado == 1 &&
+    if (status == 1 &&
         !base_datos_
-             .OpenRecordset(u"select eid from elements cross join keywords where element = '" + palabra +
+             .OpenRecordset(u"select eid from elements cross join keywords where element = '" + word +
                             u"' and keywords.keyid = elements.catid and keywords.pid = " + to_text(pid_form))
              .eof()) {
-        estado = 2;
-        avisar(u"You can't define a keyword name as a subkeyword");
+        status = 2;
+        warn(u"You can't define a keyword name as a subkeyword");
     }
-    if (estado == 1) {
-        abrir();
-        base_datos_.Execute(u"insert into keywords ( pid , keyword ) values ( " + to_text(pid_form) +
-                            u" , '" + palabra + u"' ) ");
-        List1.add_item(palabra);
+    if (status == 1) {
+        open_store();
+        insert_keyword(word);
         Text1.text = u"";
     }
     Text1.set_focus();
-    refrescar_cuentas();
+    show_counts();
 }
 
 void Form3::Command21_Click() {
-    if (demasiadas_palabras()) return;
-    Text palabra = Text1.text();
-    palabra = validar_palabra(palabra);
+    if (too_many_words()) return;
+    Text word = Text1.text();
+    word = validar_palabra(word);
     // A refused word leaves the box empty; nothing else has changed.
-    Text1.text = palabra;
-    if (palabra.empty()) {
+    Text1.text = word;
+    if (word.empty()) {
         Text1.set_focus();
         return;
     }
@@ -196,57 +209,61 @@ void Form3::Command21_Click() {
         int index = 0;
         while (!List1.selected(index)) ++index;
         // The store compares without regard to case, so a change of case alone matches itself and is refused.
-        if (!filas_keyword(palabra).eof()) {
-            avisar(u"You can't define 2 equal keywords");
+        if (!keyword_rows(word).eof()) {
+            warn(u"You can't define 2 equal keywords");
             return;
         }
-        const Text trimmed = Trim(palabra);
+        const Text trimmed = Trim(word);
         base_datos_.Execute(u"update keywords set keyword = '" + trimmed + u"' where keyword='" +
                             List1.list(index) + u"' and pid = " + to_text(pid_form));
         List1.set_list(index, trimmed);
     }
     Text1.set_focus();
     Text1.text = u"";
-    refrescar_cuentas();
+    show_counts();
 }
 
 void Form3::Command7_Click() {
-    Text quitada = u"no";
-    for (int i = 0; i < List1.list_count(); i += quitada == u"no" ? 1 : 0) {
-        quitada = u"no";
-        if (List1.selected(i)) {
-            const Text palabra = List1.list(i);
-            if (!borrar_keyword(palabra)) return; // those before it stay deleted
-            quitar_keyword(i);
-            quitada = u"si"; // the list has closed up: the next entry stands at the same place
+    for (int i = 0; i < List1.list_count();) {
+        const bool selected = List1.selected(i);
+        if (selected) {
+            const Text word = List1.list(i);
+            if (!delete_keyword(word)) return; // those before it stay deleted
+            unlist_keyword(i);                 // the list closes up: the next entry stands at the same place
         }
         DoEvents();
+        if (!selected) ++i;
     }
-    refrescar_cuentas();
+    show_counts();
 }
 
 /// Deletes the keyword with its subkeywords and ties; false when the user does not want that.
-bool Form3::borrar_keyword(const Text& palabra) {
-    const Text key = to_text(buscar_keyid(palabra));
-    if (!base_datos_.OpenRecordset(u"select * from elements where catid = " + key).eof()) {
+bool Form3::delete_keyword(const Text& word) {
+    const std::int16_t key = find_keyid(word);
+    const Text of_keyword = u"from elements where catid = " + to_text(key);
+    if (!base_datos_.OpenRecordset(u"select * " + of_keyword).eof()) {
         if (MsgBox(u"Are you sure you want to delete this keyword?\rAll its subKeywords will be lost.",
                    Buttons::ok_cancel, u"Delete Keyword?") == Answer::cancel)
             return false;
-        base_datos_.Execute(u"delete from elements where catid = " + key);
+        base_datos_.Execute(u"delete " + of_keyword);
     }
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from ties where keyid = " + key +
+    delete_ties_and_row(key, word);
+    return true;
+}
+
+void Form3::delete_ties_and_row(std::int16_t key, const Text& word) {
+    for (Recordset row = base_datos_.OpenRecordset(u"select * from ties where keyid = " + to_text(key) +
                                                    u" and pid = " + to_text(pid_form));
          !row.eof(); row.MoveNext())
         base_datos_.Execute(u"delete from ties where tieid = " + row.Fields(u"tieid").text());
     base_datos_.Execute(u"delete from keywords where pid = " + to_text(pid_form) + u" and keyword = '" +
-                        palabra + u"' ");
-    return true;
+                        word + u"' ");
 }
 
-void Form3::quitar_keyword(int index) {
+void Form3::unlist_keyword(int index) {
     List1.remove_item(index);
     List2.clear();
-    refrescar_cuentas();
+    show_counts();
 }
 
 // Subkeywords
@@ -258,11 +275,11 @@ void Form3::Command3_Click() {
         return;
     }
     if (trim_view(Text2.text()).empty()) return;
-    Text palabra = Text2.text();
-    palabra = validar_palabra(palabra);
-    Text2.text = palabra;
-    if (palabra.empty()) return;
-    abrir();
+    Text word = Text2.text();
+    word = validar_palabra(word);
+    Text2.text = word;
+    if (word.empty()) return;
+    open_store();
     if (List1.sel_count() != 1) {
         MsgBox(u"You must select 1 Keyword (in the left panel)");
         return;
@@ -275,35 +292,34 @@ void Form3::Command3_Click() {
         MsgBox(u"You can't add more than 99 subkeywords per each keyword");
         return;
     }
-    estado = 1;
-    if (hay_elemento(keyid, palabra)) {
+    status = 1;
+    if (has_element(keyid, word)) {
         MsgBox(u"You can't define 2 equals subkeywords");
         // Empties the box, as the only refusal that keeps the word no longer.
-        palabra.clear();
+        word.clear();
         Text2.text = u"";
         Text2.set_focus();
-        estado = 2;
+        status = 2;
     }
     // Compares exactly: another case passes here, unlike in the store's own comparison.
     for (const Text& keyword : List1.entries())
-        if (!palabra.empty() && trim_view(keyword) == trim_view(palabra)) {
+        if (!word.empty() && trim_view(keyword) == trim_view(word)) {
             MsgBox(u"You can't define a subkeyword named as a keyword");
-            estado = 2;
+            status = 2;
         }
-    if (estado != 1) return;
-    abrir();
-    base_datos_.Execute(u"insert into elements ( catid , element ) values ( " + to_text(keyid) + u" , '" +
-                        preparar_texto(Text(palabra)) + u"' ) ");
-    List2.add_item(palabra);
+    if (status != 1) return;
+    open_store();
+    insert_element(keyid, preparar_texto(Text(word)));
+    List2.add_item(word);
     Text2.text = u"";
-    refrescar_cuentas();
+    show_counts();
 }
 
 void Form3::Command22_Click() {
     if (Len(Text2.text()) < 3) {
         MsgBox(u"Subkeyword to short");
     } else if (!trim_view(Text2.text()).empty()) {
-        abrir();
+        open_store();
         int index = no_index;
         if (List2.sel_count() == 0) {
             MsgBox(u"There is no subkeyword selected or there is no one ");
@@ -313,10 +329,10 @@ void Form3::Command22_Click() {
             index = 0;
             while (!List2.selected(index)) ++index;
         }
-        const Text palabra = Trim(Text2.text());
+        const Text word = Trim(Text2.text());
         // The selected entry is among them: an unchanged word counts as equal to itself.
         for (const Text& entry : List2.entries())
-            if (trim_view(entry) == palabra) {
+            if (trim_view(entry) == word) {
                 MsgBox(u"You can't have 2 equal subKeywords");
                 return;
             }
@@ -324,29 +340,28 @@ void Form3::Command22_Click() {
             base_datos_.Execute(u"update elements set element = '" +
                                 Trim(preparar_texto(Text(Text2.text()))) + u"' where catid = " +
                                 to_text(keyid) + u" and element = '" + Trim(List2.list(index)) + u"'");
-            List2.set_list(index, palabra);
+            List2.set_list(index, word);
         }
     }
     Text2.text = u"";
     Text2.set_focus();
-    refrescar_cuentas();
+    show_counts();
 }
 
 void Form3::Command10_Click() {
-    Text quitado = u"no";
-    for (int i = 0; i < List2.list_count(); i += quitado == u"no" ? 1 : 0) {
-        quitado = u"no";
-        if (List2.selected(i)) {
+    for (int i = 0; i < List2.list_count();) {
+        const bool selected = List2.selected(i);
+        if (selected) {
             // Without a selected keyword the list still shows the subkeywords of the one selected last.
-            const std::int16_t found = buscar_keyid(List1.text());
+            const std::int16_t found = find_keyid(List1.text());
             base_datos_.Execute(u"delete from elements where element = '" + Trim(List2.list(i)) +
                                 u"' and catid = " + to_text(found != 0 ? found : keyid));
             List2.remove_item(i);
-            quitado = u"si";
         }
         DoEvents();
+        if (!selected) ++i;
     }
-    refrescar_cuentas();
+    show_counts();
 }
 
 // To other screens

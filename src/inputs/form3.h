@@ -125,46 +125,50 @@ class Form3 {
     void Command20_Click();
 
     /// Adds a keyword as if typed.
-    void agregar_keyword(TextView palabra);
+    void agregar_keyword(TextView word);
 
     std::int16_t pid_form = 0; ///< key of the project as read at load
     std::int16_t keyid = 0;    ///< key of the keyword selected last
-    int estado = 1;            ///< 1 at the start of a check, 2 once a check has refused
-    std::int16_t silencio = 0; ///< 1 while importing: some refusals of keywords are not shown
+    int status = 1;            ///< 1 at the start of a check, 2 once a check has refused
+    std::int16_t silent = 0;   ///< 1 while importing: some refusals of keywords are not shown
 
   private:
     void enumerate_moves(ScreenMap& map);
     void enumerate_lists(ScreenMap& map);
-    void abrir();
-    void refrescar_cuentas();
+    void open_store();
+    void show_counts();
     /// Shows the message unless the silent switch is on.
-    void avisar(TextView mensaje) const;
+    void warn(TextView message) const;
     /// Rows of the project's keyword of that name.
-    Recordset filas_keyword(const Text& palabra);
+    Recordset keyword_rows(const Text& word);
     /// Key of the project's keyword of that name, 0 when there is none.
-    std::int16_t buscar_keyid(const Text& palabra);
-    bool demasiadas_palabras();
-    bool borrar_keyword(const Text& palabra);
-    void quitar_keyword(int index);
-    bool hay_elemento(std::int16_t catid, const Text& palabra);
+    std::int16_t find_keyid(const Text& word);
+    bool too_many_words();
+    bool delete_keyword(const Text& word);
+    void unlist_keyword(int index);
+    bool has_element(std::int16_t catid, const Text& word);
+    /// Stores a keyword of the project and lists it.
+    void insert_keyword(const Text& word);
+    void insert_element(std::int16_t catid, const Text& word);
+    void delete_ties_and_row(std::int16_t key, const Text& word);
+    static void clear_selection(ListBox& list);
 
     void llenar_proyectos();
-    void abrir_movimiento(ListBox& from, ListBox& to, Label& label, TextView what, Frame& frame);
-    void mover_como_keyword(const Text& palabra);
-    void mover_como_subkeyword(const Text& palabra);
-    bool mover_subkeywords(std::int16_t from, const Text& destination);
-    void borrar_elemento(const Text& palabra);
+    void open_move(ListBox& from, ListBox& to, Label& label, TextView what, Frame& frame);
+    void move_as_keyword(const Text& word);
+    void move_as_subkeyword(const Text& word);
+    bool repeated_at(std::int16_t catid, TextView word);
+    bool move_subkeywords(std::int16_t from, const Text& destination);
+    void delete_moved_subkeyword(const Text& word);
 
-    void exportar();
-    void exportar_keyword(TextStream& out, int number, const Text& palabra);
-    void importar(const Text& path);
-    void importar_general(const Text& path);
-    void importar_exportado(const Text& path);
-    void importar_linea(const Text& line, std::int16_t& current);
+    void export_list();
+    void export_keyword(TextStream& out, int number, const Text& word);
+    void import_list(const Text& path);
+    void import_general(const Text& path);
+    void import_exported(const Text& path);
+    void import_line(const Text& line, std::int16_t& current);
 
     Database base_datos_;
-    std::int16_t encontrada_ = 0; ///< while copying: the current keyword is here already
-    std::int16_t alguna_ = 0;     ///< while copying: at least one was
 };
 
 } // namespace twk

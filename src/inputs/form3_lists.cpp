@@ -15,12 +15,6 @@ namespace twk {
 
 namespace {
 
-void clear_selection(ListBox& list) {
-    for (int i = 0; i < list.list_count(); ++i)
-        if (list.selected(i)) list.set_selected(i, false);
-    list.list_index = -1;
-}
-
 void write_header(TextStream& out) {
     out.writeline(u"#");
     out.writeline(u"# Tarnwick");
@@ -67,14 +61,14 @@ class EntryIndex {
 
 void Form3::Command4_Click() {
     try {
-        exportar();
+        export_list();
         MsgBox(u"File has been saved");
     } catch (const RuntimeFault&) {
         MsgBox(u"File wasn't saved."); // the answer to Cancel, too
     }
 }
 
-void Form3::exportar() {
+void Form3::export_list() {
     CommonDialog1.cancel_error = true;
     CommonDialog1.init_dir = app_path();
     CommonDialog1.filter = u"Exported Files (*.exp)|*.exp";
@@ -90,18 +84,18 @@ void Form3::exportar() {
     const TextStreamPtr out = fso.OpenTextFile(path + u"aux", OpenMode::writing, true);
     write_header(*out);
     for (int i = 0; i < List1.list_count(); ++i)
-        if (!trim_view(List1.list(i)).empty()) exportar_keyword(*out, i + 1, List1.list(i));
+        if (!trim_view(List1.list(i)).empty()) export_keyword(*out, i + 1, List1.list(i));
     write_end(*out);
     out->Close();
     fso.MoveOver(path + u"aux", path);
 }
 
-void Form3::exportar_keyword(TextStream& out, int number, const Text& palabra) {
-    out.writeline(u" " + to_text(number) + u".= " + palabra);
+void Form3::export_keyword(TextStream& out, int number, const Text& word) {
+    out.writeline(u" " + to_text(number) + u".= " + word);
     std::int16_t key = 0;
     take_last_key(base_datos_.OpenRecordset(u"select * from keywords where pid = " +
-                                            to_text(module1().pid_actual) + u" and keyword = '" +
-                                            Trim(palabra) + u"'"),
+                                            to_text(module1().pid_actual) + u" and keyword = '" + Trim(word) +
+                                            u"'"),
                   u"keyid", key);
     int subnumber = 0;
     for (Recordset row = base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(key) +
@@ -142,17 +136,17 @@ void Form3::Command19_Click() {
 
 void Form3::Command20_Click() {
     try {
-        silencio = 1;
-        abrir();
+        silent = 1;
+        open_store();
         if (File2.list_index() < 0) {
             MsgBox(u"You must select a file to import");
-            silencio = 0;
+            silent = 0;
             return;
         }
         Frame4.visible = true;
         DoEvents();
         const BulkWrite many(base_datos_);
-        importar(Dir2.list(Dir2.list_index()) + Text(path_separator) + File2.list(File2.list_index()));
+        import_list(Dir2.list(Dir2.list_index()) + Text(path_separator) + File2.list(File2.list_index()));
         clear_selection(List1);
         clear_selection(List2);
         Frame4.visible = false;
@@ -162,51 +156,51 @@ void Form3::Command20_Click() {
         Frame4.visible = false;
         MsgBox(u"Import unSuccesfull");
     }
-    silencio = 0;
+    silent = 0;
 }
 
-void Form3::importar(const Text& path) {
+void Form3::import_list(const Text& path) {
     if (op_imp[1].value())
-        importar_general(path);
+        import_general(path);
     else
-        importar_exportado(path);
+        import_exported(path);
 }
 
-void Form3::importar_general(const Text& path) {
+void Form3::import_general(const Text& path) {
     const Text separator = Trim(Cmb_separator.text());
     EntryIndex here(List1);
     Text gathered;
     const TextStreamPtr in = FileSystemObject().OpenTextFile(path, OpenMode::reading);
     while (!in->AtEndOfStream()) {
         const Text line = in->readline();
-        const Text palabra = Trim(line);
-        if (palabra.empty()) continue;
+        const Text word = Trim(line);
+        if (word.empty()) continue;
         if (separator != u"Enter") {
             gathered += line + u" " + separator + u" "; // a line end separates too
             continue;
         }
-        if (!here.contains(palabra)) agregar_keyword(palabra);
+        if (!here.contains(word)) agregar_keyword(word);
         DoEvents();
     }
     in->Close();
     for (const TextView piece : split_views(gathered, separator)) {
-        const Text palabra = Trim(piece);
-        if (palabra.empty()) continue;
-        if (!here.contains(palabra)) agregar_keyword(palabra);
+        const Text word = Trim(piece);
+        if (word.empty()) continue;
+        if (!here.contains(word)) agregar_keyword(word);
         DoEvents();
     }
 }
 
-void Form3::importar_exportado(const Text& path) {
+void Form3::import_exported(const Text& path) {
     std::int16_t current = keyid;
     const TextStreamPtr in = FileSystemObject().OpenTextFile(path, OpenMode::reading);
-    while (!in->AtEndOfStream()) importar_linea(in->readline(), current);
+    while (!in->AtEndOfStream()) import_line(in->readline(), current);
     in->Close();
 }
 
 /// `current` is the key that subkeywords go to: of the keyword inserted last, whichever stood before them in
 /// the file. So the subkeywords of a keyword that is here already go to another one.
-void Form3::importar_linea(const Text& line, std::int16_t& current) {
+void Form3::import_line(const Text& line, std::int16_t& current) {
     // Looks at the first character as it stands, so "#" behind blanks makes no comment.
     if (trim_view(line).empty() || Trim(Left(line, 1)) == u"#") return;
     const int at = InStr(line, u".=");
@@ -218,10 +212,8 @@ void Form3::importar_linea(const Text& line, std::int16_t& current) {
         const Text select =
             u"select * from keywords where pid = " + to_text(pid_form) + u" and keyword = '" + value + u"'";
         if (!base_datos_.OpenRecordset(select).eof()) return;
-        base_datos_.Execute(u"insert into keywords ( pid , keyword ) values ( " + to_text(pid_form) +
-                            u" , '" + value + u"' ) ");
+        insert_keyword(value);
         take_last_key(base_datos_.OpenRecordset(select), u"keyid", current);
-        List1.add_item(value);
         return;
     }
     if (!base_datos_
@@ -229,8 +221,7 @@ void Form3::importar_linea(const Text& line, std::int16_t& current) {
                             u" and element = '" + value + u"'")
              .eof())
         return;
-    base_datos_.Execute(u"insert into elements ( catid , element ) values ( " + to_text(current) + u" , '" +
-                        value + u"' ) ");
+    insert_element(current, value);
 }
 
 void Form3::enumerate_lists(ScreenMap& map) {

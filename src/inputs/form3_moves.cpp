@@ -11,31 +11,21 @@
 
 namespace twk {
 
-namespace {
-
-bool holds_element(Recordset rows, TextView palabra) {
-    for (; !rows.eof(); rows.MoveNext())
-        if (Trim(rows.Fields(u"element").text()) == palabra) return true;
-    return false;
-}
-
-} // namespace
-
 void Form3::Command11_Click() {
-    abrir_movimiento(List2, List3, Label5, u"SubKeyword", Frame1);
+    open_move(List2, List3, Label5, u"SubKeyword", Frame1);
 }
 
 void Form3::Command12_Click() {
-    abrir_movimiento(List1, List4, Label10, u"Keyword", Frame2);
+    open_move(List1, List4, Label10, u"Keyword", Frame2);
 }
 
 /// Opens a frame for the entry selected in `from`, with all other keywords as destinations; without one,
 /// nothing happens.
-void Form3::abrir_movimiento(ListBox& from, ListBox& to, Label& label, TextView what, Frame& frame) {
-    const Text palabra = Trim(from.text());
-    if (from.list_index() < 0 || palabra.empty()) return;
+void Form3::open_move(ListBox& from, ListBox& to, Label& label, TextView what, Frame& frame) {
+    const Text word = Trim(from.text());
+    if (from.list_index() < 0 || word.empty()) return;
     to.clear();
-    label.caption = Text(what) + u" '" + palabra + u"' ";
+    label.caption = Text(what) + u" '" + word + u"' ";
     if (&from == &List2) {
         choose_option(Option1, 0);
         Option1_Click(0);
@@ -67,71 +57,66 @@ void Form3::Command17_Click() {
 // Moving a subkeyword
 
 void Form3::Command15_Click() {
-    abrir();
-    const Text palabra = Trim(List2.text());
-    if (Len(palabra) < 3) {
+    open_store();
+    const Text word = Trim(List2.text());
+    if (Len(word) < 3) {
         MsgBox(u"Keywords must be longer than 3 characters!"); // three pass
         return;
     }
-    Text contada = palabra;
-    if (contar_palabras(contada) >= 21) {
+    Text counted = word;
+    if (contar_palabras(counted) >= 21) {
         MsgBox(u"Can't add a +20 words Keyword Phrase");
         return;
     }
-    if (LCase(palabra) == u"index" || LCase(palabra) == u"sitemap") {
+    if (LCase(word) == u"index" || LCase(word) == u"sitemap") {
         MsgBox(u"'Sitemap' and 'Index' are reserved words.");
         return;
     }
     if (Option1[0].value())
-        mover_como_keyword(palabra);
+        move_as_keyword(word);
     else if (Option1[1].value())
-        mover_como_subkeyword(palabra);
+        move_as_subkeyword(word);
 }
 
-void Form3::mover_como_keyword(const Text& palabra) {
-    estado = 1;
-    if (!filas_keyword(palabra).eof()) {
+void Form3::move_as_keyword(const Text& word) {
+    status = 1;
+    if (!keyword_rows(word).eof()) {
         MsgBox(u"You can't define 2 equal keywords");
-        estado = 2;
+        status = 2;
     }
-    if (estado == 1) {
-        base_datos_.Execute(u"insert into keywords ( pid , keyword ) values ( " + to_text(pid_form) +
-                            u" , '" + palabra + u"' ) ");
-        List1.add_item(palabra);
-    }
+    if (status == 1) insert_keyword(word);
     // A refused subkeyword goes as well: it is lost. Under another keyword it would have stayed.
-    borrar_elemento(palabra);
+    delete_moved_subkeyword(word);
 }
 
-void Form3::mover_como_subkeyword(const Text& palabra) {
+void Form3::move_as_subkeyword(const Text& word) {
     const Text destination = List3.text();
     if (List3.list_index() < 0 || destination.empty()) {
         MsgBox(u"You must select a destination keyword from this frame");
         return;
     }
-    estado = 1;
-    if (!filas_keyword(palabra).eof()) {
+    status = 1;
+    if (!keyword_rows(word).eof()) {
         MsgBox(u"You can't define 2 equal keywords");
-        estado = 2; // and is not looked at: the move goes on
+        status = 2; // and is not looked at: the move goes on
     }
-    const Text key = to_text(buscar_keyid(destination));
-    if (holds_element(base_datos_.OpenRecordset(u"select * from elements where catid = " + key), palabra)) {
+    const std::int16_t key = find_keyid(destination);
+    if (repeated_at(key, word)) {
         MsgBox(u"You can't define 2 equal SubKeyword");
         Frame1.visible = false;
         return;
     }
-    base_datos_.Execute(u"insert into elements ( catid , element ) values ( " + key + u" , '" + palabra +
-                        u"' ) ");
-    borrar_elemento(palabra);
+    insert_element(key, word);
+    delete_moved_subkeyword(word);
 }
 
 /// Takes the moved subkeyword away from the keyword selected last, and closes the frame.
-void Form3::borrar_elemento(const Text& palabra) {
-    base_datos_.Execute(u"delete from elements where element = '" + palabra + u"' and catid = " +
+void Form3::delete_moved_subkeyword(const Text& word) {
+    base_datos_.Execute(u"delete from elements where element = '" + word + u"' and catid = " +
                         to_text(keyid));
     if (List2.list_index() >= 0) List2.remove_item(List2.list_index());
     Frame1.visible = false;
-    refrescar_cuentas();
+    show_counts();
 }
 
 // Moving a keyword
@@ -143,46 +128,46 @@ void Form3::Command16_Click() {
             u"To move this Keyword as another's keyword Subkeyword \nyou Must select a keyword from this frame");
         return;
     }
-    const Text palabra = List1.text();
-    const std::int16_t from = buscar_keyid(palabra);
+    const Text word = List1.text();
+    const std::int16_t from = find_keyid(word);
     // No transaction holds the steps together: what has moved before a refusal stays moved.
-    if (!mover_subkeywords(from, destination)) return;
-    const Text key = to_text(buscar_keyid(destination));
-    if (holds_element(base_datos_.OpenRecordset(u"select * from elements where catid = " + key), palabra)) {
+    if (!move_subkeywords(from, destination)) return;
+    const std::int16_t key = find_keyid(destination);
+    if (repeated_at(key, word)) {
         MsgBox(u"You can't define 2 equal SubKeyword");
         Frame1.visible = false; // the other move's frame: this one's stays open
         return;
     }
-    base_datos_.Execute(u"insert into elements ( catid , element ) values ( " + key + u" , '" + palabra +
-                        u"' ) ");
+    insert_element(key, word);
     // A subkeyword cannot be tied, so the ties go.
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from ties where keyid = " + to_text(keyid) +
-                                                   u" and pid = " + to_text(pid_form));
-         !row.eof(); row.MoveNext())
-        base_datos_.Execute(u"delete from ties where tieid = " + row.Fields(u"tieid").text());
-    base_datos_.Execute(u"delete from keywords where pid = " + to_text(pid_form) + u" and keyword = '" +
-                        palabra + u"' ");
-    if (List1.list_index() >= 0) quitar_keyword(List1.list_index());
+    delete_ties_and_row(keyid, word);
+    if (List1.list_index() >= 0) unlist_keyword(List1.list_index());
     Frame2.visible = false;
-    refrescar_cuentas();
+    show_counts();
+}
+
+/// Whether the word stands among the subkeywords of that keyword, in this very case.
+bool Form3::repeated_at(std::int16_t catid, TextView word) {
+    for (Recordset row = base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(catid));
+         !row.eof(); row.MoveNext())
+        if (Trim(row.Fields(u"element").text()) == word) return true;
+    return false;
 }
 
 /// Moves all subkeywords; false when one is repeated at the destination, where the move stops.
-bool Form3::mover_subkeywords(std::int16_t from, const Text& destination) {
+bool Form3::move_subkeywords(std::int16_t from, const Text& destination) {
     Recordset row = base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(from));
     if (row.eof()) return true;
     MsgBox(u"The subkeywords for this keyword will be moved as subkeyword for the destination keyword");
-    const Text key = to_text(buscar_keyid(destination));
+    const std::int16_t key = find_keyid(destination);
     for (; !row.eof(); row.MoveNext()) {
         const Text element = row.Fields(u"element").text();
-        if (holds_element(base_datos_.OpenRecordset(u"select * from elements where catid = " + key),
-                          Trim(element))) {
+        if (repeated_at(key, Trim(element))) {
             MsgBox(u"SubKeyword '" + element + u"' is repeated in the destination keyword");
             Frame2.visible = false;
             return false;
         }
-        base_datos_.Execute(u"insert into elements ( catid , element ) values ( " + key + u" , '" + element +
-                            u"' )");
+        insert_element(key, element);
         base_datos_.Execute(u"delete from elements where eid = " + row.Fields(u"eid").text());
     }
     return true;
@@ -205,25 +190,22 @@ void Form3::Combo1_Click() {
     if (MsgBox(u"Are you sure you want to copy " + project + u"'s keywords into this project?",
                Buttons::yes_no) == Answer::no)
         return;
-    alguna_ = 0;
+    bool any_here = false;
     for (Recordset row =
              base_datos_.OpenRecordset(u"SELECT Projects.pid as ff , keywords.* From Projects, keywords "
                                        u"WHERE Projects.name = '" +
                                        project + u"' and Projects.pid = keywords.pid ");
          !row.eof(); row.MoveNext()) {
-        const Text palabra = row.Fields(u"keyword").text();
+        const Text word = row.Fields(u"keyword").text();
         const auto& here = List1.entries();
-        encontrada_ = std::find(here.begin(), here.end(), Trim(palabra)) != here.end() ? 1 : 0;
-        if (encontrada_ == 1) {
-            alguna_ = 1;
+        if (std::find(here.begin(), here.end(), Trim(word)) != here.end()) {
+            any_here = true;
             continue;
         }
         // Goes in unchecked: it may equal a subkeyword of this project.
-        base_datos_.Execute(u"insert into keywords ( pid , keyword ) values ( " + to_text(pid_form) +
-                            u" , '" + palabra + u"' ) ");
-        List1.add_item(palabra);
+        insert_keyword(word);
     }
-    if (alguna_ == 1)
+    if (any_here)
         MsgBox(u"Some keywords from " + project +
                u" project couldn't be copied \nbecause they already exist on the current project");
     keyw.caption = to_text(List1.list_count());

@@ -79,11 +79,11 @@ void Form5::Form_Load() {
          !row.eof(); row.MoveNext())
         combo1.add_item(row.Fields(u"Name").text());
     if (open_project != 0) refrescar_cajas();
-    llenar_tabla();
+    fill_table();
 }
 
 /// Fault 9 for a keyword with more than 100 subkeywords.
-void Form5::llenar_tabla() {
+void Form5::fill_table() {
     int row_number = 0;
     for (Recordset row =
              base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid_form));
@@ -107,10 +107,10 @@ void Form5::refrescar_cajas() {
     for (Recordset row =
              base_datos_.OpenRecordset(u"select * from content where pid = " + to_text(module1().pid_actual));
          !row.eof(); row.MoveNext(), ++n) {
-        const Text texto = row.Fields(u"content").text();
-        cell(caja_texto, n) = texto;
+        const Text text = row.Fields(u"content").text();
+        cell(caja_texto, n) = text;
         cell(caja_cid, n) = row.Fields(u"cid").text();
-        List1.add_item(to_text(n + 1) + u". " + Trim(Left(texto, 70)) + u" ... ");
+        List1.add_item(to_text(n + 1) + u". " + Trim(Left(text, 70)) + u" ... ");
     }
     rt1.text = u"";
 }
@@ -140,7 +140,7 @@ void Form5::Command2_Click() {
     Recordset row = base_datos_.OpenRecordset(u"content");
     row.AddNew();
     row.set(u"pid", pid_form);
-    escribir_contenido(row);
+    write_content(row);
     rt1.text = u"";
     refrescar_cajas();
     DoEvents();
@@ -163,7 +163,7 @@ void Form5::Command5_Click() {
     Recordset row =
         base_datos_.OpenRecordset(u"select * from content WHERE cid = " + cell(caja_cid, List1.list_index()));
     row.Edit();
-    escribir_contenido(row);
+    write_content(row);
     rt1.text = u"";
     refrescar_cajas();
     DoEvents();
@@ -172,9 +172,9 @@ void Form5::Command5_Click() {
 }
 
 /// Writes the editor's text to the row that is being added or changed.
-void Form5::escribir_contenido(Recordset& row) {
-    const Text texto = preparar_texto(Text(rt1.text()));
-    row.AppendChunk(u"content", Replace(texto, vbCrLf, u" <br> "));
+void Form5::write_content(Recordset& row) {
+    const Text text = preparar_texto(Text(rt1.text()));
+    row.AppendChunk(u"content", Replace(text, vbCrLf, u" <br> "));
     row.Update();
     row.Close();
 }
@@ -206,13 +206,13 @@ void Form5::Command11_Click() {
     CommonDialog1.flags = 263;
     CommonDialog1.show_font(); // a cancelled dialog wraps the box all the same
     const CommonDialog& font = CommonDialog1;
-    Text texto = u"<font face = \"" + font.font_name + u"\" size = \"" + to_text(font.font_size) + u"\">" +
-                 rt1.text() + u"</font>";
-    if (font.font_italic) texto = wrapped(u"i", texto);
-    if (font.font_bold) texto = wrapped(u"b", texto);
-    if (font.font_strikethru) texto = wrapped(u"s", texto);
-    if (font.font_underline) texto = wrapped(u"u", texto);
-    rt1.text = texto;
+    Text text = u"<font face = \"" + font.font_name + u"\" size = \"" + to_text(font.font_size) + u"\">" +
+                rt1.text() + u"</font>";
+    if (font.font_italic) text = wrapped(u"i", text);
+    if (font.font_bold) text = wrapped(u"b", text);
+    if (font.font_strikethru) text = wrapped(u"s", text);
+    if (font.font_underline) text = wrapped(u"u", text);
+    rt1.text = text;
     Command5_Click();
 }
 
@@ -283,21 +283,21 @@ void Form5::Command7_Click() {
         combo1.text = u"Pick up a project";
         return;
     }
-    stepping_over([&] { importar_cajas(project); });
+    stepping_over([&] { import_boxes(project); });
     stepping_over([&] { refrescar_cajas(); });
 }
 
-void Form5::importar_cajas(const Text& project) {
+void Form5::import_boxes(const Text& project) {
     for (Recordset row = base_datos_.OpenRecordset(u"select * from content , projects where content.pid = "
                                                    u"projects.pid and projects.name = '" +
                                                    project + u"'");
          !row.eof(); row.MoveNext())
         // An apostrophe breaks the statement: that box is left out without a word.
         stepping_over([&] {
-            Text texto = preparar_texto(row.Fields(u"content").text());
-            texto = Replace(texto, vbCrLf, u"<br>");
+            Text text = preparar_texto(row.Fields(u"content").text());
+            text = Replace(text, vbCrLf, u"<br>");
             base_datos_.Execute(u"insert into content ( pid , content ) values ( " + to_text(pid_form) +
-                                u" , '" + texto + u"' ) ");
+                                u" , '" + text + u"' ) ");
         });
 }
 

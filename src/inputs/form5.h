@@ -78,13 +78,11 @@ class Form5 {
     Text RTAux; ///< text of the box as last saved or selected
 
   private:
-    void llenar_tabla();
-    void escribir_contenido(Recordset& row);
-    void importar_cajas(const Text& project);
+    void fill_table();
+    void write_content(Recordset& row);
+    void import_boxes(const Text& project);
 
     Database base_datos_;
-    Text texto_critico_; ///< text that the critic works on
-    Text informe_;       ///< its report
 };
 
 } // namespace twk

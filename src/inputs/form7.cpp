@@ -66,7 +66,7 @@ void Form7::Form_Unload() {
     marcar_forma(screen_number, false);
 }
 
-bool Form7::principal_valido() {
+bool Form7::main_directory_valid() {
     const auto refuse = [](const Text& message) {
         MsgBox(message);
         return false;
@@ -83,7 +83,7 @@ bool Form7::principal_valido() {
 }
 
 void Form7::Command1_Click() {
-    if (!principal_valido()) return;
+    if (!main_directory_valid()) return;
     base_datos = open_hive();
     if (trim_view(Text2.text()).empty()) { // a safety only
         MsgBox(u"Main Gateway Domain to Host is not valid!");
@@ -97,7 +97,7 @@ void Form7::Command1_Click() {
     screens().bring_forward<Form6>(); // as it is, when it is loaded
 }
 
-bool Form7::entrada_valida() {
+bool Form7::entry_valid() {
     const auto refuse = [this](const Text& message) {
         MsgBox(message);
         Text1.set_focus();
@@ -111,7 +111,7 @@ bool Form7::entrada_valida() {
 }
 
 void Form7::Command2_Click() {
-    if (!entrada_valida()) return;
+    if (!entry_valid()) return;
     if (ends_in_slash(Text1.text())) Text1.text = Left(Text1.text(), Len(Text1.text()) - 1); // one, silently
     // Exactly 19: the main directory is the twentieth, and a longer list from the store takes more.
     if (List1.list_count() == 19) {
@@ -126,12 +126,12 @@ void Form7::Command2_Click() {
         MsgBox(u"You can't define 2 equal host");
         return;
     }
-    estado = 1;
+    status = 1;
     if (trim_view(Text1.text()) == trim_view(Text2.text())) {
-        estado = 2;
+        status = 2;
         MsgBox(u"You can't define the same URL in Main Host and other Domain/Directory");
     }
-    if (estado != 1) return;
+    if (status != 1) return;
     base_datos.Execute(u"insert into host ( pid , host ) values ( " + to_text(pid_form) + u" , '" +
                        Text1.text() + u"' ) ");
     List1.add_item(Text1.text());

@@ -35,7 +35,7 @@ class Form7 {
     CommandButton Command7{u"Help"};
 
     std::int16_t pid_form = 0;
-    int estado = 1; ///< 2 once adding has been refused
+    int status = 1; ///< 2 once adding has been refused
     Database base_datos;
 
     void enumerate(ScreenMap& map);
@@ -47,8 +47,8 @@ class Form7 {
     void Command7_Click();
 
   private:
-    bool principal_valido();
-    bool entrada_valida();
+    bool main_directory_valid();
+    bool entry_valid();
 };
 
 } // namespace twk

@@ -32,7 +32,7 @@ void Form8::Form_Load() {
     const Text project = screen<Form2>().txt_name[0].text();
     Label1.caption = u"Synonyms for " + keyword_;
     base_datos_ = open_hive();
-    sinonimos_ = open_synonyms();
+    synonyms_ = open_synonyms();
     for (
         Recordset row = base_datos_.OpenRecordset(
             u"select Projects.pid as X1 , keywords.keyid as X2 , keywords.pid as X3 from Projects , keywords "
@@ -43,7 +43,7 @@ void Form8::Form_Load() {
         keyid_form_ = CInt(row.Fields(u"X2").number());
     }
     for (Recordset row =
-             sinonimos_.OpenRecordset(u"select * from synonyms  where keyword = '" + keyword_ + u"'");
+             synonyms_.OpenRecordset(u"select * from synonyms  where keyword = '" + keyword_ + u"'");
          !row.eof(); row.MoveNext()) {
         // A word of the dictionary that has no synonyms yet shows none.
         const Field synonyms = row.Fields(u"synonyms");
@@ -63,14 +63,14 @@ void Form8::Command2_Click() {
     if (trim_view(Text1.text()).empty()) return;
     base_datos_ = open_hive();
     // Always a further row, also for a word that has one.
-    sinonimos_.Execute(u"insert into synonyms  ( keyword , synonyms  ) values ( '" + Trim(keyword_) +
-                       u"' , '" + preparar_texto(Text(Text1.text())) + u"' ) ");
+    synonyms_.Execute(u"insert into synonyms  ( keyword , synonyms  ) values ( '" + Trim(keyword_) +
+                      u"' , '" + preparar_texto(Text(Text1.text())) + u"' ) ");
     screens().unload<Form8>();
 }
 
 void Form8::Command3_Click() {
-    sinonimos_.Execute(u"delete from synonyms  where keyword = '" + Trim(keyword_) + u"' and synonyms  = '" +
-                       Text1.text() + u"' ");
+    synonyms_.Execute(u"delete from synonyms  where keyword = '" + Trim(keyword_) + u"' and synonyms  = '" +
+                      Text1.text() + u"' ");
     Text1.text = u"";
 }
 

@@ -28,7 +28,7 @@ class Form8 {
 
   private:
     Database base_datos_;
-    Database sinonimos_;
+    Database synonyms_;
     Text keyword_;                ///< as selected when the screen was opened
     std::int16_t pid_form_ = 0;   ///< kept, used by nothing
     std::int16_t keyid_form_ = 0; ///< likewise

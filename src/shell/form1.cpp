@@ -26,7 +26,7 @@ void close_by_name(const std::string& name) {
 
 } // namespace
 
-void cerrar_formas() {
+void close_project_screens() {
     for (std::size_t number = 2; number <= 18; ++number)
         if (module1().formas_abiertas[number] != 0) close_by_name("Form" + std::to_string(number));
     close_by_name("Form21");
@@ -85,7 +85,7 @@ void Form1::combo1_Click() {
 }
 
 void Form1::Command1_Click() {
-    cerrar_formas();
+    close_project_screens();
     module1().proyecto_actual.clear();
     module1().pid_actual = 0;
     screens().unload<Form2>();
@@ -100,14 +100,14 @@ void Form1::Command2_Click() {
 
 void Form1::Command3_Click() {
     try {
-        abrir_proyecto();
+        open_project();
     } catch (const RuntimeFault&) {
         // Ends without a word, the screens as far as they got.
     }
 }
 
-void Form1::abrir_proyecto() {
-    cerrar_formas(); // even when nothing is selected
+void Form1::open_project() {
+    close_project_screens(); // even when nothing is selected
     if (combo1.list_index() < 0) {
         MsgBox(u"Must select a Project from the dropdown list");
         return;
@@ -119,15 +119,15 @@ void Form1::abrir_proyecto() {
         module1().pid_actual = CInt(row.Fields(u"pid").number());
         module1().proyecto_actual = row.Fields(u"Name").text();
         // Loads the screen: its button and its slashes go by the key just set.
-        Form2& paso1 = screen<Form2>();
-        paso1.txt_name[0].text = row.Fields(u"Name").text();
-        paso1.Text2[0].text = row.Fields(u"site_name").text();
-        paso1.txt_dat[0].text = row.Fields(u"Title").text();
-        paso1.txt_dat[1].text = row.Fields(u"category").text();
-        paso1.txt_dat[2].text = row.Fields(u"Description").text();
-        paso1.Text7.text = row.Fields(u"designer_name").text();
-        paso1.txt_url[0].text = row.Fields(u"site_url").text();
-        paso1.txt_url[2].text = row.Fields(u"designer_url").text();
+        Form2& step1 = screen<Form2>();
+        step1.txt_name[0].text = row.Fields(u"Name").text();
+        step1.Text2[0].text = row.Fields(u"site_name").text();
+        step1.txt_dat[0].text = row.Fields(u"Title").text();
+        step1.txt_dat[1].text = row.Fields(u"category").text();
+        step1.txt_dat[2].text = row.Fields(u"Description").text();
+        step1.Text7.text = row.Fields(u"designer_name").text();
+        step1.txt_url[0].text = row.Fields(u"site_url").text();
+        step1.txt_url[2].text = row.Fields(u"designer_url").text();
     }
     for (Recordset row =
              base_datos_.OpenRecordset(u"select * from target where pid = " + to_text(module1().pid_actual));
@@ -145,49 +145,50 @@ void Form1::Command4_Click() {
                u"Replace project?") != Answer::ok)
         return;
     pid_ = 0;
+    Text project;
     for (Recordset row =
              base_datos_.OpenRecordset(u"select * from Projects where name = '" + combo1.text() + u"' ");
          !row.eof(); row.MoveNext()) {
-        nombre_ = row.Fields(u"Name").text();
+        project = row.Fields(u"Name").text();
         pid_ = CInt(row.Fields(u"pid").number());
     }
-    if (pid_ != 0) borrar_carpeta(nombre_);
-    borrar_filas(pid_);
+    if (pid_ != 0) delete_folder(project);
+    delete_rows(pid_);
     combo1.clear();
     llenar_proyectos();
     combo1.text = u"Select an existing project";
 }
 
-/// Files of the first-level folders, those folders, files of the folder, the folder. Fault 75 before a file
-/// is touched for a name or a link that leads elsewhere, and at a folder that holds another one.
-void Form1::borrar_carpeta(const Text& nombre) {
-    const Fence cerca(beside_program(u"Projects"), nombre);
-    if (!dir_exists(cerca.folder())) {
+/// Empties and removes the folders in the project's folder, then that itself. Fault 75 before a file is
+/// touched for a name or a link that leads elsewhere, and at a folder that holds another one.
+void Form1::delete_folder(const Text& project) {
+    const Fence fence(beside_program(u"Projects"), project);
+    if (!dir_exists(fence.folder())) {
         MsgBox(u"The folder corresponding to this project no longer exist or it has been renamed.");
         return;
     }
-    Dir1.set_path(cerca.folder());
+    Dir1.set_path(fence.folder());
     File1.set_pattern(u"*"); // names without a point, too
-    const std::vector<Text> carpetas = Dir1.entries();
-    for (const Text& carpeta : carpetas) cerca.check(carpeta);
+    const std::vector<Text> folders = Dir1.entries();
+    for (const Text& folder : folders) fence.check(folder);
     FileSystemObject fso;
-    const auto vaciar = [&](const Text& carpeta) {
-        File1.set_path(carpeta);
-        for (const Text& archivo : File1.entries()) fso.DeleteFile(carpeta + Text(path_separator) + archivo);
-        RmDir(carpeta);
+    const auto remove_folder = [&](const Text& folder) {
+        File1.set_path(folder);
+        for (const Text& file : File1.entries()) fso.DeleteFile(folder + Text(path_separator) + file);
+        RmDir(folder);
     };
-    for (const Text& carpeta : carpetas) vaciar(carpeta);
-    vaciar(cerca.folder());
+    for (const Text& folder : folders) remove_folder(folder);
+    remove_folder(fence.folder());
 }
 
-void Form1::borrar_filas(std::int16_t pid) {
+void Form1::delete_rows(std::int16_t pid) {
     base_datos_.Execute(u"delete from Projects where pid = " + to_text(pid));
     for (Recordset row = base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid));
          !row.eof(); row.MoveNext())
         base_datos_.Execute(u"delete from elements where catid = " +
                             to_text(CInt(row.Fields(u"keyid").number())));
-    for (const char16_t* tabla : {u"keywords", u"host", u"host1", u"ties", u"content", u"target"})
-        base_datos_.Execute(u"delete from " + Text(tabla) + u" where pid = " + to_text(pid));
+    for (const char16_t* table : {u"keywords", u"host", u"host1", u"ties", u"content", u"target"})
+        base_datos_.Execute(u"delete from " + Text(table) + u" where pid = " + to_text(pid));
 }
 
 void Form1::Command5_Click() {
@@ -195,14 +196,14 @@ void Form1::Command5_Click() {
     screens().show<Form10>();
 }
 
-bool Form1::copia_permitida(const Text& nombre) const {
-    if (nombre.empty()) return false;
-    if (contains(nombre, u" ")) {
+bool Form1::copy_allowed(const Text& project) const {
+    if (project.empty()) return false;
+    if (contains(project, u" ")) {
         MsgBox(u"Project Name can't have spaces");
         return false;
     }
     // In this very case only: a name that differs in case passes, and selects the same rows afterwards.
-    if (std::find(combo1.entries().begin(), combo1.entries().end(), nombre) != combo1.entries().end()) {
+    if (std::find(combo1.entries().begin(), combo1.entries().end(), project) != combo1.entries().end()) {
         MsgBox(u"2 Projects can't have the same name!\nYou should delete one first.");
         return false;
     }
@@ -212,13 +213,13 @@ bool Form1::copia_permitida(const Text& nombre) const {
 }
 
 void Form1::Command6_Click() {
-    const Text nombre = Trim(Text1.text());
-    if (!copia_permitida(nombre)) return;
-    copiar_fila(nombre);
-    copiar_keywords();
-    copiar_contenidos();
-    copiar_lista(u"host");
-    copiar_lista(u"target");
+    const Text project = Trim(Text1.text());
+    if (!copy_allowed(project)) return;
+    copy_row(project);
+    copy_keywords();
+    copy_boxes();
+    copy_list(u"host");
+    copy_list(u"target");
     // Ties and the main gateway directory are not copied, nor is the folder: Step 1 makes that.
     combo1.clear();
     llenar_proyectos();
@@ -227,36 +228,36 @@ void Form1::Command6_Click() {
 
 /// Copies the row of the selected project, the last one of several. Without any, the two keys stay as the
 /// last copy left them.
-void Form1::copiar_fila(const Text& nombre) {
-    Text valores;
+void Form1::copy_row(const Text& project) {
+    Text values;
     for (Recordset row =
              base_datos_.OpenRecordset(u"select * from Projects where name = '" + combo1.text() + u"' ");
          !row.eof(); row.MoveNext()) {
         pid_ = CInt(row.Fields(u"pid").number());
-        valores = u"'" + row.Fields(u"site_name").text() + u"' , '" + row.Fields(u"site_url").text() + u"' " +
-                  u" , '" + row.Fields(u"Title").text() + u"' , '" + row.Fields(u"category").text() +
-                  u"' , " + u" '" + row.Fields(u"Description").text() + u"' , '" +
-                  row.Fields(u"designer_name").text() + u"' , '" + row.Fields(u"designer_url").text() + u"')";
+        values = u"'" + row.Fields(u"site_name").text() + u"' , '" + row.Fields(u"site_url").text() + u"' " +
+                 u" , '" + row.Fields(u"Title").text() + u"' , '" + row.Fields(u"category").text() + u"' , " +
+                 u" '" + row.Fields(u"Description").text() + u"' , '" + row.Fields(u"designer_name").text() +
+                 u"' , '" + row.Fields(u"designer_url").text() + u"')";
     }
-    if (valores.empty()) return;
-    const Text limpio = preparar_texto(Text(nombre));
+    if (values.empty()) return;
+    const Text clean_name = preparar_texto(Text(project));
     base_datos_.Execute(
         u"insert into Projects ( name , site_name , site_url , title , category , description , "
         u"designer_name , designer_url )  values ( '" +
-        limpio + u"' , " + valores);
-    take_last_key(base_datos_.OpenRecordset(u"select * from projects where name = '" + limpio + u"'"), u"pid",
-                  pid_copia_);
+        clean_name + u"' , " + values);
+    take_last_key(base_datos_.OpenRecordset(u"select * from projects where name = '" + clean_name + u"'"),
+                  u"pid", copy_pid_);
 }
 
-void Form1::copiar_keywords() {
+void Form1::copy_keywords() {
     std::int16_t keyid = 0;
     for (Recordset row = base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid_));
          !row.eof(); row.MoveNext()) {
         const Text keyword = row.Fields(u"keyword").text();
-        base_datos_.Execute(u"insert into keywords (pid, keyword) values ( " + to_text(pid_copia_) + u" , '" +
+        base_datos_.Execute(u"insert into keywords (pid, keyword) values ( " + to_text(copy_pid_) + u" , '" +
                             keyword + u"')");
         take_last_key(base_datos_.OpenRecordset(u"select keyid from keywords where pid = " +
-                                                to_text(pid_copia_) + u" and keyword = '" + keyword + u"'"),
+                                                to_text(copy_pid_) + u" and keyword = '" + keyword + u"'"),
                       u"keyid", keyid);
         for (Recordset sub = base_datos_.OpenRecordset(u"select * from elements where catid = " +
                                                        to_text(CInt(row.Fields(u"keyid").number())));
@@ -266,25 +267,24 @@ void Form1::copiar_keywords() {
     }
 }
 
-void Form1::copiar_contenidos() {
-    Recordset destino = base_datos_.OpenRecordset(u"select * from content");
+void Form1::copy_boxes() {
+    Recordset copies = base_datos_.OpenRecordset(u"select * from content");
     for (Recordset row = base_datos_.OpenRecordset(u"select * from content where pid = " + to_text(pid_));
          !row.eof(); row.MoveNext()) {
-        destino.AddNew(); // no statement: quotes in the text do no harm
-        destino.set(u"pid", pid_copia_);
-        destino.set(u"content", row.Fields(u"content").text());
-        destino.Update();
+        copies.AddNew(); // no statement: quotes in the text do no harm
+        copies.set(u"pid", copy_pid_);
+        copies.set(u"content", row.Fields(u"content").text());
+        copies.Update();
     }
 }
 
 /// Copies the rows of `host` or `target`, whose text column bears the table's name.
-void Form1::copiar_lista(TextView tabla) {
-    const Text nombre(tabla);
+void Form1::copy_list(const Text& table) {
     for (Recordset row =
-             base_datos_.OpenRecordset(u"select * from " + nombre + u" where pid = " + to_text(pid_));
+             base_datos_.OpenRecordset(u"select * from " + table + u" where pid = " + to_text(pid_));
          !row.eof(); row.MoveNext())
-        base_datos_.Execute(u"insert into " + nombre + u" (pid, " + nombre + u") values ( " +
-                            to_text(pid_copia_) + u" , '" + row.Fields(nombre).text() + u"')");
+        base_datos_.Execute(u"insert into " + table + u" (pid, " + table + u") values ( " +
+                            to_text(copy_pid_) + u" , '" + row.Fields(table).text() + u"')");
 }
 
 void Form1::Command7_Click() {

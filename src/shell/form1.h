@@ -48,23 +48,22 @@ class Form1 {
     void Label2_Click();
 
   private:
-    void abrir_proyecto();
-    void borrar_carpeta(const Text& nombre);
-    void borrar_filas(std::int16_t pid);
-    bool copia_permitida(const Text& nombre) const;
-    void copiar_fila(const Text& nombre);
-    void copiar_keywords();
-    void copiar_contenidos();
-    void copiar_lista(TextView tabla);
+    void open_project();
+    void delete_folder(const Text& project);
+    void delete_rows(std::int16_t pid);
+    bool copy_allowed(const Text& project) const;
+    void copy_row(const Text& project);
+    void copy_keywords();
+    void copy_boxes();
+    void copy_list(const Text& table);
 
     Database base_datos_;
-    Text nombre_;                ///< name found on deletion
-    std::int16_t pid_ = 0;       ///< key found on deletion or copy
-    std::int16_t pid_copia_ = 0; ///< key of the copy
+    std::int16_t pid_ = 0;      ///< key found on deletion or copy
+    std::int16_t copy_pid_ = 0; ///< key of the copy
 };
 
 /// Unloads the screens of a project under way: numbers 2 to 18 in ascending order, then Form21. Other screens
 /// without a number stay.
-void cerrar_formas();
+void close_project_screens();
 
 } // namespace twk

@@ -147,24 +147,24 @@ void Form2::Command2_Click() {
     if (Revisar_Target(Text2[0].text()) == 1) return;
     module1().url_sitio = txt_url[0].text();
     module1().url_webmaster = txt_url[2].text();
-    if (!campos_completos() || !direcciones_validas()) return;
+    if (!fields_complete() || !addresses_valid()) return;
     const Text project = Trim(txt_name[0].text());
     if (module1().pid_actual != 0 && project != module1().proyecto_actual)
         MsgBox(u"The project " + module1().proyecto_actual + u" has been renamed to " + project);
     base_datos_ = open_hive();
     bool name_taken = false;
     if (module1().pid_actual == 0)
-        name_taken = !proyecto_nuevo();
+        name_taken = !store_new_project();
     else
-        modificar_proyecto();
-    guardar_targets(); // under key 0 after a Cancel, where nobody reads them
+        update_project();
+    store_targets(); // under key 0 after a Cancel, where nobody reads them
     // Only now, with everything saved.
-    if (!direcciones_sin_barra() || name_taken) return;
-    crear_carpeta();
+    if (!addresses_without_slash() || name_taken) return;
+    make_folder();
     screens().bring_forward<Form3>();
 }
 
-bool Form2::campos_completos() {
+bool Form2::fields_complete() {
     const auto refuse = [](const Text& message, TextBox& box) {
         MsgBox(message);
         box.set_focus();
@@ -180,7 +180,7 @@ bool Form2::campos_completos() {
     return true;
 }
 
-bool Form2::direcciones_validas() const {
+bool Form2::addresses_valid() const {
     const Text& url = txt_url[0].text();
     if (!has_scheme(url)) {
         MsgBox(u"The Target Site URL is invalid (" + Trim(url) + u")\n" + Text(should_begin));
@@ -198,7 +198,7 @@ bool Form2::direcciones_validas() const {
     return true;
 }
 
-bool Form2::direcciones_sin_barra() const {
+bool Form2::addresses_without_slash() const {
     if (ends_in_slash(txt_url[0].text())) {
         MsgBox(u"You can't put a backward or fordward slash at the end of the Target Site URL");
         return false;
@@ -212,27 +212,28 @@ bool Form2::direcciones_sin_barra() const {
 }
 
 /// Inserts the project, in the place of one of the same name when the user agrees. False when he does not.
-bool Form2::proyecto_nuevo() {
+bool Form2::store_new_project() {
     const Text project = txt_name[0].text();
     const Recordset same_name =
         base_datos_.OpenRecordset(u"SELECT * From Projects where name = '" + project + u"' ");
     if (!same_name.eof()) {
-        take_last_key(same_name, u"pid", pid_igual_);
+        std::int16_t pid = 0;
+        take_last_key(same_name, u"pid", pid);
         if (MsgBox(u"There's another project named " + project +
                        u"! \nDo you want to replace it?\nAll data related to the old project (keywords, "
                        u"contents, settings) will be lost.",
                    Buttons::ok_cancel, u"Replace project?") != Answer::ok)
             return false;
-        reemplazar(pid_igual_);
+        replace_project(pid);
     }
-    insertar_proyecto();
-    guardar_targets();
+    insert_project();
+    store_targets();
     return true;
 }
 
 /// Ties, main gateway directory, other targets and keywords without a subkeyword stay behind, and so does
 /// everything on disk.
-void Form2::reemplazar(std::int16_t pid) {
+void Form2::replace_project(std::int16_t pid) {
     base_datos_.Execute(u"delete from Projects where pid = " + to_text(pid));
     base_datos_.Execute(u"delete keywords.* , elements.* from keywords , elements where pid = " +
                         to_text(pid) + u" and elements.catid = keywords.keyid");
@@ -240,7 +241,7 @@ void Form2::reemplazar(std::int16_t pid) {
     base_datos_.Execute(u"delete from host where pid = " + to_text(pid));
 }
 
-void Form2::insertar_proyecto() {
+void Form2::insert_project() {
     const Text project = clean(txt_name[0]);
     base_datos_.Execute(
         u"insert into Projects ( name , site_name , site_url , title , category , description , "
@@ -253,7 +254,7 @@ void Form2::insertar_proyecto() {
 }
 
 /// Writes the whole row. A rename onto the name of another project is not looked for.
-void Form2::modificar_proyecto() {
+void Form2::update_project() {
     base_datos_.Execute(u"update Projects set name = '" + clean(txt_name[0]) + u"' ,  site_name = '" +
                         clean(Text2[0]) + u"' ,  site_url = '" + preparar_texto(module1().url_sitio) +
                         u"' ,  title = '" + clean(txt_dat[0]) + u"' ,  category = '" + clean(txt_dat[1]) +
@@ -262,7 +263,7 @@ void Form2::modificar_proyecto() {
                         u"'  where pid = " + to_text(module1().pid_actual));
 }
 
-void Form2::guardar_targets() {
+void Form2::store_targets() {
     WriteTogether replaced(base_datos_); // never half a list
     base_datos_.Execute(u"delete from target where pid = " + to_text(module1().pid_actual));
     for (const Text& other : List1.entries())
@@ -272,7 +273,7 @@ void Form2::guardar_targets() {
 }
 
 /// A folder that is there is kept with all its content; a renamed project's old one stays where it is.
-void Form2::crear_carpeta() const {
+void Form2::make_folder() const {
     const Fence fence(projects_folder(), txt_name[0].text());
     if (!dir_exists(fence.folder())) MkDir(fence.folder());
 }

@@ -67,18 +67,17 @@ class Form2 {
     int Revisar_Target(TextView text);
 
   private:
-    bool campos_completos();
-    bool direcciones_validas() const;
-    bool direcciones_sin_barra() const;
-    bool proyecto_nuevo();
-    void reemplazar(std::int16_t pid);
-    void insertar_proyecto();
-    void modificar_proyecto();
-    void guardar_targets();
-    void crear_carpeta() const;
+    bool fields_complete();
+    bool addresses_valid() const;
+    bool addresses_without_slash() const;
+    bool store_new_project();
+    void replace_project(std::int16_t pid);
+    void insert_project();
+    void update_project();
+    void store_targets();
+    void make_folder() const;
 
     Database base_datos_;
-    std::int16_t pid_igual_ = 0; ///< key of a project found under the same name
 };
 
 } // namespace twk

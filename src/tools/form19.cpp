@@ -35,15 +35,15 @@ void Form19::tomar_web() {
     desktop().navigate(wb1, u"about:blank");
     // A word may take minutes, and the user may close the screen meanwhile: the lookups end with it.
     if (modo_asistente == 2) {
-        for (fila_ = 0; fila_ < static_cast<int>(tabla_asistente.size()); ++fila_) {
-            const auto& row = tabla_asistente[static_cast<std::size_t>(fila_)];
+        for (row_ = 0; row_ < static_cast<int>(tabla_asistente.size()); ++row_) {
+            const auto& row = tabla_asistente[static_cast<std::size_t>(row_)];
             buscar_termino(row.empty() ? Text() : row.front());
             if (!screens().is_loaded<Form19>()) return;
         }
     } else if (modo_asistente == 1) {
         List1.clear();
-        for (indice_ = 0; indice_ < screen<Form3>().List1.list_count(); ++indice_) {
-            const Text entry = screen<Form3>().List1.list(indice_);
+        for (index_ = 0; index_ < screen<Form3>().List1.list_count(); ++index_) {
+            const Text entry = screen<Form3>().List1.list(index_);
             if (!trim_view(entry).empty()) buscar_termino(entry);
             if (!screens().is_loaded<Form19>()) return;
         }
@@ -52,60 +52,60 @@ void Form19::tomar_web() {
     screens().record<Form19>().caption = u"Keyword Wizard";
 }
 
-void Form19::buscar_termino(const Text& termino) {
+void Form19::buscar_termino(const Text& term) {
     screens().record<Form19>().caption = u"Keyword Wizard";
-    const Text buscado = Trim(termino);
-    if (buscado.empty()) return;
+    const Text wanted = Trim(term);
+    if (wanted.empty()) return;
     desktop().navigate(wb1, Text(addresses::suggestion_service) + Text(suggestion_path) +
-                                Replace(buscado, u" ", u"%20"));
+                                Replace(wanted, u" ", u"%20"));
     DoEvents();
     esperar(10);
     if (!screens().is_loaded<Form19>()) return;
     const ListBox& keywords = screen<Form3>().List1;
     screens().record<Form19>().caption =
-        u"Searching over the net: " + (modo_asistente == 1 ? keywords.list(indice_) : keywords.text());
-    if (!esperar_navegador()) return;
+        u"Searching over the net: " + (modo_asistente == 1 ? keywords.list(index_) : keywords.text());
+    if (!wait_for_browser()) return;
     for (const Link& link : desktop().links(wb1))
-        if (contains(link.address, term_key)) tomar_sugerencia(link.address, buscado);
+        if (contains(link.address, term_key)) take_suggestion(link.address, wanted);
 }
 
 /// Waits for the page; false when the user does not want to wait any longer.
-bool Form19::esperar_navegador() {
-    int contador = 0;
+bool Form19::wait_for_browser() {
+    int rounds = 0;
     while (desktop().busy(wb1)) {
-        if (contador == patience) {
+        if (rounds == patience) {
             if (MsgBox(u"This procedure is taking more time than expected.\rDo you want to continue?.",
                        Buttons::ok_cancel, u"Time Out") == Answer::cancel)
                 return false;
-            contador = 0;
+            rounds = 0;
         }
         esperar(5);
-        ++contador;
+        ++rounds;
     }
     return screens().is_loaded<Form19>();
 }
 
 /// The service shows each suggestion as a link whose query repeats the term.
-void Form19::tomar_sugerencia(const Text& address, const Text& termino) {
+void Form19::take_suggestion(const Text& address, const Text& term) {
     const Text behind = Mid(address, InStr(address, term_key) + Len(term_key));
-    Text sugerencia = Left(behind, InStr(behind, u"&mkt") - 1);
-    for (const TextView code : {u"%20", u"%2E", u"%2F"}) replace_all(sugerencia, code, u" ");
-    quitar_dobles(sugerencia);
-    if (conocida(sugerencia)) return;
-    sugerencia = Trim(sugerencia);
+    Text suggestion = Left(behind, InStr(behind, u"&mkt") - 1);
+    for (const TextView code : {u"%20", u"%2E", u"%2F"}) replace_all(suggestion, code, u" ");
+    quitar_dobles(suggestion);
+    if (is_known(suggestion)) return;
+    suggestion = Trim(suggestion);
     if (modo_asistente == 2) {
-        if (fila_ >= 0 && fila_ < static_cast<int>(tabla_asistente.size()))
-            tabla_asistente[static_cast<std::size_t>(fila_)].push_back(sugerencia);
-        List1.add_item(u"-SK-" + termino);
-        List1.add_item(sugerencia);
+        if (row_ >= 0 && row_ < static_cast<int>(tabla_asistente.size()))
+            tabla_asistente[static_cast<std::size_t>(row_)].push_back(suggestion);
+        List1.add_item(u"-SK-" + term);
+        List1.add_item(suggestion);
         return;
     }
-    List1.add_item(sugerencia);
+    List1.add_item(suggestion);
     List1.set_selected(List1.list_count() - 1, true);
 }
 
-bool Form19::conocida(const Text& sugerencia) const {
-    const Text wanted = folded(sugerencia);
+bool Form19::is_known(const Text& suggestion) const {
+    const Text wanted = folded(suggestion);
     const auto same = [&](const Text& entry) { return folded(entry) == wanted; };
     const auto& listed = List1.entries();
     const auto& keywords = screen<Form3>().List1.entries();
@@ -115,15 +115,15 @@ bool Form19::conocida(const Text& sugerencia) const {
 
 void Form19::Command5_Click() {
     for (int i = 0; i < List1.list_count(); ++i) {
-        const Text palabra = Trim(List1.list(i));
-        if (palabra.empty() || !List1.selected(i) || Len(palabra) <= 3) continue;
-        Text contada = palabra;
-        if (contar_palabras(contada) >= 20) continue;
+        const Text word = Trim(List1.list(i));
+        if (word.empty() || !List1.selected(i) || Len(word) <= 3) continue;
+        Text counted = word;
+        if (contar_palabras(counted) >= 20) continue;
         // Reserved words pass here, and the store is not asked: the lookup has compared with Step 2's list.
         Database base_datos = open_hive();
         base_datos.Execute(u"insert into keywords ( pid , keyword ) values ( " +
-                           to_text(module1().pid_actual) + u" , '" + palabra + u"' ) ");
-        screen<Form3>().List1.add_item(palabra);
+                           to_text(module1().pid_actual) + u" , '" + word + u"' ) ");
+        screen<Form3>().List1.add_item(word);
     }
 }
 

@@ -40,19 +40,19 @@ class Form19 {
     /// Runs the lookups of the current mode.
     void tomar_web();
     /// One lookup. A suggestion without "&mkt" behind its term is fault 5.
-    void buscar_termino(const Text& termino);
+    void buscar_termino(const Text& term);
 
     std::int16_t modo_asistente = 1; ///< 1 keywords, 2 subkeywords
     /// Mode 2: the words to look up in column 0, behind each the suggestions found.
     std::vector<std::vector<Text>> tabla_asistente;
 
   private:
-    bool esperar_navegador();
-    void tomar_sugerencia(const Text& address, const Text& termino);
-    bool conocida(const Text& sugerencia) const;
+    bool wait_for_browser();
+    void take_suggestion(const Text& address, const Text& term);
+    bool is_known(const Text& suggestion) const;
 
-    int indice_ = -1; ///< entry of Step 2's list that is looked up
-    int fila_ = -1;   ///< row of `tabla_asistente`, likewise
+    int index_ = -1; ///< entry of Step 2's list that is looked up
+    int row_ = -1;   ///< row of `tabla_asistente`, likewise
 };
 
 } // namespace twk

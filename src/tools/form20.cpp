@@ -88,19 +88,19 @@ void Form20::Command13_Click() {
     Database base_datos = open_hive();
     const Text pid = to_text(module1().pid_actual);
     for (int i = 0; i < List1.list_count(); ++i) {
-        const Text palabra = Trim(List1.list(i));
-        if (!List1.selected(i) || Len(palabra) < 3) continue;
-        Text contada = palabra;
-        if (contar_palabras(contada) > 20) continue;
-        if (LCase(palabra) == u"index" || LCase(palabra) == u"sitemap") continue;
+        const Text word = Trim(List1.list(i));
+        if (!List1.selected(i) || Len(word) < 3) continue;
+        Text counted = word;
+        if (contar_palabras(counted) > 20) continue;
+        if (LCase(word) == u"index" || LCase(word) == u"sitemap") continue;
         if (!base_datos
-                 .OpenRecordset(u"select * from keywords where pid = " + pid + u" and keyword = '" + palabra +
+                 .OpenRecordset(u"select * from keywords where pid = " + pid + u" and keyword = '" + word +
                                 u"'")
                  .eof())
             continue;
-        base_datos.Execute(u"insert into keywords ( pid , keyword ) values ( " + pid + u" , '" + palabra +
+        base_datos.Execute(u"insert into keywords ( pid , keyword ) values ( " + pid + u" , '" + word +
                            u"' ) ");
-        screen<Form3>().List1.add_item(palabra);
+        screen<Form3>().List1.add_item(word);
     }
 }
 

@@ -86,30 +86,30 @@ class Form20 {
     void Label8_Click();
 
     /// One harvested word.
-    struct Palabra {
-        Text palabra;
-        std::int16_t veces = 0; ///< how often it was met
-        Text clave;             ///< the word trimmed and in lower case, for comparing
+    struct Word {
+        Text word;
+        std::int16_t times = 0; ///< how often it was met
+        Text key;               ///< the word trimmed and in lower case, for comparing
     };
 
     /// Links of the results page that are to be fetched.
     std::vector<Text> enlaces;
-    std::vector<Palabra> palabras;
+    std::vector<Word> palabras;
     std::int16_t max_filas = 1000;
     std::int16_t n_palabras = 0;
-    int agotados = 0; ///< time-outs of the pass
+    int time_outs = 0; ///< time-outs of the pass
 
   private:
     void enumerate_options(ScreenMap& map);
-    bool en_marcha() const;
-    void anotar(const Text& entry);
-    void tomar_enlaces(int limite);
-    bool vale_enlace(const Text& address) const;
-    void bajar_enlaces();
-    void bajar(const Text& address);
-    void cosechar(Text pagina, const Text& address);
-    void contar_palabra(TextView pieza);
-    void volcar();
+    bool running() const;
+    void log(const Text& entry);
+    void take_links(int limit);
+    bool wanted(const Text& address) const;
+    void fetch_links();
+    void fetch_page(const Text& address);
+    void harvest(Text page, const Text& address);
+    void count_word(TextView piece);
+    void list_words();
 };
 
 } // namespace twk

@@ -67,7 +67,7 @@ void Form23::Check3_Click() {
 
 /// The folder of the paths is the one in `Dir2`, the names are those of `Text1`: the same only as long as
 /// `Text1` has not been typed over.
-void Form23::listar_archivos() {
+void Form23::list_files_to_treat() {
     archivos.assign(1, {});
     dir_escondido.set_path(Trim(Text1.text()));
     if (Check1.value()) return; // nothing is listed: one empty entry stays
@@ -80,13 +80,13 @@ void Form23::listar_archivos() {
 }
 
 /// The newest entry stands at the top.
-void Form23::anotar(const Text& entry) {
+void Form23::log(const Text& entry) {
     Text5.text = entry + Text5.text();
 }
 
 void Form23::cmdFindAll_Click() {
     try {
-        recorrer_archivos();
+        treat_files();
     } catch (const RuntimeFault&) {
         // Files not yet reached stay as they were.
         MsgBox(
@@ -94,30 +94,30 @@ void Form23::cmdFindAll_Click() {
     }
 }
 
-void Form23::recorrer_archivos() {
-    listar_archivos();
+void Form23::treat_files() {
+    list_files_to_treat();
     Frame1[results].visible = true;
     ProgressBar1.set_value(0.01);
     Text5.text = u"Find started at " + ahora();
     const int last = static_cast<int>(archivos.size()) - 1;
     for (int i = 0; i <= last; ++i) {
         const Text path = archivos[static_cast<std::size_t>(i)];
-        const int lines = tratar_archivo(path);
+        const int lines = treat_file(path);
         ProgressBar1.set_value(progress(last, i)); // a single file is treated, then the division fails
-        anotar(path + (Check3.value() ? u" - Founded in " : u" - Replaced in ") + to_text(lines) +
-               u" lines\r\n");
+        log(path + (Check3.value() ? u" - Founded in " : u" - Replaced in ") + to_text(lines) +
+            u" lines\r\n");
         DoEvents();
         if (!screens().is_loaded<Form23>()) return; // closed meanwhile
     }
-    anotar(to_text(last) + u" Files processed\r\n\r\n"); // one less than there are
-    anotar(u"Process Finished at " + ahora() + u"\r\n");
+    log(to_text(last) + u" Files processed\r\n\r\n"); // one less than there are
+    log(u"Process Finished at " + ahora() + u"\r\n");
     ProgressBar1.set_value(100);
 }
 
 /// Returns the number of lines with the find text. When replacing, only these lines are written: a file loses
 /// all others, and one without any ends up empty. A failure at the end leaves the text in the
 /// "_temp" file.
-int Form23::tratar_archivo(const Text& path) {
+int Form23::treat_file(const Text& path) {
     const bool replacing = !Check3.value();
     const Text& find = Text3.text();
     FileSystemObject fso;
@@ -158,7 +158,7 @@ void Form23::cmdTWK_Click() {
 }
 
 void Form23::Command1_Click() {
-    listar_archivos();
+    list_files_to_treat();
     Frame1[results].visible = true;
 }
 

@@ -80,10 +80,10 @@ class Form23 {
     std::vector<Text> archivos; ///< full paths of the files that the criteria selected
 
   private:
-    void listar_archivos();
-    void recorrer_archivos();
-    int tratar_archivo(const Text& path);
-    void anotar(const Text& entry);
+    void list_files_to_treat();
+    void treat_files();
+    int treat_file(const Text& path);
+    void log(const Text& entry);
 
     Database base_datos_;
 };

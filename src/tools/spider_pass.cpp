@@ -14,7 +14,7 @@ namespace twk {
 
 namespace {
 
-constexpr TextView running = u"Cancell";
+constexpr TextView running_caption = u"Cancell";
 constexpr TextView head_end = u"</head>";
 constexpr int http_protocol = 4;
 
@@ -33,19 +33,19 @@ void keep_head(Text& page) {
 
 } // namespace
 
-bool Form20::en_marcha() const {
-    return Command7.caption() == running;
+bool Form20::running() const {
+    return Command7.caption() == running_caption;
 }
 
 /// The newest entry stands at the top.
-void Form20::anotar(const Text& entry) {
+void Form20::log(const Text& entry) {
     Text1.text = entry + u"\r\n\r\n" + Text1.text();
 }
 
 void Form20::Command7_Click() {
-    if (en_marcha() && MsgBox(u"Cancell Spider?", Buttons::yes_no, u"Spider") == Answer::yes) {
+    if (running() && MsgBox(u"Cancell Spider?", Buttons::yes_no, u"Spider") == Answer::yes) {
         Command7.caption = u"Spider";
-        anotar(ahora() + u" - Process Cancelled");
+        log(ahora() + u" - Process Cancelled");
         return; // the pass under way sees the caption and ends by itself
     }
     // After a No a second pass starts inside the first, with a fresh table and log.
@@ -54,29 +54,29 @@ void Form20::Command7_Click() {
     max_filas = 1000;
     Text1.text = ahora() + u" - Starting Spider";
     if (!IsNumeric(combo1.text()) || combo1.text() == u"0") return;
-    const int limite = CLng(combo1.text());
-    if (limite < 0) throw RuntimeFault(fault_subscript);
+    const int limit = CLng(combo1.text());
+    if (limit < 0) throw RuntimeFault(fault_subscript);
     enlaces.clear();
-    agotados = 0;
-    Command7.caption = Text(running);
+    time_outs = 0;
+    Command7.caption = Text(running_caption);
     Frame5.visible = true;
-    tomar_enlaces(limite);
-    bajar_enlaces();
-    volcar();
+    take_links(limit);
+    fetch_links();
+    list_words();
     Command7.caption = u"Spider";
     Frame5.visible = false;
 }
 
 /// Takes links up to the limit and one more.
-void Form20::tomar_enlaces(int limite) {
+void Form20::take_links(int limit) {
     for (const Link& link : desktop().links(wb1)) {
-        if (!en_marcha()) return;
-        if (static_cast<int>(enlaces.size()) <= limite && vale_enlace(link.address))
+        if (!running()) return;
+        if (static_cast<int>(enlaces.size()) <= limit && wanted(link.address))
             enlaces.push_back(Trim(link.address));
     }
 }
 
-bool Form20::vale_enlace(const Text& address) const {
+bool Form20::wanted(const Text& address) const {
     if (Check1.value())
         for (const Text& word : List2.entries())
             if (!trim_view(word).empty() && InStr(address, word) > 0) return false;
@@ -89,96 +89,95 @@ bool Form20::vale_enlace(const Text& address) const {
     return true;
 }
 
-void Form20::bajar_enlaces() {
+void Form20::fetch_links() {
     const auto empty = [](const Text& entry) { return entry.empty(); };
     const auto total = static_cast<int>(enlaces.size()) -
                        static_cast<int>(std::count_if(enlaces.begin(), enlaces.end(), empty));
-    for (int i = 0; i <= total && en_marcha(); ++i) {
+    for (int i = 0; i <= total && running(); ++i) {
         // The round behind the last entry finds nothing. A pass inside this one changes the table.
         if (i >= static_cast<int>(enlaces.size())) continue;
         const Text address = enlaces[static_cast<std::size_t>(i)];
         if (trim_view(address).empty() || trim_view(address) == u"http://") continue;
-        bajar(address);
-        if (!en_marcha()) return;
+        fetch_page(address);
+        if (!running()) return;
         ProgressBar2.set_value(100.0 / total * i);
     }
 }
 
 /// Fetches one page and takes its words. Only a time-out is told apart from success: after any other fault
 /// the page is empty.
-void Form20::bajar(const Text& address) {
-    Text pagina;
+void Form20::fetch_page(const Text& address) {
+    Text page;
     int error = 0;
     try {
         Inet1.protocol = http_protocol;
-        pagina = desktop().fetch(Inet1, address);
+        page = desktop().fetch(Inet1, address);
     } catch (const RuntimeFault& fault) {
         error = fault.number();
     }
-    if (!en_marcha()) return;
-    while (Inet1.still_executing && en_marcha()) DoEvents();
+    if (!running()) return;
+    while (Inet1.still_executing && running()) DoEvents();
     if (error == fault_timed_out) {
-        anotar(ahora() + u"Timed out: " + address); // nothing between date and text
-        ++agotados;
+        log(ahora() + u"Timed out: " + address); // nothing between date and text
+        ++time_outs;
         return;
     }
-    anotar(Trim(address) + u" downloaded");
-    cosechar(std::move(pagina), address);
+    log(Trim(address) + u" downloaded");
+    harvest(std::move(page), address);
 }
 
-void Form20::cosechar(Text pagina, const Text& address) {
-    keep_head(pagina);
-    pagina = preparar_texto(pagina);
-    quitar_dobles(pagina);
-    const Text minusculas = LCase(pagina);
+void Form20::harvest(Text page, const Text& address) {
+    keep_head(page);
+    page = preparar_texto(page);
+    quitar_dobles(page);
+    const Text lower_case = LCase(page);
     // The first "keywords" of the head counts, in a tag for keywords or not.
-    const int p = InStr(minusculas, u"keywords");
-    if (p <= 0 || p >= InStr(minusculas, head_end)) {
-        anotar(ahora() + u" - No keywords found in " + address);
+    const int p = InStr(lower_case, u"keywords");
+    if (p <= 0 || p >= InStr(lower_case, head_end)) {
+        log(ahora() + u" - No keywords found in " + address);
         return;
     }
-    anotar(ahora() + u" - Searching for keywords in " + address);
-    Text lista = Right(pagina, Len(pagina) - p - 8); // the character behind "keywords" is dropped, too
-    lista = Trim(Left(lista, InStr(lista, u">")));   // ">" stays on the last word
-    if (lista.starts_with(u"content")) {
+    log(ahora() + u" - Searching for keywords in " + address);
+    Text list = Right(page, Len(page) - p - 8); // the character behind "keywords" is dropped, too
+    list = Trim(Left(list, InStr(list, u">"))); // ">" stays on the last word
+    if (list.starts_with(u"content")) {
         // Inside a keyword "content" is lost with the rest.
-        for (const TextView part : {u"content", u"\"", u"="}) replace_all(lista, part, u"");
-        lista = Trim(lista);
+        for (const TextView part : {u"content", u"\"", u"="}) replace_all(list, part, u"");
+        list = Trim(list);
     }
-    for (const TextView pieza : split_views(lista, u",")) {
+    for (const TextView piece : split_views(list, u",")) {
         if (n_palabras >= max_filas) return;
-        contar_palabra(pieza);
+        count_word(piece);
     }
 }
 
-void Form20::contar_palabra(TextView pieza) {
-    const Text clave = folded(pieza);
+void Form20::count_word(TextView piece) {
+    const Text key = folded(piece);
     const auto& keywords = screen<Form3>().List1.entries();
-    if (!clave.empty() && std::any_of(keywords.begin(), keywords.end(), [&](const Text& keyword) {
-            return same_text(trim_view(keyword), clave);
-        }))
+    if (!key.empty() && std::any_of(keywords.begin(), keywords.end(),
+                                    [&](const Text& keyword) { return same_text(trim_view(keyword), key); }))
         return; // the project has it already
-    for (Palabra& row : palabras)
-        if (row.clave == clave) {
-            row.veces = CInt(row.veces + 1.0);
+    for (Word& row : palabras)
+        if (row.key == key) {
+            row.times = CInt(row.times + 1.0);
             return;
         }
-    Text palabra = preparar_texto(Trim(pieza));
-    Text clave_guardada = folded(palabra);
-    palabras.push_back({std::move(palabra), 1, std::move(clave_guardada)});
+    Text word = preparar_texto(Trim(piece));
+    Text stored_key = folded(word);
+    palabras.push_back({std::move(word), 1, std::move(stored_key)});
     ++n_palabras;
 }
 
 /// Lists the words; those met more than once arrive selected. What earlier passes listed stays.
-void Form20::volcar() {
-    if (!en_marcha()) return;
-    anotar(ahora() + u" - Dumping Keywords ");
-    for (const Palabra& row : palabras) {
-        if (trim_view(row.palabra).empty()) continue;
-        List1.add_item(row.palabra);
-        if (row.veces > 1) List1.set_selected(List1.list_count() - 1, true);
+void Form20::list_words() {
+    if (!running()) return;
+    log(ahora() + u" - Dumping Keywords ");
+    for (const Word& row : palabras) {
+        if (trim_view(row.word).empty()) continue;
+        List1.add_item(row.word);
+        if (row.times > 1) List1.set_selected(List1.list_count() - 1, true);
     }
-    anotar(ahora() + u" - Process Complete ");
+    log(ahora() + u" - Process Complete ");
     ProgressBar2.set_value(100);
     Frame5.visible = false;
 }

@@ -73,7 +73,7 @@ TEST_F(Spider, HarvestsASiteWhateverItsPagesDo) {
     EXPECT_TRUE(logged(url("/loop") + u" downloaded")) << "other failures count as an empty page";
     EXPECT_TRUE(logged(u" - No keywords found in " + url("/none")));
     EXPECT_TRUE(logged(u" - Process Complete "));
-    EXPECT_EQ(form().agotados, 1);
+    EXPECT_EQ(form().time_outs, 1);
     EXPECT_EQ(server.requests.back(), "/missing");
 }
 

@@ -80,7 +80,7 @@ TEST_F(KeywordLists, come_back_as_they_were_exported) {
     EXPECT_EQ(stored_subkeywords(4) + "/" + stored_subkeywords(5) + "/" + stored_subkeywords(6), "red//tall");
     EXPECT_TRUE(form().Frame3.visible());
     EXPECT_FALSE(form().Frame4.visible());
-    EXPECT_EQ(form().silencio, 0);
+    EXPECT_EQ(form().silent, 0);
 }
 
 TEST_F(KeywordLists, give_the_subkeywords_of_a_known_keyword_to_another) {
@@ -118,7 +118,7 @@ TEST_F(KeywordLists, end_at_a_line_without_its_mark_and_keep_what_came_before) {
         EXPECT_EQ(keywords(), expected);
         EXPECT_EQ(stored_keywords(), expected);
         EXPECT_FALSE(form().Frame4.visible());
-        EXPECT_EQ(form().silencio, 0);
+        EXPECT_EQ(form().silent, 0);
     }
 }
 
@@ -139,7 +139,7 @@ TEST_F(KeywordLists, come_in_from_any_file_by_line_or_separator) {
     import(u"words.txt", true);
     EXPECT_EQ(app.desktop.messages.size(), 3U);
     EXPECT_EQ(form().List1.list_count(), 6);
-    EXPECT_EQ(form().silencio, 0);
+    EXPECT_EQ(form().silent, 0);
 }
 
 TEST_F(KeywordLists, ask_for_a_file) {
@@ -147,7 +147,7 @@ TEST_F(KeywordLists, ask_for_a_file) {
     EXPECT_TRUE(form().Frame3.visible());
     app.desktop.expect(u"You must select a file to import");
     click("Command20");
-    EXPECT_EQ(form().silencio, 0);
+    EXPECT_EQ(form().silent, 0);
     click("op_imp", 1);
     EXPECT_TRUE(form().Cmb_separator.enabled());
     EXPECT_GT(form().File2.list_count(), 0);

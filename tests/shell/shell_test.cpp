@@ -68,7 +68,7 @@ TEST(CleanUp, ClosesNumberedScreensAndLeavesTheOthers) {
     screen<Form2>();
     screen<Form10>();
     screen<frmVersion>();
-    cerrar_formas();
+    close_project_screens();
     EXPECT_TRUE(screens().is_loaded<Form1>());
     EXPECT_FALSE(screens().is_loaded<Form2>());
     EXPECT_FALSE(screens().is_loaded<Form10>());
@@ -82,7 +82,7 @@ TEST(CleanUp, GoesByTheFlag) {
     TempApp app;
     screen<Form10>();
     marcar_forma(10, false);
-    cerrar_formas();
+    close_project_screens();
     EXPECT_TRUE(screens().is_loaded<Form10>());
 }
 

@@ -46,7 +46,7 @@ TEST_F(Spider, gathers_the_words_of_the_linked_pages) {
             u"http://e.example/", u"http://f.example/"});
     EXPECT_EQ(words(), "roses|Red Roses|last>|>|farm>");
     EXPECT_EQ(selected(), std::vector<int>{0});
-    EXPECT_EQ(form().agotados, 1);
+    EXPECT_EQ(form().time_outs, 1);
     EXPECT_EQ(form().Inet1.request_timeout, 60);
     EXPECT_EQ(form().Inet1.protocol, 4);
     const Text now = u"24/11/2026 10:18:05 a.m.";
