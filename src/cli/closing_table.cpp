@@ -12,6 +12,8 @@ namespace twk::cli {
 
 namespace {
 
+using Json = nlohmann::ordered_json;
+
 /// Pages may have any extension or none at all; pictures and movies are told by theirs.
 bool is_page(const Text& name) {
     const Text lower = LCase(name);
@@ -33,6 +35,11 @@ std::string row(const std::string& name, std::size_t width, const std::string& p
     std::snprintf(figures, sizeof figures, "  %7s  %11s  %12s\n", pages.c_str(), other.c_str(),
                   bytes.c_str());
     return name + std::string(width - std::min(width, name.size()), ' ') + figures;
+}
+
+/// The object as text. A name on the command line may be no text at all: what is none of UTF-8 is replaced.
+std::string lines(const Json& object) {
+    return object.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 } // namespace
@@ -68,7 +75,6 @@ std::string closing_table(const ClosingFigures& figures) {
 }
 
 std::string closing_json(const std::string& project, const ClosingFigures& figures) {
-    using Json = nlohmann::ordered_json;
     Json destinations = Json::array();
     for (const auto& each : figures.destinations)
         destinations.push_back({{"folder", to_utf8(each.folder)},
@@ -82,7 +88,11 @@ std::string closing_json(const std::string& project, const ClosingFigures& figur
                       {"seconds", figures.seconds},
                       {"site_map", to_utf8(figures.site_map)},
                       {"destinations", std::move(destinations)}};
-    return all.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+    return lines(all);
+}
+
+std::string failure_json(const std::string& project, Status status, const Text& message) {
+    return lines({{"project", project}, {"status", static_cast<int>(status)}, {"message", to_utf8(message)}});
 }
 
 } // namespace twk::cli

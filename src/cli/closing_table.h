@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/commands.h"
 #include "platform/text.h"
 
 #include <cstdint>
@@ -31,5 +32,7 @@ ClosingFigures measure_output(const Text& project_folder);
 std::string closing_table(const ClosingFigures& figures);
 /// The same as one JSON object.
 std::string closing_json(const std::string& project, const ClosingFigures& figures);
+/// What stands in its place when there was no run: project, status and the last message.
+std::string failure_json(const std::string& project, Status status, const Text& message);
 
 } // namespace twk::cli

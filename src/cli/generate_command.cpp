@@ -10,8 +10,6 @@
 #include <fstream>
 #include <ostream>
 
-#include <nlohmann/json.hpp>
-
 namespace twk::cli {
 
 namespace {
@@ -43,14 +41,6 @@ Status write_report(const Console& console, const std::filesystem::path& file) {
     return Status::fault;
 }
 
-void tell_failure(const Console& console, const ConsoleDesktop& desktop, const std::string& project,
-                  Status status) {
-    const std::string message = desktop.messages().empty() ? "" : to_utf8(desktop.messages().back());
-    const nlohmann::ordered_json all = {
-        {"project", project}, {"status", static_cast<int>(status)}, {"message", message}};
-    console.out << all.dump(2) << '\n';
-}
-
 } // namespace
 
 Status generate_project(const Console& console, const std::filesystem::path& application_folder,
@@ -66,7 +56,9 @@ Status generate_project(const Console& console, const std::filesystem::path& app
     const auto start = std::chrono::steady_clock::now();
     const Status status = walk_and_generate(talk, session, options.project);
     if (status != Status::done) {
-        if (options.json) tell_failure(console, session.desktop, options.project, status);
+        const std::vector<Text>& messages = session.desktop.messages();
+        if (options.json)
+            console.out << failure_json(options.project, status, messages.empty() ? Text() : messages.back());
         return status;
     }
     ClosingFigures figures = measure_output(screen<Form6>().run->project_folder);

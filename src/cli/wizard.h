@@ -4,7 +4,6 @@
 #include "cli/console_desktop.h"
 
 #include <functional>
-#include <memory>
 
 namespace twk::cli {
 

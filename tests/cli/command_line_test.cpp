@@ -116,6 +116,10 @@ TEST_F(CommandLine, ARefusalOfTheWizardIsStatusThreeWithItsMessage) {
     EXPECT_EQ(run({"check", "nobody"}).status, 3);
     EXPECT_NE(run({"check", "nobody"}).err.find("Must select a Project from the dropdown list"),
               std::string::npos);
+    // A name in another encoding does not spoil the figures.
+    const Outcome latin = run({"generate", "caf\xe9", "--json"});
+    EXPECT_EQ(latin.status, 3);
+    EXPECT_EQ(Json::parse(latin.out).at("status"), 3);
 
     fs::remove(app.folder() / "twk.dat");
     refused("ERROR: Missing File");
