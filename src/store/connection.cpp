@@ -15,7 +15,7 @@ namespace twk {
 
 /// "delete A.* , B.* from A , B where ...", in its parts.
 struct JoinDelete {
-    std::string a, b;
+    std::string first, second; ///< the tables
     std::string condition;
 };
 
@@ -183,12 +183,13 @@ void Connection::change(const Text& text) {
 
 /// Deletes the rows of both tables that the join matches, and no others, in one go.
 void Connection::delete_joined(const JoinDelete& parts) {
-    const auto& [a, b, condition] = parts;
+    const std::string& a = parts.first;
+    const std::string& b = parts.second;
     const Statement back = prepare_own("rollback");
     begin();
     try {
         const Statement matches = prepare_own("select " + a + ".rowid , " + b + ".rowid from " + a + " , " +
-                                              b + " where " + condition);
+                                              b + " where " + parts.condition);
         std::set<std::int64_t> of_a, of_b;
         while (step(matches.get()) == SQLITE_ROW) {
             of_a.insert(sqlite3_column_int64(matches.get(), 0));
