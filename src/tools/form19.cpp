@@ -20,10 +20,6 @@ constexpr TextView term_key = u"?term=";
 /// Rounds of waiting, 5 seconds each, after which the user is asked: ten minutes.
 constexpr int patience = 120;
 
-Text folded(TextView text) {
-    return LCase(trim_view(text));
-}
-
 } // namespace
 
 void Form19::Form_Load() {
@@ -105,8 +101,7 @@ void Form19::take_suggestion(const Text& address, const Text& term) {
 }
 
 bool Form19::is_known(const Text& suggestion) const {
-    const Text wanted = folded(suggestion);
-    const auto same = [&](const Text& entry) { return folded(entry) == wanted; };
+    const auto same = [&](const Text& entry) { return same_text(trim_view(entry), trim_view(suggestion)); };
     const auto& listed = List1.entries();
     const auto& keywords = screen<Form3>().List1.entries();
     return std::any_of(listed.begin(), listed.end(), same) ||

@@ -3,7 +3,6 @@
 #include "engine/text_toolkit.h"
 #include "inputs/form3.h"
 #include "platform/addresses.h"
-#include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 #include "shell/module1.h"
@@ -16,7 +15,6 @@ namespace twk {
 namespace {
 
 constexpr double bar_at_rest = 0.001;
-constexpr int http_protocol = 4;
 
 } // namespace
 

@@ -12,6 +12,7 @@ class Form20 {
   public:
     static constexpr const char* name = "Form20";
     static constexpr TextView title = u"Spider";
+    static constexpr int http_protocol = 4; ///< of `Inet1`
 
     Form20();
 

@@ -16,7 +16,6 @@ namespace {
 
 constexpr TextView running_caption = u"Cancell";
 constexpr TextView head_end = u"</head>";
-constexpr int http_protocol = 4;
 
 Text folded(TextView text) {
     return LCase(trim_view(text));
