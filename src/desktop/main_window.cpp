@@ -20,6 +20,8 @@ namespace {
 
 constexpr QSize usual_size(1180, 820);
 constexpr QSize least_size(640, 480);
+/// Room for the frame and title bar that the window manager adds; their size is known only once shown.
+constexpr QSize frame_room(16, 48);
 
 /// Names in a menu show their "&".
 QString menu_text(const Text& caption) {
@@ -37,7 +39,7 @@ MainWindow::MainWindow() : area_(new QMdiArea) {
     area_->setBackground(palette().brush(QPalette::Mid));
     setCentralWidget(area_);
     setMinimumSize(least_size);
-    resize(usual_size.boundedTo(screen()->availableSize()));
+    resize(usual_size.boundedTo(screen()->availableSize() - frame_room));
     // Whatever an event has unloaded is destroyed once it has returned.
     ScreenBinding::after_event = [this] {
         if (!retired_.empty()) QTimer::singleShot(0, this, &MainWindow::bury);
