@@ -23,12 +23,12 @@ QListWidgetItem* new_item(const Text& text, bool ticked_list) {
 }
 
 /// Brings the widget's entries up to the control's: a list grows or shrinks by one entry at a time, and
-/// what has not changed keeps its place on the screen.
-void show_entries(QListWidget& list, const std::vector<Text>& entries, bool ticked = false) {
+/// what has not changed keeps its place on the screen. Gives the first row whose mark may have changed.
+int show_entries(QListWidget& list, const std::vector<Text>& entries, bool ticked = false) {
     const int count = static_cast<int>(entries.size());
     if (count == list.count() + 1) {
         list.addItem(new_item(entries.back(), ticked));
-        return;
+        return count - 1;
     }
     int same = 0;
     const auto shown = [&list](int row) { return from_qt(list.item(row)->text()); };
@@ -36,15 +36,16 @@ void show_entries(QListWidget& list, const std::vector<Text>& entries, bool tick
         ++same;
     if (count == list.count() - 1) {
         delete list.takeItem(same);
-        return;
+        return 0;
     }
     if (count == list.count()) {
         for (int row = same; row < count; ++row)
             list.item(row)->setText(to_qt(entries[static_cast<std::size_t>(row)]));
-        return;
+        return 0;
     }
     list.clear();
     for (const Text& each : entries) list.addItem(new_item(each, ticked));
+    return 0;
 }
 
 void show_current(QListWidget& list, int row) {
@@ -53,8 +54,8 @@ void show_current(QListWidget& list, int row) {
     if (row < 0 && !several) list.clearSelection();
 }
 
-void show_marks(QListWidget& list, const ListBox& box) {
-    for (int row = 0; row < list.count(); ++row) {
+void show_marks(QListWidget& list, const ListBox& box, int first) {
+    for (int row = first; row < list.count(); ++row) {
         if (box.tick_marks)
             list.item(row)->setCheckState(box.selected(row) ? Qt::Checked : Qt::Unchecked);
         else if (box.multi_select)
@@ -103,9 +104,9 @@ bool link(const ControlLink<ListBox>& link) {
                                             : QAbstractItemView::SingleSelection);
     watch_control(link, {Prop::list, Prop::list_index}, [list, &box](Prop changed) {
         const QSignalBlocker quiet(list);
-        if (changed == Prop::list) show_entries(*list, box.entries(), box.tick_marks);
+        const int first = changed == Prop::list ? show_entries(*list, box.entries(), box.tick_marks) : 0;
         if (changed == Prop::list || changed == Prop::list_index) show_current(*list, box.list_index());
-        if (changed == Prop::list || changed == Prop::selection) show_marks(*list, box);
+        if (changed == Prop::list || changed == Prop::selection) show_marks(*list, box, first);
     });
     link_choice(link, *list, [list, &box] {
         take_selection(*list, box);
