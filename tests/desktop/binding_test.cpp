@@ -51,6 +51,8 @@ TEST_F(Binding, TheMenuIsWholeAndListsTheOpenScreens) {
         const bool there = qt.window().findChild<QAction*>(name) != nullptr ||
                            qt.window().findChild<QMenu*>(name) != nullptr;
         EXPECT_TRUE(there) << each.name;
+        const bool answered = screens().record<mdi1>().map.find_event(each.name, "Click") != nullptr;
+        EXPECT_TRUE(answered || !each.command) << each.name;
     }
     user.press(Qt::Key_N, Qt::ControlModifier);
     EXPECT_TRUE(user.sees("Form1"));

@@ -56,7 +56,7 @@ TEST_F(Browser, SurfsAndPicksUpTheTextOfAPage) {
     EXPECT_TRUE(contains(picked, u"café")) << to_utf8(picked);
     EXPECT_FALSE(contains(picked, u"missing")) << to_utf8(picked);
 
-    user.enter("Form11", "Text1", server.address(QStringLiteral("/two")));
+    user.type("Form11", "Text1", server.address(QStringLiteral("/two")));
     user.click("Form11", "Command5");
     ASSERT_TRUE(at(browser, server.address(QStringLiteral("/two")))) << "an alert would have blocked";
     user.click("Form11", "Command2");

@@ -110,15 +110,11 @@ TEST_F(Wizard, TakesANewProjectToTheFinishedRunByClicksAndKeysAlone) {
               user.find<QProgressBar>("Form12", "ProgressBar1")->maximum());
     ASSERT_EQ(opened.urls.size(), 1);
     EXPECT_EQ(opened.urls[0].fileName().toLower(), QStringLiteral("sitemap-do-not-upload.htm"));
-    for (const auto& [table, rows] : std::initializer_list<std::pair<const char16_t*, int>>{{u"Projects", 1},
-                                                                                            {u"keywords", 3},
-                                                                                            {u"elements", 2},
-                                                                                            {u"content", 3},
-                                                                                            {u"ties", 1},
-                                                                                            {u"host", 1},
-                                                                                            {u"host1", 1},
-                                                                                            {u"target", 1}})
-        EXPECT_EQ(app.count(u"select * from " + Text(table)), rows) << to_utf8(table);
+    std::string rows;
+    for (const char16_t* table :
+         {u"Projects", u"keywords", u"elements", u"content", u"ties", u"host", u"host1", u"target"})
+        rows += std::to_string(app.count(u"select * from " + Text(table))) + " ";
+    EXPECT_EQ(rows, "1 3 2 3 1 1 1 1 ");
     const std::vector<Text> folders = list_folders(app.path(u"Projects/teahouse"));
     EXPECT_EQ(folders, (std::vector<Text>{u"teas.example", u"www.teahouse.example-pages",
                                           u"www.teahouse.example-pages_More_Files"}));
