@@ -30,6 +30,8 @@ def require(condition, text):
 
 
 class AppFolder:
+    kept = False  # for somebody to look into
+
     def __init__(self, options, parent=None):
         self.options = options
         self.base = tempfile.mkdtemp(prefix="tarnwick-fault-", dir=parent)
@@ -50,8 +52,12 @@ class AppFolder:
                 os.remove(self.file(name))
         shutil.copy(os.path.join(self.options.stores, "hive.mdb"), self.path)
 
-    def remove(self):
-        shutil.rmtree(self.base, ignore_errors=True)
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        if not self.kept:
+            shutil.rmtree(self.base, ignore_errors=True)
 
     def file(self, *names):
         return os.path.join(self.path, *names)

@@ -131,15 +131,12 @@ void copy_project(const Text& project, int rounds) {
 }
 
 /// First column of all rows, a line each, "name: value".
-bool print_rows(sqlite3* store, const std::string& name, const std::string& query) {
-    struct Printer {
-        const std::string& name;
-        static int row(void* self, int, char** values, char**) {
-            tell(static_cast<Printer*>(self)->name + ": " + (values[0] != nullptr ? values[0] : ""));
-            return 0;
-        }
-    } printer{name};
-    return sqlite3_exec(store, query.c_str(), Printer::row, &printer, nullptr) == SQLITE_OK;
+bool print_rows(sqlite3* store, std::string name, const std::string& query) {
+    const auto print = [](void* to, int, char** values, char**) {
+        tell(*static_cast<std::string*>(to) + ": " + (values[0] != nullptr ? values[0] : ""));
+        return 0;
+    };
+    return sqlite3_exec(store, query.c_str(), print, &name, nullptr) == SQLITE_OK;
 }
 
 void print_stores() {

@@ -20,15 +20,25 @@ namespace fs = std::filesystem;
 class HostileNames : public HostileApp {
   protected:
     void take_pages_away() { fs::remove_all(app.folder() / "Projects" / "shed"); }
+    /// A run with each of the texts, once `use` has put it in its place, ends in the fault.
+    void expect_runs(const std::function<void(const Text&)>& use, int fault, const std::vector<Text>& texts) {
+        for (const Text& text : texts) {
+            use(text);
+            EXPECT_EQ(run_project(), fault) << to_utf8(text);
+        }
+    }
+    /// The event of deleting the project that the manager lists under the name.
+    int fault_of_deleting(const Text& name) {
+        screens().dispatch([] { screens().unload<Form1>(); });
+        screens().dispatch([] { screens().show<Form1>(); });
+        ComboBox& list = screen<Form1>().combo1;
+        const auto& names = list.entries();
+        list.select(static_cast<int>(std::find(names.begin(), names.end(), name) - names.begin()));
+        return fault_of_event<Form1>("Command4");
+    }
     bool pages_stand() const {
         return app.exists(u"Projects/shed/pages.oakshed.example-sheds/garden_shed.htm");
     }
-};
-
-/// A text and what the run with it ends in.
-struct Outcome {
-    Text text;
-    int fault;
 };
 
 const Text long_name(300, u'n');
@@ -74,17 +84,11 @@ TEST_F(HostileNames, StepOneMakesNoFolderElsewhere) {
 
 TEST_F(HostileNames, DeletingAProjectErasesNothingElsewhere) {
     take_pages_away();
-    int number = 0;
     for (const Text& name : {Text(u".."), Text(u"."), Text(u""), Text(u"../outside"), Text(u"..\\.."),
                              Text(u"link"), Text(u"precious/main")}) {
         app.run_unfenced("update Projects set name = '" + to_utf8(name) + "' where pid = 1");
-        screens().dispatch([] { screens().unload<Form1>(); });
-        screens().dispatch([] { screens().show<Form1>(); });
-        Form1& manager = screen<Form1>();
-        const auto& names = manager.combo1.entries();
-        manager.combo1.select(static_cast<int>(std::find(names.begin(), names.end(), name) - names.begin()));
-        EXPECT_EQ(fault_of_event<Form1>("Command4"), fault_path_access) << to_utf8(name);
-        EXPECT_EQ(app.count(u"select * from keywords where pid = 1"), 3) << ++number;
+        EXPECT_EQ(fault_of_deleting(name), fault_path_access) << to_utf8(name);
+        EXPECT_EQ(app.count(u"select * from keywords where pid = 1"), 3) << to_utf8(name);
     }
 }
 
@@ -92,68 +96,49 @@ TEST_F(HostileNames, DeletingAProjectDoesNotFollowLinksInItsFolder) {
     ASSERT_EQ(run_project(), 0);
     const fs::path folder = app.folder() / "Projects" / "shed";
     fs::create_symlink(app.folder() / "outside" / "file.txt", folder / "link.htm");
-    const auto remove = [&] {
-        screens().dispatch([] { screens().unload<Form1>(); });
-        screens().dispatch([] { screens().show<Form1>(); });
-        screen<Form1>().combo1.select(0);
-        return fault_of_event<Form1>("Command4");
-    };
     fs::create_directory_symlink(app.folder() / "outside", folder / "out");
-    EXPECT_EQ(remove(), fault_path_access);
+    EXPECT_EQ(fault_of_deleting(u"shed"), fault_path_access);
     EXPECT_TRUE(pages_stand());
     fs::remove(folder / "out");
-    EXPECT_EQ(remove(), 0);
+    EXPECT_EQ(fault_of_deleting(u"shed"), 0);
     EXPECT_FALSE(fs::exists(folder));
 }
 
 TEST_F(HostileNames, MainHostStaysBelowTheProject) {
-    for (const auto& [host, fault] :
-         {Outcome{u"http://..", fault_path_access}, Outcome{u"http://.", fault_path_access},
-          Outcome{u"..", fault_path_access}, Outcome{u"http://", fault_path_access},
-          Outcome{u"", fault_path_access}, Outcome{u"http://" + long_name, fault_path_access},
-          Outcome{u"http://../..", 0}, Outcome{u"http://x\\..\\..\\escape", 0}, Outcome{u"/etc/escape", 0},
-          Outcome{u"http://a\"b'c", 0}, Outcome{u"http://a b?c=d&e*f", 0}, Outcome{u"ftp://x/y", 0}}) {
-        screen<Form7>().Text2.text = host;
-        EXPECT_EQ(run_project(), fault) << to_utf8(host);
-    }
+    const auto use = [](const Text& host) { screen<Form7>().Text2.text = host; };
+    expect_runs(use, fault_path_access,
+                {u"http://..", u"http://.", u"..", u"http://", u"", u"http://" + long_name});
+    expect_runs(use, 0,
+                {u"http://../..", u"http://x\\..\\..\\escape", u"/etc/escape", u"http://a\"b'c",
+                 u"http://a b?c=d&e*f", u"ftp://x/y"});
 }
 
 TEST_F(HostileNames, SecondaryHostsStayBelowTheProject) {
     ListBox& hosts = screen<Form7>().List1;
     hosts.add_item(u"");
-    for (const auto& [host, fault] :
-         {Outcome{u"http://..", fault_path_access}, Outcome{u"http://.", fault_path_access},
-          Outcome{u"http://", fault_path_access}, Outcome{u"http://" + long_name, fault_path_access},
-          Outcome{u"http://../../precious", 0}, Outcome{u"\\..\\precious", 0},
-          Outcome{u"http://'\"<>|", 0}}) {
-        hosts.set_list(0, host);
-        EXPECT_EQ(run_project(), fault) << to_utf8(host);
-    }
+    const auto use = [&hosts](const Text& host) { hosts.set_list(0, host); };
+    expect_runs(use, fault_path_access, {u"http://..", u"http://.", u"http://", u"http://" + long_name});
+    expect_runs(use, 0, {u"http://../../precious", u"\\..\\precious", u"http://'\"<>|"});
 }
 
 TEST_F(HostileNames, KeywordsFromTheStoreCannotLeaveTheFolder) {
-    // A separator in a name leads to a folder that is not there, dots lead to the fence.
-    for (const auto& [keyword, fault] :
-         {Outcome{u"../../escape", fault_path_access},
-          Outcome{u"../../precious/main/page", fault_path_access},
-          Outcome{u"/etc/escape", fault_path_not_found}, Outcome{u"a/b", fault_path_not_found},
-          Outcome{u"..", 0}, Outcome{u"...", 0}, Outcome{u"a\\..\\b", 0},
-          Outcome{u"<b>bold</b>", fault_path_not_found}, Outcome{u"quote \" and $$$", 0},
-          Outcome{u"*BREAKLINE*", 0}, Outcome{u"it''s", fault_statement},
-          Outcome{long_name, fault_path_access}}) {
+    const auto use = [this](const Text& keyword) {
         app.run_unfenced("update keywords set keyword = '" + to_utf8(keyword) + "' where keyid = 1");
-        EXPECT_EQ(run_project(), fault) << to_utf8(keyword);
-    }
+    };
+    // A separator in a name leads to a folder that is not there, dots lead to the fence.
+    expect_runs(use, fault_path_access, {u"../../escape", u"../../precious/main/page", long_name});
+    expect_runs(use, fault_path_not_found, {u"/etc/escape", u"a/b", u"<b>bold</b>"});
+    expect_runs(use, fault_statement, {u"it''s"});
+    expect_runs(use, 0, {u"..", u"...", u"a\\..\\b", u"quote \" and $$$", u"*BREAKLINE*"});
 }
 
 TEST_F(HostileNames, SubkeywordsFromTheStoreCannotLeaveTheFolder) {
-    for (const auto& [element, fault] :
-         {Outcome{u"/../../../escape", fault_path_access},
-          Outcome{u"/../../precious/main/page", fault_path_not_found}, Outcome{u"a/b", fault_path_not_found},
-          Outcome{u"..", 0}, Outcome{u"it''s", 0}, Outcome{long_name, fault_path_access}}) {
+    const auto use = [this](const Text& element) {
         app.run_unfenced("update elements set element = '" + to_utf8(element) + "' where eid = 1");
-        EXPECT_EQ(run_project(), fault) << to_utf8(element);
-    }
+    };
+    expect_runs(use, fault_path_access, {u"/../../../escape", long_name});
+    expect_runs(use, fault_path_not_found, {u"/../../precious/main/page", u"a/b"});
+    expect_runs(use, 0, {u"..", u"it''s"});
 }
 
 TEST_F(HostileNames, EditSubKeywordLetsAnythingInAndNothingOut) {
@@ -178,16 +163,13 @@ TEST_F(HostileNames, PageNamesOfStepSixStayInTheirFolder) {
         screen<Form17>().List1.set_list(0, entry);
         screens().fire(shown, "Command1", "Click");
     };
-    for (const auto& [name, fault] :
-         {Outcome{u"../../x.htm", fault_path_access},
-          Outcome{u"../../precious/main/page.htm", fault_path_access},
-          Outcome{u"../pages.oakshed.example-sheds/sitemap.htm", 0},
-          Outcome{u"/etc/x.htm", fault_path_not_found}, Outcome{u"..", fault_path_access},
-          Outcome{u"..\\..\\x.htm", 0}, Outcome{u".htm", 0}, Outcome{long_name, fault_path_access}}) {
+    const auto use = [&](const Text& name) {
         entry = name;
         module1().paso6_cancelado = u"0";
-        EXPECT_EQ(run_project(), fault) << to_utf8(name);
-    }
+    };
+    expect_runs(use, fault_path_access, {u"../../x.htm", u"../../precious/main/page.htm", u"..", long_name});
+    expect_runs(use, fault_path_not_found, {u"/etc/x.htm"});
+    expect_runs(use, 0, {u"../pages.oakshed.example-sheds/sitemap.htm", u"..\\..\\x.htm", u".htm"});
 }
 
 TEST_F(HostileNames, AListOfPageNamesIsReadAsItStands) {
@@ -204,25 +186,18 @@ TEST_F(HostileNames, AListOfPageNamesIsReadAsItStands) {
 }
 
 TEST_F(HostileNames, ExtensionsCannotLeadOut) {
-    for (const auto& [extension, fault] :
-         {Outcome{u"../x", fault_path_not_found}, Outcome{u".htm/../../..", fault_path_access},
-          Outcome{u"/../../../escape.htm", fault_path_access}, Outcome{u"/x", fault_path_not_found},
-          Outcome{u"..", 0}, Outcome{u".htm\\..\\..", 0}, Outcome{u"." + long_name, fault_path_access}}) {
-        project->form.Combo10.text = extension;
-        EXPECT_EQ(run_project(), fault) << to_utf8(extension);
-    }
-    project->form.Combo10.text = u"/";
-    EXPECT_EQ(run_project(), -1);
+    const auto use = [this](const Text& extension) { project->form.Combo10.text = extension; };
+    expect_runs(use, fault_path_access, {u".htm/../../..", u"/../../../escape.htm", u"." + long_name});
+    expect_runs(use, fault_path_not_found, {u"../x", u"/x"});
+    expect_runs(use, 0, {u"..", u".htm\\..\\.."});
+    expect_runs(use, -1, {u"/"});
 }
 
 TEST_F(HostileNames, WordSeparatorsCannotLeadOut) {
-    for (const auto& [separator, fault] :
-         {Outcome{u"/", fault_path_not_found}, Outcome{u"/../", fault_path_not_found},
-          Outcome{u"/../../../", fault_path_access}, Outcome{u"..", 0}, Outcome{u"\\", 0}, Outcome{u"", 0},
-          Outcome{Text(200, u'-'), fault_path_access}}) {
-        project->form.Combo6.text = separator;
-        EXPECT_EQ(run_project(), fault) << to_utf8(separator);
-    }
+    const auto use = [this](const Text& separator) { project->form.Combo6.text = separator; };
+    expect_runs(use, fault_path_access, {u"/../../../", Text(200, u'-')});
+    expect_runs(use, fault_path_not_found, {u"/", u"/../"});
+    expect_runs(use, 0, {u"..", u"\\", u""});
 }
 
 } // namespace twk::test

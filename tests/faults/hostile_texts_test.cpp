@@ -30,6 +30,10 @@ class HostileTexts : public HostileApp {
         project->form.plantilla_sitemap = given(bytes);
         return run_project();
     }
+    /// The click ends in the fault of a statement that is none.
+    template <class Form> void refused(const char* control, const Text& attack) {
+        EXPECT_EQ(fault_of_event<Form>(control), fault_statement) << control << ": " << to_utf8(attack);
+    }
     std::string hallway() const { return app.read(project->main_folder(u"sitemap.htm")); }
     int run_with_box(const Text& text) {
         Recordset box = app.hive().OpenRecordset(u"select * from content WHERE cid = 1");
@@ -127,33 +131,30 @@ TEST_F(HostileTexts, ASettingsFileWithEndlessListsStaysQuick) {
 TEST_F(HostileTexts, ApostrophesInStepOne) {
     Form2& step1 = screen<Form2>();
     step1.txt_url[0].text = u"http://www.oakshed.example";
+    for (TextBox& box : step1.txt_dat) box.text = u"text";
     const std::string rows = app.all_rows();
     for (const Text attack : attacks) {
-        for (TextBox& box : step1.txt_dat) box.text = u"text";
-        TextBox* const boxes[] = {&step1.txt_dat[0], &step1.txt_dat[1], &step1.txt_dat[2], &step1.Text7,
-                                  &step1.txt_url[2]};
-        for (TextBox* box : boxes) {
+        for (TextBox* box :
+             {&step1.txt_dat[0], &step1.txt_dat[1], &step1.txt_dat[2], &step1.Text7, &step1.txt_url[2]}) {
             const Text before = box->text();
             box->text = attack;
-            EXPECT_EQ(fault_of_event<Form2>("Command2"), fault_statement) << to_utf8(attack);
+            refused<Form2>("Command2", attack);
             box->text = before;
         }
         step1.txt_name[0].text = Replace(attack, u" ", u"");
         for (const int pid : {1, 0}) { // a modified project, and a new one
             module1().pid_actual = static_cast<std::int16_t>(pid);
-            EXPECT_EQ(fault_of_event<Form2>("Command2"), fault_statement) << to_utf8(attack);
+            refused<Form2>("Command2", attack);
         }
         step1.txt_name[0].text = u"shed";
         module1().pid_actual = 1;
-        EXPECT_EQ(app.all_rows(), rows) << to_utf8(attack);
+    }
+    EXPECT_EQ(app.all_rows(), rows);
+    for (const Text attack : attacks) {
         step1.List1.add_item(u"http://" + Text(attack));
-        EXPECT_EQ(fault_of_event<Form2>("Command2"), fault_statement) << to_utf8(attack);
+        refused<Form2>("Command2", attack);
         EXPECT_EQ(app.count(u"select * from target where pid = 1"), 0);
         step1.List1.clear();
-        app.run_unfenced(
-            "delete from Projects where pid = 1; insert into Projects select 1, 'shed', 'OakShed', "
-            "'http://www.oakshed.example', 'Building sheds', 'Home and Garden', 'Plain advice on "
-            "sheds.', 'Ida Brook', 'http://www.oakshed.example/ida'");
     }
 }
 
@@ -163,14 +164,13 @@ TEST_F(HostileTexts, ApostrophesInHosts) {
     const std::string rows = app.all_rows();
     for (const Text attack : attacks) {
         step4.Text1.text = u"http://" + attack;
-        EXPECT_EQ(fault_of_event<Form7>("Command2"), fault_statement) << to_utf8(attack);
+        refused<Form7>("Command2", attack);
         step4.List1.add_item(attack);
         step4.List1.list_index = step4.List1.list_count() - 1;
-        EXPECT_EQ(fault_of_event<Form7>("Command3"), fault_statement) << to_utf8(attack);
+        refused<Form7>("Command3", attack);
         step4.List1.clear();
-        EXPECT_EQ(app.all_rows(), rows) << to_utf8(attack);
         step4.Text2.text = u"http://" + attack;
-        EXPECT_EQ(fault_of_event<Form7>("Command1"), fault_statement) << to_utf8(attack);
+        refused<Form7>("Command1", attack);
         EXPECT_EQ(app.all_rows(), rows) << to_utf8(attack);
     }
 }
@@ -185,27 +185,18 @@ TEST_F(HostileTexts, ApostrophesInKeywordsAndCopies) {
     for (const Text attack : attacks) {
         step2.List2.set_selected(0, true);
         step2.Text2.text = attack; // Edit SubKeyword does not ask the word check
-        EXPECT_EQ(fault_of_event<Form3>("Command22"), fault_statement) << to_utf8(attack);
+        refused<Form3>("Command22", attack);
         step2.Text1.text = attack; // Add Keyword does
         EXPECT_EQ(fault_of_event<Form3>("Command2"), 0) << to_utf8(attack);
         manager.combo1.select(0);
         manager.Text1.text = Replace(attack, u" ", u"");
-        EXPECT_EQ(fault_of_event<Form1>("Command6"), fault_statement) << to_utf8(attack);
+        refused<Form1>("Command6", attack);
         EXPECT_EQ(app.all_rows(), rows) << to_utf8(attack);
     }
 }
 
 TEST_F(HostileTexts, ApostrophesInTheDictionary) {
-    Database words = app.synonyms();
-    words.Execute(u"insert into synonyms  ( keyword , synonyms  ) values ( 'x' , 'y' ) ");
-    const auto rows = [&] {
-        Text all;
-        for (Recordset row = words.OpenRecordset(u"select * from synonyms order by keyword"); !row.eof();
-             row.MoveNext())
-            all += row.Fields(u"keyword").text() + u"=" + row.Fields(u"synonyms").text() + u";";
-        return to_utf8(all);
-    };
-    const std::string before = rows();
+    app.synonyms().Execute(u"insert into synonyms  ( keyword , synonyms  ) values ( 'x' , 'y' ) ");
     Form10& dictionary = screen<Form10>();
     std::vector<Text> tried(std::begin(attacks), std::end(attacks));
     tried.push_back(u"x' and synonyms  = 'y"); // would be the deletion of another screen
@@ -213,15 +204,15 @@ TEST_F(HostileTexts, ApostrophesInTheDictionary) {
     tried.push_back(u"it''s");
     for (const Text& attack : tried) {
         dictionary.Text2.text = attack;
-        EXPECT_EQ(fault_of_event<Form10>("Command2"), fault_statement) << to_utf8(attack);
+        refused<Form10>("Command2", attack);
         dictionary.List1.clear();
         dictionary.List1.add_item(attack);
         dictionary.List1.list_index = 0;
-        EXPECT_EQ(fault_of_event<Form10>("List1"), fault_statement) << to_utf8(attack);
         dictionary.Text1.text = u"new";
-        EXPECT_EQ(fault_of_event<Form10>("Command3"), fault_statement) << to_utf8(attack);
-        EXPECT_EQ(fault_of_event<Form10>("Command4"), fault_statement) << to_utf8(attack);
-        EXPECT_EQ(rows(), before) << to_utf8(attack);
+        for (const char* control : {"List1", "Command3", "Command4"}) refused<Form10>(control, attack);
+        const Recordset rows = app.synonyms().OpenRecordset(u"select * from synonyms order by keyword");
+        EXPECT_EQ(rows.RecordCount(), 1) << to_utf8(attack);
+        EXPECT_EQ(rows.Fields(u"keyword").text() + rows.Fields(u"synonyms").text(), u"xy") << to_utf8(attack);
     }
 }
 

@@ -183,8 +183,7 @@ def main():
         name = kind.__name__.lower()
         if options.only not in (None, name):
             continue
-        app = AppFolder(options)
-        try:
+        with AppFolder(options) as app:
             work = kind(app)
             hits = number = 0
             # A run that ends before its moment is looked at like the others, but does not count.
@@ -194,14 +193,10 @@ def main():
                 try:
                     hits += work.once(moment)
                 except Failure as failure:
-                    kept = app.base
-                    app = None
-                    raise Failure(f"{name} {number}, killed after {moment:.3f} s: {failure}\nleft in {kept}")
+                    app.kept = True
+                    raise Failure(f"{name} {number}, killed after {moment:.3f} s: {failure}\nleft in {app.base}")
             print(f"{name}: {number} rounds, {hits} killed before they ended", flush=True)
             require(hits > 0, f"{name}: no round was killed")
-        finally:
-            if app is not None:
-                app.remove()
     return 0
 
 

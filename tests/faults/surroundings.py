@@ -89,11 +89,8 @@ def full_disk(options):
         with open(words, "w", encoding="ascii") as out:
             out.writelines(f"word on a full disk {i}\n" for i in range(400))
         for free in (0, 4, 8, 12, 16, 24, 40, 80):  # KB
-            with open(filler, "wb") as out:
-                space = os.statvfs(mount).f_bavail * os.statvfs(mount).f_frsize
-                out.write(b"x" * max(0, space - free * 1024))
             shutil.rmtree(app.file("Projects"), ignore_errors=True)
-            with open(filler, "ab") as out:
+            with open(filler, "wb") as out:
                 space = os.statvfs(mount).f_bavail * os.statvfs(mount).f_frsize
                 out.write(b"x" * max(0, space - free * 1024))
             text = app.run(app.generating(), expected=None)
@@ -131,8 +128,7 @@ def read_only_folder(options):
         prefix = AS_NOBODY
         if why := why_not_nobody(options):
             return why
-    app = AppFolder(options)
-    try:
+    with AppFolder(options) as app:
         whole = Undisturbed(app)
         os.chmod(app.base, 0o755)
         modes(app.path, 0o555, 0o444)
@@ -156,17 +152,13 @@ def read_only_folder(options):
             require(set(app.pages()) <= set(before), "pages were written")
             give_away(app.path)
             whole.check_again(app, prefix)
-    finally:
-        modes(app.path, 0o755, 0o644)
-        app.remove()
     return None
 
 
 def unreadable_picture(options):
     if why := why_not_nobody(options):
         return why
-    app = AppFolder(options)
-    try:
+    with AppFolder(options) as app:
         whole = Undisturbed(app)
         give_away(app.path)
         for name in os.listdir(app.file("Images")):
@@ -177,14 +169,11 @@ def unreadable_picture(options):
         give_away(app.path)
         modes(app.path, 0o755, 0o644)
         whole.check_again(app, AS_NOBODY)
-    finally:
-        app.remove()
     return None
 
 
 def locked_store(options):
-    app = AppFolder(options)
-    try:
+    with AppFolder(options) as app:
         whole = Undisturbed(app)
         locker = subprocess.Popen(app.driver("lock", "hive.mdb"), stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         try:
@@ -197,16 +186,13 @@ def locked_store(options):
         finally:
             locker.communicate(b"\n")
         whole.check_again(app)
-    finally:
-        app.remove()
     return None
 
 
 def files_held_open(options):
     """Also a folder that stands where the settings should be saved."""
-    app = AppFolder(options)
     held = []
-    try:
+    with AppFolder(options) as app:
         whole = Undisturbed(app)
         for name in whole.pages:
             held.append(open(app.file("Projects", PROJECT, name), "rb"))
@@ -218,10 +204,8 @@ def files_held_open(options):
         require("File wasn't saved." in text, text)
         require(app.pages() == whole.pages, "other pages")
         require(os.listdir(app.file(PROJECT + ".dat")) == [], "the folder has changed")
-    finally:
         for stream in held:
             stream.close()
-        app.remove()
     return None
 
 

@@ -18,47 +18,39 @@ void fill(ListBox& list, const std::vector<Text>& entries) {
 }
 
 /// Inserts the rows; returns the project's key.
-int store(const SampleContent& content) {
-    Database hive = OpenDatabase(app_path() + u"/hive.mdb", false, false, u";pwd=lantern4821");
-    const auto key = [&hive](const Text& statement, TextView column) {
-        return CInt(hive.OpenRecordset(statement).Fields(column).number());
+Text store(TempApp& app, const SampleContent& content) {
+    const Database open = app.hive(); // spares every statement the opening
+    app.run(u"insert into Projects ( name , site_name , site_url , title , category , description , "
+            u"designer_name , designer_url )  values ( '" +
+            content.name + u"' , '" + content.site_name +
+            u"' , 'http://www.oakshed.example' , 'Building sheds' , 'Home and Garden' , "
+            u"'Plain advice on sheds.' , '" +
+            content.designer_name + u"' , '" + content.designer_url + u"' ) ");
+    const Text pid = app.value(u"select * from projects where name = '" + content.name + u"'", u"pid");
+    const auto key_of = [&](const Text& keyword) {
+        return app.value(u"select keyid from keywords where pid = " + pid + u" and keyword = '" + keyword +
+                             u"'",
+                         u"keyid");
     };
-    hive.Execute(u"insert into Projects ( name , site_name , site_url , title , category , description , "
-                 u"designer_name , designer_url )  values ( '" +
-                 content.name + u"' , '" + content.site_name +
-                 u"' , 'http://www.oakshed.example' , 'Building sheds' , 'Home and Garden' , "
-                 u"'Plain advice on sheds.' , '" +
-                 content.designer_name + u"' , '" + content.designer_url + u"' ) ");
-    const int pid_number = key(u"select * from projects where name = '" + content.name + u"'", u"pid");
-    const Text pid = to_text(pid_number);
     for (const SampleKeyword& each : content.keywords) {
-        hive.Execute(u"insert into keywords ( pid , keyword ) values ( " + pid + u" , '" + each.keyword +
-                     u"' ) ");
-        const Text keyid = to_text(
-            key(u"select keyid from keywords where pid = " + pid + u" and keyword = '" + each.keyword + u"'",
-                u"keyid"));
+        app.run(u"insert into keywords ( pid , keyword ) values ( " + pid + u" , '" + each.keyword + u"' ) ");
         for (const Text& sub : each.subkeywords)
-            hive.Execute(u"insert into elements ( catid , element ) values ( " + keyid + u" , '" + sub +
-                         u"' ) ");
+            app.run(u"insert into elements ( catid , element ) values ( " + key_of(each.keyword) + u" , '" +
+                    sub + u"' ) ");
     }
+    int boxes = app.count(u"select * from content");
     for (const SampleBox& box : content.boxes) {
-        hive.Execute(u"insert into content ( pid , content ) values ( " + pid + u" , '" + box.text + u"' ) ");
-        Text cid;
-        for (Recordset row = hive.OpenRecordset(u"select * from content where pid = " + pid); !row.eof();
-             row.MoveNext())
-            cid = row.Fields(u"cid").text();
+        app.run(u"insert into content ( pid , content ) values ( " + pid + u" , '" + box.text + u"' ) ");
+        ++boxes; // the key of a box, as none has ever been deleted
         for (const Text& tied : box.tied)
-            hive.Execute(u"insert into ties ( pid , keyid , cid  ) values ( " + pid + u" , " +
-                         to_text(key(u"select keyid from keywords where pid = " + pid + u" and keyword = '" +
-                                         tied + u"'",
-                                     u"keyid")) +
-                         u" , " + cid + u"  ) ");
+            app.run(u"insert into ties ( pid , keyid , cid  ) values ( " + pid + u" , " + key_of(tied) +
+                    u" , " + to_text(boxes) + u"  ) ");
     }
-    return pid_number;
+    return pid;
 }
 
-void load_screens(const SampleContent& content, int pid) {
-    module1().pid_actual = static_cast<std::int16_t>(pid);
+void load_screens(const SampleContent& content, const Text& pid) {
+    module1().pid_actual = CInt(pid);
     module1().proyecto_actual = content.name;
     Form2& step1 = screen<Form2>();
     step1.txt_name[0].text = content.name;
@@ -102,7 +94,7 @@ SampleProject::SampleProject(TempApp& app, const SampleContent& content)
           // The delivered strategy may change without changing the golden pages.
           app.write(content.name + u".dat",
                     bytes_of(std::filesystem::path(TEST_GOLDEN_DIR) / "strategy.dat"));
-          load_screens(content, store(content));
+          load_screens(content, store(app, content));
           return screen<Form6>();
       }()),
       app_(app), name_(content.name),
