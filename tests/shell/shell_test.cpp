@@ -8,8 +8,6 @@
 #include "support/temp_app.h"
 #include "tools/form23.h"
 
-#include <set>
-
 #include <gtest/gtest.h>
 
 namespace twk {
@@ -19,24 +17,6 @@ using test::TempApp;
 
 void choose(const char* entry) {
     ASSERT_TRUE(screens().fire<mdi1>(entry, "Click")) << entry;
-}
-
-TEST(MainMenu, EveryCommandHasItsEventAndEveryEntryItsParent) {
-    TempApp app;
-    Screen& window = screens().record<mdi1>();
-    std::set<std::string> tops, commands;
-    for (const MenuEntry& entry : mdi1::menu()) {
-        if (*entry.parent == '\0')
-            tops.insert(entry.name);
-        else
-            EXPECT_TRUE(tops.count(entry.parent)) << entry.name;
-        if (entry.command) {
-            commands.insert(entry.name);
-            EXPECT_NE(window.map.find_event(entry.name, "Click"), nullptr) << entry.name;
-        }
-    }
-    EXPECT_EQ(commands.size(), window.map.all_events().size());
-    EXPECT_EQ(tops, (std::set<std::string>{"a", "b", "c", "win", "D"}));
 }
 
 TEST(MainMenu, OpensScreensAndAddresses) {
@@ -76,12 +56,8 @@ TEST(CleanUp, ClosesNumberedScreensAndLeavesTheOthers) {
     EXPECT_EQ(module1().formas_abiertas[1], -1);
     EXPECT_EQ(module1().formas_abiertas[2], 0);
     EXPECT_EQ(module1().formas_abiertas[10], 0);
-}
-
-TEST(CleanUp, GoesByTheFlag) {
-    TempApp app;
     screen<Form10>();
-    marcar_forma(10, false);
+    marcar_forma(10, false); // the flag decides, not the screen
     close_project_screens();
     EXPECT_TRUE(screens().is_loaded<Form10>());
 }

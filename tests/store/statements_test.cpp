@@ -31,112 +31,7 @@ struct Filled : TempApp {
     }
 };
 
-struct Query {
-    const char16_t* statement;
-    int rows;
-};
-
-class EveryQuery : public testing::TestWithParam<Query> {};
-
-constexpr Query queries[] = {
-    {u"select * from Projects", 2},
-    {u"select * from Projects where name = 'alpha'", 1},
-    {u"SELECT * From Projects where name = 'ALPHA' ", 1},
-    {u"select Projects.pid as X1 from Projects where name = 'alpha' ", 1},
-    {u"select * from Projects where Projects.pid = 2", 1},
-    {u"select distinct(name) from Projects , keywords where  Projects.pid = keywords.pid  and projects.name <> "
-     u"'alpha'  order by name asc ",
-     1},
-    {u"select * from keywords where pid = 1", 1},
-    {u"select * from keywords where keyword = 'Garden' and pid = 1", 1},
-    {u"select keywords.keyid as X2 , keywords.pid as X3  from keywords where keyword = 'garden' and pid = 1",
-     1},
-    {u"select keyid from keywords where pid = 1 and keyword = 'garden'", 1},
-    {u"select * from keywords where  pid =   '1'  and keyword = 'garden'", 1},
-    {u"SELECT Projects.pid as ff , keywords.* From Projects, keywords WHERE Projects.name = 'beta' and "
-     u"Projects.pid = keywords.pid ",
-     1},
-    // Joined by the names alone, not by the key: the first row that fits is what the dictionary takes.
-    {u"select Projects.pid as X1 , keywords.keyid as X2 , keywords.pid as X3 from Projects , keywords where name "
-     u"= 'alpha' and keyword = 'garden' and Projects.name = 'alpha'",
-     1},
-    {u"select * from elements where catid = 1", 1},
-    {u"select * from elements where catid = 1 order by element ", 1},
-    {u"select * from elements where element = 'ROSE' and catid = 1", 1},
-    {u"select * from content where pid = 1", 1},
-    {u"select  *  from content where cid = 1", 1},
-    {u"select * from content WHERE cid = 7", 0},
-    {u"select * from content , projects where content.pid = projects.pid and projects.name = 'alpha'", 1},
-    {u"select * from ties where pid = 1 and keyid = 1", 1},
-    {u"select  *  from ties where pid = 1", 1},
-    {u"select * from ties where cid = 1 and pid  = 1", 1},
-    {u"select * from ties , keywords where ties.pid = 1 and ties.keyid = keywords.keyid and keywords.keyword = "
-     u"'garden' and keywords.pid = 1",
-     1},
-    {u"select * from host where host = 'HTTP://two.example' and pid = 1", 1},
-    {u"select * from host1 where pid = 2", 0},
-    {u"select * from target where pid = 1", 1},
-};
-
-TEST_P(EveryQuery, FindsItsRows) {
-    const Filled app;
-    const Recordset rows = app.hive().OpenRecordset(GetParam().statement);
-    EXPECT_EQ(rows.RecordCount(), GetParam().rows);
-    EXPECT_EQ(rows.eof(), GetParam().rows == 0);
-}
-
-INSTANTIATE_TEST_SUITE_P(Statements, EveryQuery, testing::ValuesIn(queries));
-
 } // namespace
-
-TEST(Statements, ChangeExactlyTheRowsTheyName) {
-    const Filled app;
-    app.run(
-        u"update Projects set name = 'gamma' ,  site_name = 's' ,  site_url = 'u' ,  title = 't' ,  category = "
-        u"'c' ,  description = 'd' ,  designer_name = 'n' ,  designer_url = 'w'  where pid = 1");
-    EXPECT_EQ(app.value(u"select * from Projects where name = 'gamma'", u"Designer_URL"), u"w");
-    EXPECT_EQ(app.value(u"select * from Projects where pid = 2", u"Name"), u"beta");
-    app.run(u"update keywords set keyword = 'lawn' where keyword='garden' and pid = 1");
-    EXPECT_EQ(app.value(u"select * from keywords where keyid = 1", u"keyword"), u"lawn");
-    app.run(u"update elements set element = 'tulip' where catid = 1 and element = 'rose'");
-    EXPECT_EQ(app.count(u"select * from elements where element = 'tulip'"), 1);
-    for (const char16_t* const statement :
-         {u"delete from elements where element = 'tulip' and catid = 1",
-          u"delete from elements where catid = 2", u"delete from elements where eid = 9",
-          u"delete from keywords where pid = 1 and keyword = 'lawn'", u"delete from keywords where pid = 2",
-          u"delete from host where pid = 1 and host= 'http://two.example' ",
-          u"delete from host1 where pid = 1", u"delete from ties where tieid = 1",
-          u"delete from ties where cid = 1 and pid  = 1", u"delete from content where cid = 1",
-          u"delete from target where pid = 1", u"delete from Projects where pid = 1"})
-        app.run(statement);
-    for (const char16_t* const table :
-         {u"elements", u"keywords", u"host", u"host1", u"ties", u"content", u"target"})
-        EXPECT_EQ(app.count(u"select * from " + Text(table)), 0) << to_utf8(table);
-    EXPECT_EQ(app.count(u"select * from Projects"), 1);
-    app.run(u"delete from Projects where pid = 1"); // a key that is gone changes nothing and says nothing
-}
-
-TEST(Statements, WorkOnTheSynonymStore) {
-    const TempApp app;
-    Database store = app.synonyms();
-    store.Execute(u"insert into synonyms ( keyword ) values ( 'house' )");
-    store.Execute(u"insert into synonyms  ( keyword , synonyms  ) values ( 'Home' , 'hearth' ) ");
-    store.Execute(u"insert into synonyms  ( keyword , synonyms  ) values ( 'garden' , '' ) ");
-    Recordset all = store.OpenRecordset(u"select * from synonyms order by keyword");
-    EXPECT_EQ(all.Fields(u"keyword").text(), u"garden");
-    all.MoveNext();
-    EXPECT_EQ(all.Fields(u"keyword").text(), u"Home");
-    EXPECT_EQ(store.OpenRecordset(u"select * from synonyms where synonyms  <> '' order by synonyms  asc")
-                  .RecordCount(),
-              1);
-    store.Execute(u"update synonyms set synonyms = 'cottage' where keyword = 'HOUSE'");
-    EXPECT_EQ(
-        store.OpenRecordset(u"select * from synonyms  where keyword = 'house'").Fields(u"synonyms").text(),
-        u"cottage");
-    store.Execute(u"delete from synonyms  where keyword = 'home' and synonyms  = 'hearth'");
-    store.Execute(u"delete from synonyms where keyword = 'house'");
-    EXPECT_EQ(store.OpenRecordset(u"select * from synonyms order by keyword").RecordCount(), 1);
-}
 
 TEST(JoinDelete, ReachesOnlyTheRowsThatTheJoinMatches) {
     const Filled app;
@@ -257,6 +152,14 @@ TEST(Text, IsComparedWithoutCaseForAllLetters) {
     EXPECT_EQ(app.count(u"select * from keywords where keyword = 'ñANDÚ élan' and pid = 1"), 1);
     EXPECT_EQ(app.count(u"select * from keywords where keyword = 'nandu elan' and pid = 1"), 0);
     EXPECT_EQ(app.value(u"select * from keywords", u"keyword"), u"Ñandú ÉLAN");
+    Database words = app.synonyms();
+    for (const char16_t* const word : {u"house", u"Home", u"garden"})
+        words.Execute(u"insert into synonyms ( keyword ) values ( '" + Text(word) + u"' )");
+    Recordset sorted = words.OpenRecordset(u"select * from synonyms order by keyword");
+    for (const char16_t* const word : {u"garden", u"Home", u"house"}) {
+        EXPECT_EQ(sorted.Fields(u"keyword").text(), word);
+        sorted.MoveNext();
+    }
 }
 
 } // namespace twk::test

@@ -96,17 +96,6 @@ TEST(TwoProcesses, WriteTheSameStoreWithoutLoss) {
     EXPECT_EQ(app.count(u"select * from keywords"), 100);
 }
 
-TEST(TwoProcesses, AWriteIsThereAfterItsProcessDied) {
-    const TempApp app;
-    const pid_t child = in_another_process([&app] {
-        Database store = app.hive();
-        store.Execute(keyword_of(1, u"kept"));
-        kill(getpid(), SIGKILL);
-    });
-    EXPECT_FALSE(ended_well(child));
-    EXPECT_EQ(app.value(u"select * from keywords", u"keyword"), u"kept");
-}
-
 TEST(WriteTogether, StandsWhollyOrNotAtAll) {
     const TempApp app;
     const auto replace = [&app](const Text& last) {
