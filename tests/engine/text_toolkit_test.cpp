@@ -182,12 +182,6 @@ TEST(Cleaning, collapses_blanks_points_and_empty_paragraphs) {
     EXPECT_EQ(utf8(paragraphs), "x <p> y ");
 }
 
-TEST(Preparing, turns_the_text_of_a_box_into_page_text) {
-    Text text = u" say \"hi\"(now)\r\n<b>x</b> ";
-    EXPECT_EQ(utf8(preparar_texto(text)), "say hi (now) <p> <b> x </b>");
-    EXPECT_EQ(utf8(text), " say hi (now)   <p>   <b> x </b>  ");
-}
-
 TEST(Draws, of_nothing_take_no_chance) {
     chance().fix_seed(5);
     Chance same;

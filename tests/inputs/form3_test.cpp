@@ -100,14 +100,19 @@ TEST_F(Keywords, deletes_what_is_selected_until_the_user_cancels) {
     EXPECT_EQ(to_utf8(form().keyw.caption()), "1");
 }
 
-TEST_F(Keywords, adds_a_subkeyword_to_the_one_selected_keyword) {
+TEST_F(Keywords, adds_up_to_ninety_nine_subkeywords_to_the_one_selected_keyword) {
     store_keyword(u"roses");
     store_keyword(u"tulips");
-    store_subkeyword(2, u"red");
+    store_subkeyword(2, u" red ");
     app.desktop.expect(u"You must select 1 Keyword (in the left panel)");
     form();
     type_subkeyword(u"red");
+    select_keyword(1);
+    EXPECT_EQ(subkeywords(), "red") << "trimmed";
+    select_subkeyword(0);
+    EXPECT_EQ(to_utf8(form().Text2.text()), "red");
     select_keyword(0);
+    EXPECT_EQ(subkeywords() + to_utf8(form().Text2.text()), "");
     type_subkeyword(u"red");   // stands under another keyword, too
     type_subkeyword(u"ROSES"); // compared exactly with the keywords
     EXPECT_EQ(subkeywords(), "red|ROSES");
@@ -125,21 +130,14 @@ TEST_F(Keywords, adds_a_subkeyword_to_the_one_selected_keyword) {
     app.desktop.expect(u"reserved words");
     type_subkeyword(u"sitemap");
     EXPECT_EQ(stored_subkeywords(1), "red|ROSES");
+    for (int i = 2; i < 99; ++i) type_subkeyword(u"sub" + to_text(i));
+    app.desktop.expect(u"You can't add more than 99 subkeywords per each keyword");
+    type_subkeyword(u"one more");
+    EXPECT_EQ(app.count(u"select * from elements where catid = 1"), 99);
     // Clicking into the keyword box ends the selection.
     screens().fire<Form3>("Text1", "Click");
     app.desktop.expect(u"You must select 1 Keyword");
     type_subkeyword(u"climbing");
-}
-
-TEST_F(Keywords, takes_ninety_nine_subkeywords_by_hand) {
-    store_keyword(u"roses");
-    for (int i = 0; i < 98; ++i) store_subkeyword(1, u"sub" + to_text(i));
-    select_keyword(0);
-    type_subkeyword(u"last one");
-    EXPECT_EQ(form().List2.list_count(), 99);
-    app.desktop.expect(u"You can't add more than 99 subkeywords per each keyword");
-    type_subkeyword(u"one more");
-    EXPECT_EQ(app.count(u"select * from elements where catid = 1"), 99);
 }
 
 TEST_F(Keywords, edits_and_deletes_subkeywords) {
@@ -160,13 +158,6 @@ TEST_F(Keywords, edits_and_deletes_subkeywords) {
     click("Command22");
     EXPECT_EQ(subkeywords(), "red|Index|pink");
     EXPECT_EQ(stored_subkeywords(1), "red|Index|pink");
-    // An apostrophe breaks the statement; screen and store stay.
-    select_subkeyword(0);
-    form().Text2.text = u"mum's";
-    app.desktop.expect(u"Run-time error '3075'");
-    EXPECT_FALSE(click("Command22"));
-    EXPECT_EQ(subkeywords(), "red|Index|pink");
-    EXPECT_EQ(stored_subkeywords(1), "red|Index|pink");
 
     select(form().List2, {0, 1});
     click("Command10");
@@ -178,20 +169,6 @@ TEST_F(Keywords, edits_and_deletes_subkeywords) {
     select(form().List2, {0});
     click("Command10");
     EXPECT_EQ(stored_subkeywords(1), "");
-}
-
-TEST_F(Keywords, shows_the_subkeywords_of_the_selected_keyword_trimmed) {
-    store_keyword(u"roses");
-    store_keyword(u"tulips");
-    store_subkeyword(2, u" red ");
-    select_keyword(1);
-    EXPECT_EQ(subkeywords(), "red");
-    EXPECT_EQ(form().keyid, 2);
-    select_subkeyword(0);
-    EXPECT_EQ(to_utf8(form().Text2.text()), "red");
-    select_keyword(0);
-    EXPECT_EQ(subkeywords() + to_utf8(form().Text2.text()), "");
-    EXPECT_EQ(to_utf8(form().skeyw.caption()), "0");
 }
 
 TEST_F(Keywords, leads_on_with_three_keywords) {
@@ -207,13 +184,6 @@ TEST_F(Keywords, leads_on_with_three_keywords) {
     EXPECT_TRUE(screens().is_loaded<Form5>());
     click("Command6");
     EXPECT_TRUE(screens().is_loaded<Form20>());
-}
-
-TEST_F(Keywords, of_a_project_that_the_store_cannot_name_are_a_fault) {
-    screen<Form2>().txt_name[0].text = u"mum's";
-    EXPECT_THROW(form(), RuntimeFault);
-    EXPECT_FALSE(screens().is_loaded<Form3>());
-    EXPECT_EQ(app.count(u"select * from Projects"), 2);
 }
 
 } // namespace
