@@ -1,4 +1,3 @@
-#include "assist/form4.h"
 #include "assist/form9.h"
 #include "assist/frm_tip.h"
 #include "assist/help.h"
@@ -57,18 +56,6 @@ TEST(Help, OpensTheLocalFileAtTheAnchorAndTheOnlineCopyOnDemand) {
     screens().fire<Form9>("Command1", "Click");
     EXPECT_EQ(app.desktop.navigated,
               (std::vector<Text>{app.path(u"help.htm#form7"), u"http://www.tarnwick.example/help.htm"}));
-}
-
-TEST(TemplateEditor, TellsItsFirstVisibleFrame) {
-    TempApp app;
-    Form4& form = screen<Form4>();
-    EXPECT_EQ(form.frameActivo(), 0);
-    form.invFrames();
-    EXPECT_EQ(form.frameActivo(), -1);
-    form.Frame1[2].visible = true;
-    EXPECT_EQ(form.frameActivo(), 2);
-    screens().fire<Form4>("Command1", "Click");
-    EXPECT_EQ(module1().formas_abiertas[4], 0);
 }
 
 } // namespace

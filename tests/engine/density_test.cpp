@@ -203,13 +203,6 @@ TEST_F(DensityAdjustment, moves_only_long_texts_which_must_have_five_hundred_pie
     EXPECT_EQ(fault_of([&] { muchas_palabras(run, between); }), fault_subscript);
 }
 
-TEST_F(DensityAdjustment, marks_keywords_that_stand_between_blanks) {
-    form.settings.hl_abre = u"<b>";
-    form.settings.hl_cierra = u"</b>";
-    EXPECT_EQ(utf8(highLight(run, u"rose a rose, Rose rose roses rose ")),
-              "rose a rose, Rose <b>rose</b> roses <b>rose</b> ");
-}
-
 TEST_F(DensityAdjustment, makes_file_names) {
     form.Combo6.text = u"-";
     EXPECT_EQ(utf8(rspaces(form, u"A\u00F1o Nuevo!")), "ano-nuevo");

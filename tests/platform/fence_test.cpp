@@ -26,20 +26,6 @@ struct Projects : TempApp {
 
 } // namespace
 
-TEST(Fence, TakesNoNameThatLeadsElsewhere) {
-    const Projects app;
-    for (const char16_t* const name :
-         {u"", u" ", u".", u"..", u" .. ", u"a/b", u"../x", u"a\\b", u"/", u"a\nb"})
-        EXPECT_EQ(fault_of([&] { Fence(app.projects(), name); }), fault_path_access) << to_utf8(name);
-    EXPECT_EQ(fault_of([&] { Fence(app.projects(), Text(u"a\0b", 3)); }), fault_path_access);
-    fs::create_directory_symlink(app.folder() / "outside", app.folder() / "Projects" / "link");
-    EXPECT_EQ(fault_of([&] { Fence(app.projects(), u"link"); }), fault_path_access);
-    EXPECT_EQ(fault_of([&] { Fence(app.projects(), u"LINK"); }), fault_path_access);
-    EXPECT_EQ(Fence(app.projects(), u"mine").folder(), app.path(u"Projects/mine"));
-    EXPECT_EQ(fault_of([&] { Fence(app.projects(), u"not there yet"); }), 0);
-    EXPECT_EQ(fault_of([&] { Fence(app.path(u"no projects yet"), u"mine"); }), 0);
-}
-
 TEST(Fence, LetsOnlyPathsInsideTheFolderThrough) {
     const Projects app;
     EXPECT_EQ(app.checked(u"Projects/mine/page.htm"), 0);

@@ -58,18 +58,6 @@ TEST_F(StepFive, prefers_the_file_of_the_project_under_the_same_caption) {
     EXPECT_FALSE(form().Command2_110.enabled());
 }
 
-TEST_F(StepFive, closes_itself_without_a_settings_file) {
-    std::filesystem::remove(app.folder() / "twk.dat");
-    const Text path = app.path(u"twk.dat");
-    app.desktop.expect(
-        u"ERROR: Missing File\nThere's no file named " + path +
-        u"\nThis file is vital to proceed.\nYou can download it from our site or customize one "
-        u"of your own.");
-    screens().dispatch([] { screen<Form6>(); });
-    EXPECT_FALSE(screens().is_loaded<Form6>());
-    EXPECT_EQ(module1().formas_abiertas[6], 0);
-}
-
 TEST_F(StepFive, shows_one_level_at_a_time) {
     const Frame* const frames[] = {&form().Frame2, &form().Frame1, &form().Frame3, &form().Frame4,
                                    &form().Frame7};

