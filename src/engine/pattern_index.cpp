@@ -6,9 +6,15 @@
 namespace twk {
 
 PatternSet::PatternSet(std::vector<Text> patterns)
-    : patterns_(std::move(patterns)), nodes_(1), begins_(pairs) {
+    : patterns_(std::move(patterns)), nodes_(1), begins_(pairs), steps_(pairs) {
     for (int number = 0; number < size(); ++number)
         if (findable(number)) add(number);
+    measure_steps();
+}
+
+bool PatternSet::holds(char16_t unit) const {
+    return std::any_of(patterns_.begin(), patterns_.end(),
+                       [unit](const Text& pattern) { return pattern.find(unit) != Text::npos; });
 }
 
 int PatternSet::child_of(int node, char16_t unit) const {
@@ -21,6 +27,7 @@ int PatternSet::child_of(int node, char16_t unit) const {
 void PatternSet::add(int number) {
     const Text& added = pattern(number);
     longest_ = std::max(longest_, added.size());
+    shortest_ = shortest_ == 0 ? added.size() : std::min(shortest_, added.size());
     begins_[pair_of(added[0], added[1])] = 1;
     int node = 0;
     for (const char16_t unit : added) {
@@ -36,11 +43,33 @@ void PatternSet::add(int number) {
     nodes_[static_cast<std::size_t>(node)].ends.push_back(number);
 }
 
+/// A pair that stands nowhere in the first units of any pattern lets the search pass over all places whose
+/// first units would hold it.
+void PatternSet::measure_steps() {
+    if (shortest_ == 0) return;
+    const auto step_at = [this](std::size_t second) {
+        return static_cast<std::uint8_t>(std::min<std::size_t>(255, shortest_ - 1 - second));
+    };
+    std::fill(steps_.begin(), steps_.end(), step_at(0));
+    for (int number = 0; number < size(); ++number) {
+        if (!findable(number)) continue;
+        const Text& each = pattern(number);
+        for (std::size_t second = 1; second < shortest_; ++second) {
+            std::uint8_t& step = steps_[pair_of(each[second - 1], each[second])];
+            step = std::min(step, step_at(second));
+        }
+    }
+}
+
 void PatternSet::find(TextView text, std::size_t from, std::size_t end, std::vector<Hit>& hits) const {
-    if (text.size() < 2) return;
-    end = std::min(end, text.size() - 1);
-    for (std::size_t at = from; at < end; ++at)
-        if (begins_[pair_of(text[at], text[at + 1])] != 0) follow(text, at, hits);
+    if (shortest_ == 0 || text.size() < shortest_) return;
+    const std::size_t ahead = shortest_ - 1;
+    end = std::min(end, text.size() - ahead);
+    for (std::size_t at = from; at < end;) {
+        const std::size_t step = steps_[pair_of(text[at + ahead - 1], text[at + ahead])];
+        if (step == 0 && begins_[pair_of(text[at], text[at + 1])] != 0) follow(text, at, hits);
+        at += std::max<std::size_t>(step, 1);
+    }
 }
 
 void PatternSet::follow(TextView text, std::size_t at, std::vector<Hit>& hits) const {

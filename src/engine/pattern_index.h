@@ -16,8 +16,10 @@ class PatternSet {
     int size() const { return static_cast<int>(patterns_.size()); }
     const Text& pattern(int number) const { return patterns_[static_cast<std::size_t>(number)]; }
     bool findable(int number) const { return pattern(number).size() >= 2; }
-    /// Units of the longest pattern.
+    /// Units of the longest pattern that can be found; 0 when there is none.
     std::size_t longest() const { return longest_; }
+    /// Whether a pattern holds the unit.
+    bool holds(char16_t unit) const;
 
     /// An occurrence: where it begins, counted from 0, and of which pattern.
     struct Hit {
@@ -42,12 +44,16 @@ class PatternSet {
     static std::size_t pair_of(char16_t first, char16_t second) { return (first * 0x9E37u + second) % pairs; }
     int child_of(int node, char16_t unit) const;
     void add(int number);
+    void measure_steps();
     void follow(TextView text, std::size_t at, std::vector<Hit>& hits) const;
 
     std::vector<Text> patterns_;
     std::vector<Node> nodes_;
     std::vector<std::uint8_t> begins_; ///< whether a pattern begins with a pair of units, by `pair_of`
+    /// How far the pair that ends the shortest pattern's length lets the search step; 0 where it must look.
+    std::vector<std::uint8_t> steps_;
     std::size_t longest_ = 0;
+    std::size_t shortest_ = 0;
 };
 
 /// A text with the places of all patterns, kept up to date while occurrences are replaced.
@@ -57,6 +63,8 @@ class PatternIndex {
 
     /// Whether the pattern occurs at all.
     bool occurs(int number) const { return counts_[static_cast<std::size_t>(number)] != 0; }
+    /// All occurrences, by place.
+    const std::vector<PatternSet::Hit>& hits() const { return hits_; }
     /// Places of the pattern from the left, none overlapping the one before.
     std::vector<std::size_t> from_left(int number) const;
     /// Places from the right, at most `most`, none overlapping the one before; the leftmost comes first.

@@ -5,6 +5,7 @@
 #include "engine/text_toolkit.h"
 #include "settings/form6.h"
 
+#include <algorithm>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -57,6 +58,34 @@ class Soup {
 };
 
 } // namespace
+
+/// Longer patterns let the search step further; each place is compared with every pattern here.
+TEST(PatternSet, FindsWhatComparingEveryPlaceFinds) {
+    for (unsigned seed = 0; seed < 500; ++seed) {
+        Soup soup(seed);
+        const auto letters = [&soup](int n) {
+            Text text;
+            for (; n > 0; --n) text += static_cast<char16_t>(u'a' + soup.below(3));
+            return text;
+        };
+        const int shortest = 1 + soup.below(6);
+        std::vector<Text> patterns;
+        for (int i = 0; i < 6; ++i) patterns.push_back(letters(shortest + soup.below(4)));
+        const PatternSet set(patterns);
+        const Text text = letters(soup.below(400));
+        const auto from = static_cast<std::size_t>(soup.below(5)), end = text.size() - text.size() / 4;
+        std::vector<PatternSet::Hit> hits;
+        set.find(text, from, end, hits);
+        std::vector<std::pair<std::size_t, int>> found, wanted;
+        for (const PatternSet::Hit& hit : hits) found.emplace_back(hit.at, hit.pattern);
+        for (std::size_t at = from; at < end; ++at)
+            for (int p = 0; p < set.size(); ++p)
+                if (set.findable(p) && TextView(text).substr(at).starts_with(set.pattern(p)))
+                    wanted.emplace_back(at, p);
+        std::sort(found.begin(), found.end());
+        ASSERT_EQ(found, wanted) << seed;
+    }
+}
 
 /// The simple form: one scan for each keyword, and the last ones replaced at once.
 TEST(KeywordCounts, EqualOneCountAfterTheOther) {
