@@ -12,6 +12,7 @@
 #include "engine/text_toolkit.h"
 #include "platform/chance.h"
 #include "platform/desktop.h"
+#include "platform/name_index.h"
 #include "platform/numbers.h"
 #include "reports/form12.h"
 
@@ -31,6 +32,7 @@ void write_title(Run& run, const Text& keyword) {
 }
 
 void write_page(Run& run) {
+    const NameIndex::SteadyFolders steady;
     const Text keyword = run.tabla_kw.at(run.indice_kw);
     const Text file = rspaces(run.form, keyword) + run.extension;
     const Text path = run.main_folder + Text(path_separator) + file;

@@ -19,11 +19,11 @@ void close_page(Run& run, const Text& path) {
     const Text aux = run.salida->path();
     run.ultimo_texto = run.salida->close_and_read();
     run.ultima_pagina = path;
+    run.bytes_written += run.salida->size();
     run.salida.reset();
     run.origen->replace_by(aux);
     run.origen.reset();
     ++run.pages_written;
-    run.bytes_written += FileLen(path);
     run.pagina_actual.clear();
 }
 

@@ -17,6 +17,7 @@
 #include "platform/chance.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
+#include "platform/name_index.h"
 #include "platform/numbers.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
@@ -69,6 +70,7 @@ const Text& drawn_keyword(Run& run) {
 }
 
 void write_page(Run& run, int destination, int n, int c) {
+    const NameIndex::SteadyFolders steady;
     const Text path = run.carpeta + Text(path_separator) + take_name(run, destination, n, c);
     draw_unused_list(run);
     open_page(run, path);

@@ -69,6 +69,8 @@ struct Run {
     std::array<std::int16_t, max_boxes> palabras_caja{};
     std::array<std::vector<std::int16_t>, max_boxes> densidades; ///< [box][keyword], per cent
     std::int16_t ultima_caja = -1;
+    /// Boxes with every sentence in a paragraph of its own and tags spaced; made when needed.
+    std::array<std::optional<Text>, max_boxes> contenidos_partidos;
 
     std::shared_ptr<const KeywordSet>
         keywords; ///< those of the table, to be counted together; made when needed
@@ -129,6 +131,7 @@ struct Run {
         return contenidos[static_cast<std::size_t>(index)];
     }
     void writeline(TextView line) { salida->writeline(line); }
+    void writeline(std::initializer_list<TextView> pieces) { salida->writeline(pieces); }
 };
 
 } // namespace twk

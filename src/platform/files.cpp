@@ -235,9 +235,9 @@ void TextStream::write(TextView text) {
     content_.append(text);
 }
 
-void TextStream::writeline(TextView line) {
-    write(line);
-    content_.append(vbCrLf);
+void TextStream::writeline(std::initializer_list<TextView> pieces) {
+    for (const TextView piece : pieces) write(piece);
+    write(vbCrLf);
 }
 
 void TextStream::Close() {
@@ -253,7 +253,8 @@ Text TextStream::close_and_read() {
     std::string old;
     if (mode_ == OpenMode::appending) old = read_bytes(path_);
     std::string bytes = encode_text(content_, kind_);
-    if (is_ascii(old) && (old.empty() || is_ascii(bytes))) {
+    const bool appended = is_ascii(old) && (old.empty() || is_ascii(bytes));
+    if (appended) {
         error = old.empty() ? replace_content(file_, bytes) : append_content(file_, bytes);
         if (!old.empty()) content_.insert(0, decode_text(old));
     } else {
@@ -264,6 +265,7 @@ Text TextStream::close_and_read() {
     }
     if (::close(std::exchange(file_, -1)) != 0 && error == 0) error = errno;
     if (error != 0) fail(error, path_);
+    size_ = std::ssize(bytes) + (appended ? std::ssize(old) : 0);
     Text text = std::exchange(content_, {});
     return reads_back(text) ? text : decode_text(bytes);
 }
@@ -276,7 +278,7 @@ bool FileSystemObject::FileExists(const Text& path) const {
 
 TextStreamPtr FileSystemObject::OpenTextFile(const Text& path, OpenMode mode, bool create, TextKind kind) {
     const std::string name = disk_path(path);
-    const bool there = ::access(name.c_str(), F_OK) == 0;
+    const bool there = !NameIndex::is_missing(name) && ::access(name.c_str(), F_OK) == 0;
     if (!there && !create) fail(ENOENT, path);
     if (mode == OpenMode::reading) {
         if (!there) write_bytes(path, {});
@@ -328,14 +330,16 @@ void FileSystemObject::DeleteFolder(const Text& path) {
 
 ReplacedFile::ReplacedFile(Text path) : path_(std::move(path)), missing_(false) {
     const std::string name = disk_path(path_);
-    const Descriptor file(::open(name.c_str(), O_RDONLY | O_CLOEXEC));
-    struct stat info {};
-    if (file.number >= 0) {
-        if (::fstat(file.number, &info) != 0) fail(errno, path_);
-        if (S_ISDIR(info.st_mode)) fail(EISDIR, path_);
-        return;
+    if (!NameIndex::is_missing(name)) {
+        const Descriptor file(::open(name.c_str(), O_RDONLY | O_CLOEXEC));
+        struct stat info {};
+        if (file.number >= 0) {
+            if (::fstat(file.number, &info) != 0) fail(errno, path_);
+            if (S_ISDIR(info.st_mode)) fail(EISDIR, path_);
+            return;
+        }
+        if (errno != ENOENT) fail(errno, path_);
     }
-    if (errno != ENOENT) fail(errno, path_);
     const std::string folder = std::filesystem::path(name).parent_path().string();
     if (::access(folder.empty() ? "." : folder.c_str(), W_OK | X_OK) != 0)
         fail(errno == ENOENT ? ENOTDIR : errno, path_);
@@ -461,7 +465,7 @@ void Fence::check(const Text& path) const {
     const std::string name = disk_path(path);
     const fs::path given(name);
     struct stat info {};
-    const int failed = ::lstat(name.c_str(), &info) == 0 ? 0 : errno;
+    const int failed = NameIndex::is_missing(name) ? ENOENT : ::lstat(name.c_str(), &info) == 0 ? 0 : errno;
     // What stands in a folder of the project under a plain name, and is no link, lies in it.
     const std::string last = given.filename().string();
     const bool plain = !last.empty() && last != "." && last != "..";

@@ -3,6 +3,7 @@
 #include "platform/text.h"
 
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <set>
@@ -37,17 +38,21 @@ class TextStream {
     bool AtEndOfStream() const;
 
     void write(TextView text);
-    /// The text, then CR LF.
-    void writeline(TextView line);
+    /// The text, in one piece or in several, then CR LF.
+    void writeline(TextView line) { writeline(std::initializer_list<TextView>{line}); }
+    void writeline(std::initializer_list<TextView> pieces);
     /// Writes what was gathered. A stream that is closed stays closed.
     void Close();
     /// Closes a writing stream; returns the whole text as a reader of the file finds it.
     Text close_and_read();
 
     const Text& path() const { return path_; }
+    /// Bytes of the file once a writing stream is closed.
+    std::int64_t size() const { return size_; }
 
   private:
     Text path_;
+    std::int64_t size_ = 0;
     OpenMode mode_;
     TextKind kind_;
     Text content_;

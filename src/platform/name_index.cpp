@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <unordered_map>
+#include <utility>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -17,6 +18,8 @@ namespace {
 struct Folder {
     timespec changed{};
     ino_t inode = 0;
+    int checked = 0;    ///< number of the steady time in which it was found unchanged
+    bool stale = false; ///< changed by the program since it was stamped
     std::unordered_map<std::string, std::string> names; ///< lower case to the name on disk
 };
 
@@ -27,7 +30,17 @@ std::unordered_map<std::string, Folder>& folders() {
     return all;
 }
 
+int steady_depth = 0;
+int steady_number = 0;
+
 std::string folded(const std::string& name) {
+    std::string plain = name;
+    bool ascii = true;
+    for (char& unit : plain) {
+        ascii = ascii && static_cast<unsigned char>(unit) < 0x80;
+        if (unit >= 'A' && unit <= 'Z') unit = static_cast<char>(unit - 'A' + 'a');
+    }
+    if (ascii) return plain;
     return to_utf8(LCase(from_utf8(name)));
 }
 
@@ -56,13 +69,18 @@ bool stamp(const std::string& folder, Folder& kept) {
 
 /// The kept names of a folder, read again when it has changed; null when it cannot be read.
 const Folder* names_in(const std::string& folder) {
+    const auto kept = folders().find(folder);
+    if (steady_depth > 0 && kept != folders().end() && kept->second.checked == steady_number)
+        return &kept->second;
     Folder now;
     if (!stamp(folder, now)) return nullptr;
-    const auto kept = folders().find(folder);
+    now.checked = steady_number;
     if (kept != folders().end() && kept->second.inode == now.inode &&
         kept->second.changed.tv_sec == now.changed.tv_sec &&
-        kept->second.changed.tv_nsec == now.changed.tv_nsec)
+        kept->second.changed.tv_nsec == now.changed.tv_nsec) {
+        kept->second.checked = steady_number;
         return &kept->second;
+    }
     DIR* const open = ::opendir(folder.c_str());
     if (open == nullptr) return nullptr;
     while (const dirent* entry = ::readdir(open)) now.names.emplace(folded(entry->d_name), entry->d_name);
@@ -71,10 +89,34 @@ const Folder* names_in(const std::string& folder) {
     return &(folders()[folder] = std::move(now));
 }
 
+/// The program has changed the folder itself. Its time is taken at once, or at the end of the steady time.
+void changed_here(const std::string& folder, Folder& kept) {
+    if (steady_depth > 0)
+        kept.stale = true;
+    else
+        stamp(folder, kept);
+}
+
 } // namespace
 
+NameIndex::SteadyFolders::SteadyFolders() {
+    if (++steady_depth == 1) ++steady_number;
+}
+
+NameIndex::SteadyFolders::~SteadyFolders() {
+    if (--steady_depth > 0) return;
+    for (auto& [folder, kept] : folders())
+        if (std::exchange(kept.stale, false)) stamp(folder, kept);
+}
+
+bool NameIndex::is_missing(const std::string& path) {
+    if (steady_depth == 0 || path.find('/') == std::string::npos) return false;
+    const Folder* const names = names_in(folder_of(path));
+    return names != nullptr && !names->names.contains(folded(name_of(path)));
+}
+
 std::string NameIndex::find(const std::string& path) {
-    if (path.empty() || there(path)) return path;
+    if (path.empty() || is_missing(path) || there(path)) return path;
     const std::string name = name_of(path);
     if (name.empty()) return path;
     const std::string given = folder_of(path);
@@ -93,7 +135,7 @@ void NameIndex::entry_added(const std::string& path) {
     const auto kept = folders().find(folder);
     if (kept == folders().end()) return;
     kept->second.names.insert_or_assign(folded(name_of(path)), name_of(path));
-    stamp(folder, kept->second);
+    changed_here(folder, kept->second);
 }
 
 void NameIndex::entry_removed(const std::string& path) {
@@ -101,7 +143,7 @@ void NameIndex::entry_removed(const std::string& path) {
     const auto kept = folders().find(folder);
     if (kept == folders().end()) return;
     kept->second.names.erase(folded(name_of(path)));
-    stamp(folder, kept->second);
+    changed_here(folder, kept->second);
 }
 
 void NameIndex::forget() {

@@ -56,7 +56,7 @@ bool is_blank(char16_t c) {
 TextView Cutter::text() {
     const std::size_t from = at_;
     while (at_ < html_.size()) {
-        at_ = std::min(html_.find(u'<', at_), html_.size());
+        at_ = std::min(position(html_, u"<", at_), html_.size());
         if (at_ + 1 < html_.size() && (is_letter(html_[at_ + 1]) || html_[at_ + 1] == u'/' ||
                                        html_[at_ + 1] == u'!' || html_[at_ + 1] == u'?'))
             break;
@@ -64,7 +64,7 @@ TextView Cutter::text() {
     }
     const TextView text = html_.substr(from, at_ - from);
     // A reference to a character begins with "&" and a letter or "#".
-    for (std::size_t i = text.find(u'&'); i != TextView::npos; i = text.find(u'&', i + 1))
+    for (std::size_t i = position(text, u"&"); i != TextView::npos; i = position(text, u"&", i + 1))
         if (i + 1 == text.size() || !is_blank(text[i + 1])) throw Unknown();
     return text;
 }
@@ -89,7 +89,7 @@ std::optional<Tag> Cutter::tag() {
 void Cutter::skip_to_end_of(TextView name, bool script) {
     const std::size_t from = at_;
     for (;; ++at_) {
-        at_ = html_.find(u"</", at_);
+        at_ = position(html_, u"</", at_);
         if (at_ == TextView::npos) throw Unknown();
         const TextView found = html_.substr(at_ + 2, name.size());
         const char16_t behind = unit(name.size() + 2);
@@ -103,7 +103,7 @@ void Cutter::skip_to_end_of(TextView name, bool script) {
 void Cutter::skip_comment() {
     if (html_.substr(at_, 3) != u"!--") throw Unknown();
     at_ += 3;
-    const std::size_t end = html_.find(u"-->", at_);
+    const std::size_t end = position(html_, u"-->", at_);
     if (end == TextView::npos || unit() == u'>' || end == at_) throw Unknown();
     const TextView comment = html_.substr(at_, end - at_);
     // "--!>" ends a comment, too; a dash before the end makes it the parser's business.

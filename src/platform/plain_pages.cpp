@@ -80,7 +80,7 @@ bool is_plain(TextView html) {
 /// cells. Inline elements are not followed: where they would matter the page is none for this walk.
 class Walk {
   public:
-    explicit Walk(TextView html) : cutter_(html) {}
+    explicit Walk(TextView html) : cutter_(html), lines_(html.size()) {}
 
     Text whole() {
         read_head();

@@ -9,6 +9,9 @@ namespace twk {
 /// Visible words of a page and the ends of its lines, as they are met; single blanks between words.
 class VisibleLines {
   public:
+    /// `most` is about how many units to expect.
+    explicit VisibleLines(std::size_t most = 0) { out_.reserve(most); }
+
     void words(TextView text);
     void cell_end() { blank_ = true; }
     void line_end();

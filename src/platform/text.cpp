@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 #include <clocale> // newlocale, too
+#include <cstdint>
+#include <cstring>
 #include <cwctype>
 
 namespace twk {
@@ -48,16 +50,37 @@ struct Ends {
     bool at(const char16_t* place) const { return place[0] == first && place[distance] == last; }
 };
 
-/// First place in [at, end) with both units in their places, or `end`. Looks at blocks without an early exit,
-/// which compilers vectorise.
+/// Eight units that are compared at once.
+using Units = std::uint16_t __attribute__((vector_size(16)));
+
+Units eight_of(char16_t unit) {
+    Units units{};
+    for (int i = 0; i < 8; ++i) units[i] = unit;
+    return units;
+}
+
+Units units_at(const char16_t* place) {
+    Units units;
+    std::memcpy(&units, place, sizeof units);
+    return units;
+}
+
+bool any(Units found) {
+    std::uint64_t halves[2];
+    std::memcpy(halves, &found, sizeof halves);
+    return (halves[0] | halves[1]) != 0;
+}
+
+/// First place in [at, end) with both units in their places, or `end`.
 const char16_t* find_ends(const char16_t* at, const char16_t* end, Ends ends) {
-    constexpr int block = 32;
+    constexpr int eight = 8, block = 8 * eight;
+    const Units first = eight_of(ends.first), last = eight_of(ends.last);
     for (; end - at >= block; at += block) {
-        const char16_t* const far = at + ends.distance;
-        unsigned short found = 0;
-        for (int i = 0; i < block; ++i)
-            found = static_cast<unsigned short>(found | ((at[i] == ends.first) & (far[i] == ends.last)));
-        if (found != 0) break;
+        Units found{};
+        for (int i = 0; i < block; i += eight)
+            found |= reinterpret_cast<Units>((units_at(at + i) == first) &
+                                             (units_at(at + i + ends.distance) == last));
+        if (any(found)) break;
     }
     while (at != end && !ends.at(at)) ++at;
     return at;
@@ -65,23 +88,23 @@ const char16_t* find_ends(const char16_t* at, const char16_t* end, Ends ends) {
 
 constexpr std::size_t npos = TextView::npos;
 
-std::size_t position(TextView text, TextView what, std::size_t from) {
-    if (what.size() > text.size() || from > text.size() - what.size()) return npos;
-    if (what.empty()) return from;
-    const char16_t* const begin = text.data();
-    const char16_t* const end = begin + (text.size() - what.size()) + 1;
-    const Ends ends{what.front(), what.back(), what.size() - 1};
-    for (const char16_t* at = begin + from; (at = find_ends(at, end, ends)) != end; ++at)
-        if (std::equal(what.begin() + 1, what.end(), at + 1)) return static_cast<std::size_t>(at - begin);
-    return npos;
-}
-
 std::size_t as_count(int count) {
     if (count < 0) throw RuntimeFault(fault_argument);
     return static_cast<std::size_t>(count);
 }
 
 } // namespace
+
+std::size_t position(TextView text, TextView find, std::size_t from) {
+    if (find.size() > text.size() || from > text.size() - find.size()) return npos;
+    if (find.empty()) return from;
+    const char16_t* const begin = text.data();
+    const char16_t* const end = begin + (text.size() - find.size()) + 1;
+    const Ends ends{find.front(), find.back(), find.size() - 1};
+    for (const char16_t* at = begin + from; (at = find_ends(at, end, ends)) != end; ++at)
+        if (std::equal(find.begin() + 1, find.end(), at + 1)) return static_cast<std::size_t>(at - begin);
+    return npos;
+}
 
 int Len(TextView text) {
     return static_cast<int>(text.size());
@@ -115,21 +138,24 @@ int InStr(TextView text, TextView find, int start) {
 
 Text Replace(TextView text, TextView find, TextView with, int count) {
     if (count < -1) throw RuntimeFault(fault_argument);
-    std::size_t at = find.empty() || count == 0 ? npos : position(text, find, 0);
-    if (at == npos) return Text(text);
+    std::vector<std::size_t> places;
+    for (std::size_t at = 0; !find.empty() && static_cast<int>(places.size()) != count; at += find.size()) {
+        at = position(text, find, at);
+        if (at == npos) break;
+        places.push_back(at);
+    }
     Text out;
-    out.reserve(text.size() + (with.size() > find.size() ? text.size() / 8 : 0));
+    out.reserve(text.size() + places.size() * with.size() - places.size() * find.size());
     std::size_t from = 0;
-    for (int left = count; at != npos && left != 0; --left) {
-        out.append(text, from, at - from).append(with);
-        from = at + find.size();
-        at = position(text, find, from);
+    for (const std::size_t place : places) {
+        out.append(text, from, place - from).append(with);
+        from = place + find.size();
     }
     return out.append(text, from);
 }
 
 bool replace_all(Text& text, TextView find, TextView with) {
-    if (find.empty() || position(text, find, 0) == npos) return false;
+    if (find.empty() || !contains(text, find)) return false;
     text = Replace(text, find, with);
     return true;
 }
@@ -138,6 +164,7 @@ std::vector<TextView> split_views(TextView text, TextView separator) {
     std::vector<TextView> pieces;
     if (text.empty()) return pieces;
     if (separator.empty()) return {text};
+    pieces.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), separator.front())) + 1);
     std::size_t from = 0;
     // Pieces between single units are mostly short words: no use in looking at whole blocks.
     const auto next = [&](std::size_t at) {

@@ -25,6 +25,10 @@ Text Mid(TextView text, int start, int count);
 /// is found at `start`, except in an empty text.
 int InStr(TextView text, TextView find, int start = 1);
 
+/// The same counted from 0: the place of the first `find` at or behind `from`, `TextView::npos` when there is
+/// none.
+std::size_t position(TextView text, TextView find, std::size_t from = 0);
+
 /// Replaces the first `count` occurrences from left to right; -1 means all, below that is fault 5. An empty
 /// `find` leaves the text alone.
 Text Replace(TextView text, TextView find, TextView with, int count = -1);
