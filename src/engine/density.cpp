@@ -1,7 +1,6 @@
 #include "engine/density.h"
 
 #include "engine/page_head.h"
-#include "engine/pattern_index.h"
 #include "engine/read_more.h"
 #include "engine/run.h"
 #include "engine/text_toolkit.h"
@@ -109,19 +108,25 @@ Text muchas_palabras(Run& run, Text& texto) {
 
 namespace {
 
-/// The segments of `Ajustar_KW` while they grow.
+/// The segments of `Ajustar_KW` while they grow. No blank stands beside another one in `out`: those that the
+/// joints bring go in the end anyway.
 struct Segments {
     Run& run;
-    const Text& keyword; ///< trimmed
-    const std::vector<TextView>& piezas;
-    std::vector<Text> anclas; ///< trimmed
+    const Text& keyword;                 ///< trimmed
+    const std::vector<TextView>& piezas; ///< of one text, single blanks between them
+    const std::vector<TextView>& anclas; ///< trimmed
+    std::uint64_t lengths; ///< a bit for the length of each of them, the last for all from 63 on
     int w;
     Text out;
     Text f; ///< the sentence chosen last
 
+    static std::uint64_t length_bit(TextView pieza) {
+        return std::uint64_t{1} << std::min<std::size_t>(pieza.size(), 63);
+    }
+
     bool is_anchor(TextView pieza) const {
-        if (keyword.empty()) return false;
-        for (const Text& ancla : anclas)
+        if ((lengths & length_bit(pieza)) == 0) return false;
+        for (const TextView ancla : anclas)
             if (pieza.size() == ancla.size() && same_text(pieza, ancla)) return true;
         return false;
     }
@@ -133,36 +138,35 @@ struct Segments {
 
     /// Appends the segment from piece `first`, `step` + 1 pieces; false when it was the last one.
     bool append(std::int64_t first, int step) {
-        bool pending = true;
-        bool more = true;
-        Text seg;
-        for (int j = 0; j <= step; ++j) {
-            const std::int64_t p = first + j;
-            if (!pending) {
-                if (p >= w) {
-                    more = false;
-                    break;
-                }
-                seg.append(1, u' ').append(pieza(p));
-            } else if (is_anchor(pieza(p))) {
-                pending = false;
-                f = linking_sentence(run, keyword);
-                seg.append(1, u' ').append(f).append(1, u' ').append(pieza(p));
-            } else {
-                seg.append(1, u' ').append(pieza(p));
-            }
+        const std::int64_t last = first + step;
+        std::int64_t p = first;
+        while (p <= last && !is_anchor(pieza(p))) ++p;
+        if (p > last) { // no anchor word: the last sentence, glued to the last word
+            append_pieces(first, last);
+            append_single(f);
+            return true;
         }
-        trimmed_append(seg);
-        if (pending) out += f; // no anchor word: the last sentence, glued to the last word
+        append_pieces(first, p - 1);
+        f = linking_sentence(run, keyword);
+        append_single(u" ");
+        append_single(f);
+        const bool more = p == last || last < w;
+        append_pieces(p, std::max<std::int64_t>(p, more ? last : w - 1));
         return more;
     }
 
-    /// out = Trim(out + " " + seg), without copying what stands there already.
-    void trimmed_append(const Text& seg) {
-        const bool first = out.empty();
-        out.append(1, u' ').append(seg);
-        out.resize(out.find_last_not_of(u' ') + 1);
-        if (first || out.starts_with(u' ')) out = Trim(out);
+    /// A blank and the pieces `from` to `to`, if there are any.
+    void append_pieces(std::int64_t from, std::int64_t to) {
+        if (from > to) return;
+        const char16_t* const begin = pieza(from).data();
+        const TextView end = pieza(to);
+        if (!out.empty() && out.back() != u' ') out.push_back(u' ');
+        out.append(begin, end.data() + end.size());
+    }
+
+    void append_single(TextView added) {
+        for (const char16_t unit : added)
+            if (unit != u' ' || out.empty() || out.back() != u' ') out.push_back(unit);
     }
 };
 
@@ -213,55 +217,25 @@ Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, std::int16_t densida
     const double por_cien = CInt(static_cast<double>(densidad_pedida) * w) / 100.0;
     if (w != 0) step = static_cast<int>(Int(w / por_cien));
     if (step < 2) return {};
-    const Text recortado = Trim(texto);
+    const TextView recortado = trim_view(texto);
     const std::vector<TextView> piezas = split_views(recortado);
-    Segments segments{run, k, piezas, {}, w, {}, {}};
-    for (int i = 0; i < sentences_in_use; ++i)
-        segments.anclas.push_back(Trim(run.settings.palabras_ancla[static_cast<std::size_t>(i)]));
+    std::vector<TextView> anclas;
+    std::uint64_t lengths = 0; // none that counts without a keyword
+    for (int i = 0; i < sentences_in_use && !k.empty(); ++i) {
+        anclas.push_back(trim_view(run.settings.palabras_ancla[static_cast<std::size_t>(i)]));
+        lengths |= Segments::length_bit(anclas.back());
+    }
+    Segments segments{run, k, piezas, anclas, lengths, w, {}, {}};
     segments.out.reserve(texto.size() + texto.size() / 2);
     const auto n = static_cast<int>(Int(por_cien - 1));
     for (int i = 0; i <= n; ++i)
         if (!segments.append(static_cast<std::int64_t>(i) * step, step)) break;
-    Text out = std::move(segments.out);
-    check_densidad(out, k);
-    quitar_dobles(out);
-    return Trim(out);
+    check_densidad(segments.out, k);
+    return Trim(segments.out);
 }
 
 std::int16_t xrnum2(std::int16_t n) {
     return xrnum(n);
-}
-
-namespace {
-
-/// Every keyword between blanks.
-const PatternSet& highlighted(Run& run) {
-    const auto holds = [&run](int k) {
-        const TextView keyword = trim_view(run.tabla_kw.at(k));
-        const Text& pattern = run.highlighted->pattern(k);
-        return TextView(pattern).substr(1, pattern.size() - 2) == keyword;
-    };
-    bool right = run.highlighted && run.highlighted->size() == run.n_keywords;
-    for (int k = 0; right && k < run.n_keywords; ++k) right = holds(k);
-    if (!right) {
-        std::vector<Text> patterns;
-        patterns.reserve(static_cast<std::size_t>(run.n_keywords));
-        for (int k = 0; k < run.n_keywords; ++k) patterns.push_back(u" " + Trim(run.tabla_kw.at(k)) + u" ");
-        run.highlighted = std::make_shared<PatternSet>(std::move(patterns));
-    }
-    return *run.highlighted;
-}
-
-} // namespace
-
-Text highLight(Run& run, TextView texto) {
-    Text r(texto);
-    PatternIndex index(highlighted(run), r);
-    for (int i = 0; i < run.n_keywords; ++i)
-        if (index.occurs(i))
-            index.replace(i, index.from_left(i),
-                          u" " + run.settings.hl_abre + run.tabla_kw.at(i) + run.settings.hl_cierra + u" ");
-    return r;
 }
 
 namespace {

@@ -17,27 +17,24 @@ Text as_counted(TextView keyword) {
     return quitar_dobles(form);
 }
 
-std::vector<Text> with_disturbing(const std::vector<Text>& keywords) {
+std::vector<Text> all_as_counted(const std::vector<Text>& keywords) {
     std::vector<Text> patterns;
-    patterns.reserve(keywords.size() + 2);
+    patterns.reserve(keywords.size());
     for (const Text& keyword : keywords) patterns.push_back(as_counted(keyword));
-    patterns.emplace_back(highlight_opening);
-    patterns.emplace_back(keyword_joint);
     return patterns;
 }
 
 } // namespace
 
-KeywordSet::KeywordSet(const std::vector<Text>& keywords)
-    : size_(static_cast<int>(keywords.size())), patterns_(with_disturbing(keywords)) {}
+KeywordSet::KeywordSet(const std::vector<Text>& keywords) : patterns_(all_as_counted(keywords)) {}
 
 bool KeywordSet::known(int k) const {
     return keyword(k).empty() || (patterns_.findable(k) && !contains(keyword(k), u"$"));
 }
 
 bool KeywordSet::same(const std::vector<Text>& keywords) const {
-    if (static_cast<int>(keywords.size()) != size_) return false;
-    for (int k = 0; k < size_; ++k) {
+    if (static_cast<int>(keywords.size()) != size()) return false;
+    for (int k = 0; k < size(); ++k) {
         const Text& other = keywords[static_cast<std::size_t>(k)];
         if (other != keyword(k) && as_counted(other) != keyword(k)) return false;
     }
@@ -57,12 +54,10 @@ const KeywordSet& keyword_set(Run& run) {
 /// The index is made only of a text that a count leaves alone.
 bool KeywordCounts::ready() {
     if (index_) return true;
-    if (passes_left_ == 0 || !is_spaced(text_)) return false;
+    if (passes_left_ == 0 || !is_settled(text_)) return false;
     --passes_left_;
     index_.emplace(set_.patterns(), text_);
-    for (int p = set_.first_disturbing(); index_ && p < set_.patterns().size(); ++p)
-        if (index_->occurs(p)) index_.reset();
-    return index_.has_value();
+    return true;
 }
 
 std::optional<std::int64_t> KeywordCounts::counted(int k) const {
@@ -101,12 +96,9 @@ void KeywordCounts::replace_last(int k, TextView with, int count) {
     const std::vector<std::size_t> places = index_->from_right(k, most);
     if (places.empty()) return;
     index_->replace(k, places, with);
-    // What was put in may stand close to a tag or hold what a count takes away.
-    const std::size_t first = places.front() == 0 ? 0 : places.front() - 1;
-    bool disturbed = !is_spaced(TextView(text_).substr(first));
-    for (int p = set_.first_disturbing(); p < set_.patterns().size(); ++p)
-        disturbed = disturbed || index_->occurs(p);
-    if (disturbed) changed();
+    // What was put in may stand close to a tag, or be, with what is around it, what a count takes away.
+    const std::size_t reach = std::min(places.front(), highlight_opening.size() - 1);
+    if (!is_settled(TextView(text_).substr(places.front() - reach))) changed();
 }
 
 } // namespace twk

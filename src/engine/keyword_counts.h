@@ -14,19 +14,16 @@ class KeywordSet {
   public:
     explicit KeywordSet(const std::vector<Text>& keywords);
 
-    int size() const { return size_; }
+    int size() const { return patterns_.size(); }
     const Text& keyword(int k) const { return patterns_.pattern(k); }
     /// Whether the index tells all: an empty keyword, or one of two units and more without a "$".
     bool known(int k) const;
     const PatternSet& patterns() const { return patterns_; }
-    /// Patterns behind the keywords, which a text that needs no more spacing does not hold.
-    int first_disturbing() const { return size_; }
 
     /// Whether these keywords, as a count leaves them, are the ones of the set.
     bool same(const std::vector<Text>& keywords) const;
 
   private:
-    int size_;
     PatternSet patterns_;
 };
 

@@ -1,5 +1,6 @@
 #include "engine/run_preparation.h"
 
+#include "engine/keyword_counts.h"
 #include "engine/run.h"
 #include "engine/text_toolkit.h"
 #include "inputs/form3.h"
@@ -84,6 +85,28 @@ void collect_terms(Run& run) {
     run.n_terminos = CInt(static_cast<double>(p));
 }
 
+namespace {
+
+/// `densidad` of every keyword in a text that stands as a count of words leaves it, with so many words.
+std::vector<std::int16_t> densities(Run& run, const Text& t, std::int16_t words) {
+    std::vector<std::int16_t> all;
+    all.reserve(static_cast<std::size_t>(run.n_keywords));
+    const KeywordSet& set = keyword_set(run);
+    Text counted = t;
+    KeywordCounts counts(set, counted);
+    // A count would take these away, and make other words of the text.
+    const bool together =
+        !trim_view(t).empty() && !contains(t, keyword_joint) && !contains(t, highlight_opening);
+    for (int k = 0; k < run.n_keywords; ++k) {
+        Text& keyword = run.tabla_kw.cell(k);
+        all.push_back(together && set.known(k) ? CInt(por_ciento(counts.contar(k, keyword), words))
+                                               : CInt(densidad(t, keyword)));
+    }
+    return all;
+}
+
+} // namespace
+
 void measure_boxes(Run& run) {
     int i = 0;
     for (Recordset boxes =
@@ -94,9 +117,7 @@ void measure_boxes(Run& run) {
         Text raw = boxes.Fields(u"content").text();
         Text t = limpiar_html(raw);
         run.palabras_caja[box] = contar_palabras(t); // spaces the tags of what is kept
-        run.densidades[box].clear();
-        for (int k = 0; k < run.n_keywords; ++k)
-            run.densidades[box].push_back(CInt(densidad(t, run.tabla_kw.cell(k))));
+        run.densidades[box] = densities(run, t, run.palabras_caja[box]);
         run.contenidos[box] = std::move(t);
     }
     run.ultima_caja = static_cast<std::int16_t>(i - 1);

@@ -15,6 +15,7 @@
 #include "platform/chance.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
+#include "platform/name_index.h"
 #include "platform/numbers.h"
 #include "reports/form12.h"
 #include "shell/form2.h"
@@ -38,6 +39,7 @@ void write_title(Run& run, const Text& sub) {
 }
 
 void write_page(Run& run, const Text& keyword) {
+    const NameIndex::SteadyFolders steady;
     const Text sub = run.subkw_actual;
     run.nombre_relativo = rspaces(run.form, keyword) + run.separador + rspaces(run.form, sub) + run.extension;
     run.enlace_padre = keyword + run.extension; // the keyword's blanks stay
@@ -83,6 +85,17 @@ int hidden_box(Run& run, std::int16_t boxes) {
     return b;
 }
 
+/// The box with its sentences as paragraphs, spaced as the search for anchor words leaves it. Many pages draw
+/// the same box.
+const Text& split_box(Run& run, int b) {
+    std::optional<Text>& kept = run.contenidos_partidos[static_cast<std::size_t>(b)];
+    if (!kept) {
+        kept = Replace(run.box(b), u". ", u". <p>");
+        contar_palabras(*kept);
+    }
+    return *kept;
+}
+
 } // namespace
 
 void second_level_pages(Run& run) {
@@ -125,8 +138,7 @@ void write_content_block(Run& run, bool split_sentences, bool count_file) {
     const int b = xrnum2(run.ultima_caja);
     const Text& first = run.box(a);
     Text& text = run.texto_pagina;
-    text = first;
-    if (split_sentences) replace_all(text, u". ", u". <p>");
+    text = split_sentences ? split_box(run, a) : first;
     if (Len(first) < 300) text = first + u"<p>" + run.lista_kw + u"<p>" + run.box(b);
     if (!run.subkw_actual.empty()) text = Ajustar_KW(run, text, run.subkw_actual, 3);
     text = Ajustar_KW(run, text, k, 2);
@@ -151,8 +163,8 @@ void write_content_block(Run& run, bool split_sentences, bool count_file) {
     }
     replace_all(text, u". ", run.lista_kw); // the sentence ends go
     if (run.form.Check6.value()) text = highLight(run, text);
-    run.writeline(u"<table border = 1 width=75% cellpadding=4><tr><td align=center><p>" + text +
-                  u"</p></td></tr></table><br>");
+    run.writeline({u"<table border = 1 width=75% cellpadding=4><tr><td align=center><p>", text,
+                   u"</p></td></tr></table><br>"});
 }
 
 void write_second_level_end(Run& run, std::int16_t boxes) {

@@ -11,18 +11,51 @@
 
 namespace twk {
 
-// Looks at every unit with the one before it, without an early exit: compilers vectorise that.
-bool is_spaced(TextView text) {
-    if (text.empty()) return true;
-    if (text.front() == u'<' || text.back() == u'>') return false; // those two lack a neighbour
-    unsigned short wrong = 0;
-    for (std::size_t i = 1; i < text.size(); ++i) {
-        const char16_t before = text[i - 1], here = text[i];
-        wrong = static_cast<unsigned short>(wrong | ((here == u'<') & (before != u' ')) |
-                                            ((before == u'>') & (here != u' ')) |
-                                            ((before == u' ') & (here == u' ')));
+// Looks at every unit with the one before it, without an early exit and with small counters: compilers
+// vectorise that.
+Survey::Survey(TextView texto) {
+    if (texto.empty()) return;
+    const auto count = [this](char16_t unit) {
+        blanks += unit == u' ' ? 1 : 0;
+        tag_ends += unit == u'<' || unit == u'>' ? 1 : 0;
+    };
+    count(texto.front());
+    unsigned short wrong = 0, open = texto.front() == u'<', dollar = texto.front() == u'$';
+    constexpr std::size_t block = 16384; // no counter overflows
+    for (std::size_t from = 1; from < texto.size(); from += block) {
+        const std::size_t end = std::min(texto.size(), from + block);
+        unsigned short some_blanks = 0, some_ends = 0;
+        for (std::size_t i = from; i < end; ++i) {
+            const char16_t before = texto[i - 1], here = texto[i];
+            const unsigned short blank = here == u' ', opens = here == u'<', closes = here == u'>';
+            const unsigned short behind_blank = before == u' ', behind_close = before == u'>';
+            wrong = static_cast<unsigned short>(wrong | (opens & ~behind_blank) | (behind_close & ~blank) |
+                                                (behind_blank & blank));
+            open = static_cast<unsigned short>(open | opens);
+            dollar = static_cast<unsigned short>(dollar | (here == u'$'));
+            some_blanks = static_cast<unsigned short>(some_blanks + blank);
+            some_ends = static_cast<unsigned short>(some_ends + opens + closes);
+        }
+        blanks += some_blanks;
+        tag_ends += some_ends;
     }
-    return wrong == 0;
+    // A tag at an end of the text lacks a neighbour.
+    spaced = (wrong & 1) == 0 && texto.front() != u'<' && texto.back() != u'>';
+    opens_tags = open != 0;
+    dollars = dollar != 0;
+}
+
+namespace {
+
+bool is_settled(TextView texto, const Survey& survey) {
+    return survey.spaced && !(survey.opens_tags && contains(texto, highlight_opening)) &&
+           !(survey.dollars && contains(texto, keyword_joint));
+}
+
+} // namespace
+
+bool is_settled(TextView texto) {
+    return is_settled(texto, Survey(texto));
 }
 
 bool are_apart(TextView between, TextView keyword) {
@@ -55,10 +88,8 @@ std::size_t next_to_space(TextView text, std::size_t at) {
     return at;
 }
 
-/// "<" to " <", ">" to "> ", then single blanks: the form in which tags are pieces of their own. One pass,
-/// and only when the text is not in that form yet.
+/// "<" to " <", ">" to "> ", then single blanks: the form in which tags are pieces of their own.
 void space_tags(Text& text) {
-    if (is_spaced(text)) return;
     const auto tag_end = [](char16_t c) { return c == u'<' || c == u'>'; };
     Text out;
     out.reserve(text.size() + 2 * static_cast<std::size_t>(std::count_if(text.begin(), text.end(), tag_end)));
@@ -79,19 +110,28 @@ void space_tags(Text& text) {
     text = std::move(out);
 }
 
-/// Words of a text in that form, without blanks at its ends: its pieces less those that begin or end a tag.
-std::int64_t words_of_spaced(TextView text) {
-    if (text.empty()) return 0;
-    const std::int64_t blanks = count_units(text, [](char16_t c) { return c == u' '; });
-    const std::int64_t ends = count_units(text, [](char16_t c) { return (c == u'<') | (c == u'>'); });
-    if (ends == 0) return blanks + 1;
+/// Brings a text to that form, its highlight openings replaced; tells what it holds then.
+Survey settle(Text& text, TextView for_opening) {
+    const Survey survey(text);
+    const bool replaced = survey.opens_tags && replace_all(text, highlight_opening, for_opening);
+    if (!replaced && survey.spaced) return survey;
+    space_tags(text);
+    return Survey(text);
+}
+
+/// Words of a text in that form: its pieces less those that begin or end a tag.
+std::int64_t words_of_spaced(TextView text, const Survey& survey) {
+    if (trim_view(text).empty()) return 0;
+    const std::int64_t blanks =
+        survey.blanks - (text.front() == u' ' ? 1 : 0) - (text.back() == u' ' ? 1 : 0);
+    if (survey.tag_ends == 0) return blanks + 1;
     std::int64_t whole_tags = 0; // pieces that do both
-    for (std::size_t at = 0; (at = text.find(u'<', at)) != TextView::npos;) {
+    for (std::size_t at = 0; (at = position(text, u"<", at)) != TextView::npos;) {
         at = text.find_first_of(u" >", at);
         if (at == TextView::npos) break;
         if (text[at] == u'>') ++whole_tags;
     }
-    return blanks + 1 - (ends - whole_tags);
+    return blanks + 1 - (survey.tag_ends - whole_tags);
 }
 
 std::int16_t as_count(std::int64_t count) {
@@ -110,9 +150,8 @@ Text& quitar_dobles(Text& texto) {
 }
 
 std::int16_t contar_palabras(Text& texto) {
-    replace_all(texto, highlight_opening, u"");
-    space_tags(texto);
-    return as_count(words_of_spaced(trim_view(texto)));
+    const Survey survey = settle(texto, u"");
+    return as_count(words_of_spaced(texto, survey));
 }
 
 namespace {
@@ -150,12 +189,11 @@ std::int64_t count_apart(TextView texto, TextView keyword) {
 } // namespace
 
 std::int16_t contar_kw(Text& texto, Text& keyword) {
-    replace_all(texto, highlight_opening, u" ");
-    space_tags(texto);
+    const Survey survey = settle(texto, u" ");
     keyword = Trim(LCase(keyword));
     const bool phrase = contains(keyword, u" ");
     if (phrase) quitar_dobles(keyword);
-    const bool has_joints = contains(texto, keyword_joint);
+    const bool has_joints = survey.dollars && contains(texto, keyword_joint);
     // A "$" beside a joint would make the joint another one.
     const bool plain = !has_joints && !contains(keyword, u"$");
     std::int64_t count = 0;
@@ -167,13 +205,16 @@ std::int16_t contar_kw(Text& texto, Text& keyword) {
     return as_count(count);
 }
 
+double por_ciento(std::int16_t cuenta, std::int16_t palabras) {
+    if (cuenta == 0 || palabras == 0) return 0;
+    return CInt(Replace(Format(Round(cuenta * 100.0 / palabras), u"###,0"), u",", u""));
+}
+
 double densidad(const Text& texto, Text& keyword) {
     if (trim_view(texto).empty()) return 0;
     Text copia = texto;
-    const double cuenta = contar_kw(copia, keyword);
-    const double palabras = contar_palabras(copia);
-    if (palabras == 0) return 0;
-    return CInt(Replace(Format(Round(cuenta * 100 / palabras), u"###,0"), u",", u""));
+    const std::int16_t cuenta = contar_kw(copia, keyword);
+    return por_ciento(cuenta, contar_palabras(copia));
 }
 
 double densidad2(std::int16_t cuenta, Text& texto, const Text& keyword) {

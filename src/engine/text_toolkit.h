@@ -14,9 +14,21 @@ inline constexpr TextView highlight_opening = u"<span style=\"background-color: 
 /// Stands for a blank inside a keyword while it is counted; a count turns it to a blank.
 inline constexpr TextView keyword_joint = u"$$$";
 
-/// Whether every tag has a blank on both sides and no blank follows another: the form in which a count leaves
-/// a text.
-bool is_spaced(TextView texto);
+/// What one pass over a text tells.
+struct Survey {
+    /// Every tag has a blank on both sides and no blank follows another: the form in which a count leaves a
+    /// text.
+    bool spaced = true;
+    bool opens_tags = false; ///< there is a "<"
+    bool dollars = false;    ///< there is a "$"
+    std::int64_t blanks = 0;
+    std::int64_t tag_ends = 0; ///< "<" and ">"
+
+    explicit Survey(TextView texto);
+};
+
+/// Whether a count leaves the text as it is: spaced, without highlight openings and joints.
+bool is_settled(TextView texto);
 
 /// Number of units of which the test holds; blocks with small counters, which compilers vectorise.
 template <class Test> std::int64_t count_units(TextView texto, Test test) {
@@ -46,6 +58,9 @@ std::int16_t contar_palabras(Text& texto);
 /// (single blanks, if it is a phrase); the text gets blanks around tags, single blanks, and its "$$$" become
 /// blanks. Fault 6 past 32767.
 std::int16_t contar_kw(Text& texto, Text& keyword);
+
+/// Whole per cent of `cuenta` among `palabras`, halves to even; 0 when there are no words.
+double por_ciento(std::int16_t cuenta, std::int16_t palabras);
 
 /// Whole per cent of occurrences among words, halves to even. The keyword is changed as by `contar_kw`.
 double densidad(const Text& texto, Text& keyword);
