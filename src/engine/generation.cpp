@@ -13,6 +13,7 @@
 #include "platform/chance.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
+#include "platform/memory.h"
 #include "platform/numbers.h"
 #include "reports/form12.h"
 #include "settings/settings_file.h"
@@ -157,6 +158,7 @@ void generation_run(Form6& form) {
     static bool running = false;
     if (running) return;
     const UnderWay under_way(running);
+    keep_freed_memory();
     form.run = std::make_unique<Run>(form);
     Run& run = *form.run;
     try {

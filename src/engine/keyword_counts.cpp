@@ -85,20 +85,35 @@ std::int16_t KeywordCounts::contar(int k, Text& keyword) {
     return CInt(static_cast<double>(*count));
 }
 
+/// What was put in may stand close to a tag, or be, with what is around it, what a count takes away. `places`
+/// are those before the replacement.
+bool KeywordCounts::settled_around(const std::vector<std::size_t>& places, std::size_t old_size,
+                                   std::size_t new_size) const {
+    constexpr std::size_t reach = highlight_opening.size() - 1;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const std::size_t place = places[i] + i * new_size - i * old_size;
+        std::size_t from = place - std::min(place, reach);
+        std::size_t end = std::min(place + new_size + reach, text_.size());
+        // Tags at the ends of a part have their blanks outside.
+        while (from > 0 && text_[from] == u'<') --from;
+        while (end < text_.size() && text_[end - 1] == u'>') ++end;
+        if (!is_settled(TextView(text_).substr(from, end - from))) return false;
+    }
+    return true;
+}
+
 void KeywordCounts::replace_last(int k, TextView with, int count) {
-    if (!index_ || !set_.known(k)) {
+    if (count < -1) throw RuntimeFault(fault_argument);
+    if (count == 0 || set_.keyword(k).empty()) return;
+    if (!set_.known(k) || !ready()) {
         changed();
         return twk::replace_last(text_, set_.keyword(k), with, count);
     }
-    if (count < -1) throw RuntimeFault(fault_argument);
-    if (count == 0 || set_.keyword(k).empty()) return;
     const auto most = count < 0 ? text_.size() : static_cast<std::size_t>(count);
     const std::vector<std::size_t> places = index_->from_right(k, most);
     if (places.empty()) return;
     index_->replace(k, places, with);
-    // What was put in may stand close to a tag, or be, with what is around it, what a count takes away.
-    const std::size_t reach = std::min(places.front(), highlight_opening.size() - 1);
-    if (!is_settled(TextView(text_).substr(places.front() - reach))) changed();
+    if (!settled_around(places, set_.keyword(k).size(), with.size())) changed();
 }
 
 } // namespace twk

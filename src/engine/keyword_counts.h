@@ -51,6 +51,8 @@ class KeywordCounts {
     bool ready();
     /// From the index; nothing when matches of a phrase stand close enough to play into each other.
     std::optional<std::int64_t> counted(int k) const;
+    bool settled_around(const std::vector<std::size_t>& places, std::size_t old_size,
+                        std::size_t new_size) const;
 
     const KeywordSet& set_;
     Text& text_;

@@ -18,7 +18,7 @@ namespace twk {
 
 namespace {
 
-constexpr int long_text = 10000; ///< units; a text of exactly so many is neither long nor short
+constexpr std::size_t long_text = 10000; ///< units; a text of exactly so many is neither long nor short
 
 /// Draws the boxes of a page into `seleccion`; returns how many. No place of the pool is drawn twice.
 int draw_boxes(Run& run) {
@@ -32,24 +32,43 @@ int draw_boxes(Run& run) {
     return m;
 }
 
+/// The box with every sentence in a paragraph of its own. Many pages draw the same box.
+const Text& split_box(Run& run, int b) {
+    std::optional<Text>& kept = run.contenidos_partidos[static_cast<std::size_t>(b)];
+    if (!kept) kept = Replace(run.box(b), u". ", u". <p>");
+    return *kept;
+}
+
 /// The boxes 0 to m: the last one was not drawn for this page, so it is what an earlier page left there.
-Text joined_boxes(const Run& run, int m) {
+/// Every sentence is in a paragraph of its own; `whole` gets the units that the boxes have without that.
+Text joined_boxes(Run& run, int m, std::size_t& whole) {
+    constexpr TextView start = u" <p><!-- Still Info --> ";
+    const auto drawn = [&run, m](auto take) {
+        for (int i = 0; i <= m; ++i) take(run.seleccion[static_cast<std::size_t>(i)]);
+    };
+    std::size_t size = 0;
+    whole = 0;
+    drawn([&](int box) {
+        whole += start.size() + (box == Run::nothing ? 0 : run.box(box).size());
+        size += start.size() + 4 + (box == Run::nothing ? 0 : split_box(run, box).size());
+    });
     Text s;
-    for (int i = 0; i <= m; ++i) {
-        s += u" <p><!-- Still Info --> ";
-        const int box = run.seleccion[static_cast<std::size_t>(i)];
-        if (box != Run::nothing) s += run.contenidos[static_cast<std::size_t>(box)];
-    }
+    s.reserve(size);
+    drawn([&](int box) {
+        // A point before the start ends a sentence, too.
+        s.append(s.ends_with(u'.') ? u" <p>" : u" ").append(start.substr(1));
+        if (box != Run::nothing) s.append(split_box(run, box));
+    });
     return s;
 }
 
-/// Draws the densities of a text; at exactly the limit those of the page before stay.
-void draw_densities(Run& run, const Text& s) {
+/// Draws the densities of a text of so many units; at exactly the limit those of the page before stay.
+void draw_densities(Run& run, std::size_t units) {
     const GatewaySettings& bounds = run.settings;
-    if (Len(s) > long_text) {
+    if (units > long_text) {
         run.d1 = xrnum2(bounds.tope_largo1);
         run.d2 = xrnum2(bounds.tope_largo2);
-    } else if (Len(s) < long_text) {
+    } else if (units < long_text) {
         run.d1 = xrnum2(bounds.tope_corto1);
         run.d2 = xrnum2(bounds.tope_corto2);
     }
@@ -90,14 +109,18 @@ void fill_content_pool(Run& run) {
 
 Text tp3_content(Run& run) {
     const Form6& form = run.form;
-    Text s = joined_boxes(run, draw_boxes(run));
+    std::size_t units = 0;
+    Text s = joined_boxes(run, draw_boxes(run), units);
     if (form.Check4.value() && percent_draw() < 35) {
         Text words = Trim(Replace(run.lista_kw, u",", u""));
         flash(run, words);
     }
-    if (xrnum2(30) > 15 && form.Check3.value()) s += hidden_list(run);
-    draw_densities(run, s);
-    replace_all(s, u". ", u". <p>");
+    if (xrnum2(30) > 15 && form.Check3.value()) {
+        const Text list = hidden_list(run);
+        units += list.size();
+        s += Replace(list, u". ", u". <p>"); // begins with a tag
+    }
+    draw_densities(run, units);
     perhaps_adjust(run, s, 7, run.d1);
     status(run, u"Optimizing Random-Generated Pages [1/2] ");
     DoEvents();
@@ -107,7 +130,10 @@ Text tp3_content(Run& run) {
     const int kept = xrnum(40);
     if (form.Check8.value()) limit_keywords(run, s, kept);
     if (form.Check6.value()) s = highLight(run, s);
-    return font_line(run) + u"<p>" + s + u"<p></font>";
+    const Text font = font_line(run);
+    Text content;
+    content.reserve(font.size() + s.size() + 16);
+    return content.append(font).append(u"<p>").append(s).append(u"<p></font>");
 }
 
 Text random_content(Run& run) {

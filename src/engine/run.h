@@ -69,8 +69,8 @@ struct Run {
     std::array<std::int16_t, max_boxes> palabras_caja{};
     std::array<std::vector<std::int16_t>, max_boxes> densidades; ///< [box][keyword], per cent
     std::int16_t ultima_caja = -1;
-    /// Boxes with every sentence in a paragraph of its own and tags spaced; made when needed.
-    std::array<std::optional<Text>, max_boxes> contenidos_partidos;
+    /// Boxes with every sentence in a paragraph of its own, and the same with tags spaced; made when needed.
+    std::array<std::optional<Text>, max_boxes> contenidos_partidos, contenidos_espaciados;
 
     std::shared_ptr<const KeywordSet>
         keywords; ///< those of the table, to be counted together; made when needed

@@ -87,8 +87,8 @@ int hidden_box(Run& run, std::int16_t boxes) {
 
 /// The box with its sentences as paragraphs, spaced as the search for anchor words leaves it. Many pages draw
 /// the same box.
-const Text& split_box(Run& run, int b) {
-    std::optional<Text>& kept = run.contenidos_partidos[static_cast<std::size_t>(b)];
+const Text& spaced_box(Run& run, int b) {
+    std::optional<Text>& kept = run.contenidos_espaciados[static_cast<std::size_t>(b)];
     if (!kept) {
         kept = Replace(run.box(b), u". ", u". <p>");
         contar_palabras(*kept);
@@ -138,7 +138,7 @@ void write_content_block(Run& run, bool split_sentences, bool count_file) {
     const int b = xrnum2(run.ultima_caja);
     const Text& first = run.box(a);
     Text& text = run.texto_pagina;
-    text = split_sentences ? split_box(run, a) : first;
+    text = split_sentences ? spaced_box(run, a) : first;
     if (Len(first) < 300) text = first + u"<p>" + run.lista_kw + u"<p>" + run.box(b);
     if (!run.subkw_actual.empty()) text = Ajustar_KW(run, text, run.subkw_actual, 3);
     text = Ajustar_KW(run, text, k, 2);

@@ -117,18 +117,21 @@ Dictionary& dictionary_of(Run& run) {
 
 Text sinonimo(Run& run, const Text& texto) {
     Dictionary& dictionary = dictionary_of(run);
-    Text t = Replace(Replace(texto, u"<", u" <"), u">", u"> ");
-    quitar_dobles(t);
-    const std::vector<TextView> palabras_texto = split_views(t);
-    const int n = static_cast<int>(palabras_texto.size()) - 1;
-    const int m = static_cast<int>(Round(n * share() / 100));
+    Text t = texto;
+    space_tags(t);
+    const auto n = static_cast<int>(count_units(t, [](char16_t c) { return c == u' '; }));
+    const int m = t.empty() ? -1 : std::min(n, static_cast<int>(Round(n * share() / 100)));
     Text out;
     out.reserve(t.size() + t.size() / 8);
-    for (int i = 0; i <= n; ++i) {
-        const TextView pieza = palabras_texto[static_cast<std::size_t>(i)];
-        const Text* const other = i <= m ? dictionary.find(pieza) : nullptr;
+    std::size_t from = 0;
+    for (int i = 0; i <= m; ++i) {
+        const std::size_t end = std::min(t.find(u' ', from), t.size());
+        const TextView pieza = TextView(t).substr(from, end - from);
+        const Text* const other = dictionary.find(pieza);
         out.append(other != nullptr ? TextView(*other) : pieza).append(1, u' ');
+        from = std::min(end + 1, t.size());
     }
+    out.append(t, from); // the words behind the share stay
     return Trim(out);
 }
 

@@ -88,29 +88,33 @@ std::size_t next_to_space(TextView text, std::size_t at) {
     return at;
 }
 
-/// "<" to " <", ">" to "> ", then single blanks: the form in which tags are pieces of their own.
-void space_tags(Text& text) {
+} // namespace
+
+void space_tags(Text& texto) {
     const auto tag_end = [](char16_t c) { return c == u'<' || c == u'>'; };
     Text out;
-    out.reserve(text.size() + 2 * static_cast<std::size_t>(std::count_if(text.begin(), text.end(), tag_end)));
+    out.reserve(texto.size() +
+                2 * static_cast<std::size_t>(std::count_if(texto.begin(), texto.end(), tag_end)));
     const auto blank_behind = [&out] { return !out.empty() && out.back() == u' '; };
-    for (std::size_t from = 0; from < text.size();) {
-        if (text[from] == u' ' && blank_behind()) {
+    for (std::size_t from = 0; from < texto.size();) {
+        if (texto[from] == u' ' && blank_behind()) {
             ++from;
             continue;
         }
-        const std::size_t at = next_to_space(text, from);
-        out.append(text, from, at - from);
-        if (at == text.size()) break;
-        if (text[at] == u'<' && !blank_behind()) out.push_back(u' ');
-        out.push_back(text[at]);
-        if (text[at] == u'>') out.push_back(u' ');
+        const std::size_t at = next_to_space(texto, from);
+        out.append(texto, from, at - from);
+        if (at == texto.size()) break;
+        if (texto[at] == u'<' && !blank_behind()) out.push_back(u' ');
+        out.push_back(texto[at]);
+        if (texto[at] == u'>') out.push_back(u' ');
         from = at + 1;
     }
-    text = std::move(out);
+    texto = std::move(out);
 }
 
-/// Brings a text to that form, its highlight openings replaced; tells what it holds then.
+namespace {
+
+/// Spaces a text, its highlight openings replaced; tells what it holds then.
 Survey settle(Text& text, TextView for_opening) {
     const Survey survey(text);
     const bool replaced = survey.opens_tags && replace_all(text, highlight_opening, for_opening);
@@ -119,7 +123,7 @@ Survey settle(Text& text, TextView for_opening) {
     return Survey(text);
 }
 
-/// Words of a text in that form: its pieces less those that begin or end a tag.
+/// Words of a spaced text: its pieces less those that begin or end a tag.
 std::int64_t words_of_spaced(TextView text, const Survey& survey) {
     if (trim_view(text).empty()) return 0;
     const std::int64_t blanks =

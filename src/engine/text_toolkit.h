@@ -50,6 +50,9 @@ bool are_apart(TextView between, TextView keyword);
 /// Collapses runs of blanks in place; returns the argument.
 Text& quitar_dobles(Text& texto);
 
+/// Puts a blank before every "<" and behind every ">", then collapses runs of blanks. In place.
+void space_tags(Text& texto);
+
 /// Number of words: pieces between blanks that neither begin with "<" nor end with ">", once every tag has a
 /// blank on both sides. The text keeps that spacing and loses its highlight openings. Fault 6 past 32767.
 std::int16_t contar_palabras(Text& texto);

@@ -64,7 +64,7 @@ TextView Cutter::text() {
     }
     const TextView text = html_.substr(from, at_ - from);
     // A reference to a character begins with "&" and a letter or "#".
-    for (std::size_t i = position(text, u"&"); i != TextView::npos; i = position(text, u"&", i + 1))
+    for (std::size_t i = 0; ampersands_ && (i = position(text, u"&", i)) != TextView::npos; ++i)
         if (i + 1 == text.size() || !is_blank(text[i + 1])) throw Unknown();
     return text;
 }

@@ -50,7 +50,7 @@ bool is_blank(char16_t c);
 /// Cuts a page into text and tags; comments fall away. Whatever is not certain throws `Unknown`.
 class Cutter {
   public:
-    explicit Cutter(TextView html) : html_(html) {}
+    explicit Cutter(TextView html) : html_(html), ampersands_(contains(html, u"&")) {}
 
     bool at_end() const { return at_ >= html_.size(); }
     /// The text up to the next "<" that begins a tag or comment.
@@ -71,6 +71,7 @@ class Cutter {
     void skip_attributes();
 
     TextView html_;
+    bool ampersands_; ///< the page holds one at all
     std::size_t at_ = 0;
 };
 
