@@ -121,15 +121,18 @@ Text sinonimo(Run& run, const Text& texto) {
     space_tags(t);
     const auto n = static_cast<int>(count_units(t, [](char16_t c) { return c == u' '; }));
     const int m = t.empty() ? -1 : std::min(n, static_cast<int>(Round(n * share() / 100)));
-    Text out;
-    out.reserve(t.size() + t.size() / 8);
+    std::vector<TextView> palabras_texto; // no more than may be replaced
     std::size_t from = 0;
     for (int i = 0; i <= m; ++i) {
         const std::size_t end = std::min(t.find(u' ', from), t.size());
-        const TextView pieza = TextView(t).substr(from, end - from);
+        palabras_texto.push_back(TextView(t).substr(from, end - from));
+        from = std::min(end + 1, t.size());
+    }
+    Text out;
+    out.reserve(t.size() + t.size() / 8);
+    for (const TextView pieza : palabras_texto) {
         const Text* const other = dictionary.find(pieza);
         out.append(other != nullptr ? TextView(*other) : pieza).append(1, u' ');
-        from = std::min(end + 1, t.size());
     }
     out.append(t, from); // the words behind the share stay
     return Trim(out);

@@ -33,20 +33,20 @@ void Form5::criticar() {
     const std::int16_t total = contar_palabras(text);
     Text report = u"CONTENT CRITIC: \r\n[Total word count]: " + to_text(total) + u"\r\n";
     if (total + 1 < 250) report += u"(Caution: Low Value!)\r\n\r\n";
-    bool none_dense = true;
+    bool sin_densidad = true;
     // Keywords added in Step 2 since this screen was loaded are not in the table.
     const int last = std::min(screen<Form3>().List1.list_count(), tabla_kw.rows() - 1);
     for (int k = 0; k <= last; ++k) {
         Text& keyword = tabla_kw.cell(k);
         if (keyword.empty()) continue;
-        const std::int16_t count = contar_kw(text, keyword); // lower-cases the table's keyword
-        report += u"[KW: '" + Trim(keyword) + u"' ]: " + to_text(count) + u"\r\n";
-        if (count <= 0) continue;
-        if (count > 1) none_dense = false;
-        report += u"     [KW Density]: " + to_text(densidad2(count, text, keyword)) + u"%\r\n";
+        const std::int16_t cuenta = contar_kw(text, keyword); // lower-cases the table's keyword
+        report += u"[KW: '" + Trim(keyword) + u"' ]: " + to_text(cuenta) + u"\r\n";
+        if (cuenta <= 0) continue;
+        if (cuenta > 1) sin_densidad = false;
+        report += u"     [KW Density]: " + to_text(densidad2(cuenta, text, keyword)) + u"%\r\n";
     }
     // Whatever it says, this depends on the counts alone: no keyword occurs twice.
-    if (none_dense) report += u"\r\nCaution: In this content box no keyword reaches 1% density!";
+    if (sin_densidad) report += u"\r\nCaution: In this content box no keyword reaches 1% density!";
     Text3.text = report;
 }
 
