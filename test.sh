@@ -18,7 +18,5 @@ install_missing $build_packages $test_packages
 cmake --preset "$preset" -DTARNWICK_TESTS=ON "$@"
 cmake --build "build/$preset" -j "$(nproc)"
 
-export QT_QPA_PLATFORM=offscreen
-export QTWEBENGINE_DISABLE_SANDBOX=1 # tests may run as root
 export UBSAN_OPTIONS="print_stacktrace=1:${UBSAN_OPTIONS:-}"
 ctest --preset "$preset" -j "$(nproc)"

@@ -2,7 +2,7 @@
 
 build_packages="g++ cmake ninja-build pkg-config libsqlcipher-dev libgumbo-dev libcli11-dev nlohmann-json3-dev
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-webengine-dev"
-test_packages="libgtest-dev libgmock-dev libbenchmark-dev xvfb clang-format"
+test_packages="libgtest-dev libbenchmark-dev python3"
 
 # install_missing PACKAGE...: installs what is not there, as root or through sudo.
 install_missing() {
