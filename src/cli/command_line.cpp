@@ -69,9 +69,8 @@ Status run_command(std::vector<std::string> arguments, const Console& console) {
         ->type_name("FILE");
     generate->add_flag("--json", options.json, "Print the closing figures as JSON");
 
-    std::string project;
     auto* const check = app.add_subcommand("check", "Walk a project through the checks of the wizard");
-    check->add_option("project", project, "Name of the project")->type_name("PROJECT")->required();
+    check->add_option("project", options.project, "Name of the project")->type_name("PROJECT")->required();
 
     try {
         std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back
@@ -80,7 +79,7 @@ Status run_command(std::vector<std::string> arguments, const Console& console) {
         return app.exit(error, console.out, console.err) == 0 ? Status::done : Status::usage;
     }
     if (list->parsed()) return list_projects(console, folder);
-    if (check->parsed()) return check_project(console, folder, project);
+    if (check->parsed()) return check_project(console, folder, options.project);
     options.now = parse_moment(now);
     return generate_project(console, folder, options);
 }

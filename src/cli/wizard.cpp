@@ -84,20 +84,18 @@ Status Wizard::select_project(const Text& project) {
                 [] { return module1().pid_actual != 0 && screens().is_loaded<Form2>(); }, "Project manager");
 }
 
+template <class From, class To> Status Wizard::next(const char* button, std::string_view name) {
+    return step([button] { return screens().fire<From>(button, "Click"); },
+                [] { return screens().is_loaded<To>(); }, name);
+}
+
 Status Wizard::walk_to_step5(const Text& project) {
-    if (const Status selected = select_project(project); selected != Status::done) return selected;
-    // Every Next unloads the following screen before it checks, so that its presence is its success.
-    Status status = step([] { return screens().fire<Form2>("Command2", "Click"); },
-                         [] { return screens().is_loaded<Form3>(); }, "Step 1");
-    if (status != Status::done) return status;
-    status = step([] { return screens().fire<Form3>("Command5", "Click"); },
-                  [] { return screens().is_loaded<Form5>(); }, "Step 2");
-    if (status != Status::done) return status;
-    status = step([] { return screens().fire<Form5>("Command1", "Click"); },
-                  [] { return screens().is_loaded<Form7>(); }, "Step 3");
-    if (status != Status::done) return status;
-    return step([] { return screens().fire<Form7>("Command1", "Click"); },
-                [] { return screens().is_loaded<Form6>(); }, "Step 4");
+    Status status = select_project(project);
+    if (status == Status::done) status = next<Form2, Form3>("Command2", "Step 1");
+    if (status == Status::done) status = next<Form3, Form5>("Command5", "Step 2");
+    if (status == Status::done) status = next<Form5, Form7>("Command1", "Step 3");
+    if (status == Status::done) status = next<Form7, Form6>("Command1", "Step 4");
+    return status;
 }
 
 Status Wizard::generate() {

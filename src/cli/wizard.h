@@ -39,6 +39,9 @@ class Wizard {
   private:
     Status step(const std::function<bool()>& press, const std::function<bool()>& arrived,
                 std::string_view name);
+    /// Presses a screen's Next. Every Next unloads the following screen before it checks, so that its
+    /// presence is its success.
+    template <class From, class To> Status next(const char* button, std::string_view name);
     Status select_project(const Text& project);
 
     const Console console_;
