@@ -5,8 +5,8 @@
 #include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
-#include "store/database.h"
 #include "store/store_setup.h"
+#include "store/stores.h"
 
 #include <exception>
 #include <filesystem>
@@ -178,8 +178,8 @@ void make_store(const Text& path, const Text& schema, const std::string& key) {
 void make_stores(const Text& data, const Text& out) {
     const SampleProject sample = read_sample(data + u"sample_project.txt");
 
-    make_store(out + u"hive.mdb", data + u"schema_hive.sql", "lantern4821");
-    Database hive = OpenDatabase(out + u"hive.mdb", false, false, u";pwd=lantern4821");
+    make_store(out + u"hive.mdb", data + u"schema_hive.sql", hive_key);
+    Database hive = OpenDatabase(out + u"hive.mdb", false, false, u";pwd=" + from_utf8(hive_key));
     const Text pid = write_project(hive, sample.properties);
     write_addresses(hive, pid, u"target", u"target", sample.targets);
     write_addresses(hive, pid, u"host1", u"host", sample.main_host);

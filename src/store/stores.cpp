@@ -9,7 +9,7 @@ Text beside_program(TextView file) {
 }
 
 Database open_hive() {
-    return OpenDatabase(beside_program(u"hive.mdb"), false, false, u";pwd=lantern4821");
+    return OpenDatabase(beside_program(u"hive.mdb"), false, false, u";pwd=" + from_utf8(hive_key));
 }
 
 Database open_synonyms() {

@@ -7,6 +7,9 @@ namespace twk {
 /// Path of a file in the application folder.
 Text beside_program(TextView file);
 
+/// The key of the project store.
+inline constexpr const char* hive_key = "lantern4821";
+
 /// New handles on the project store and on the synonym store. Faults as `OpenDatabase` tells them.
 Database open_hive();
 Database open_synonyms();
