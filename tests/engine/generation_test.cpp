@@ -1,5 +1,6 @@
 #include "engine/form17.h"
 #include "engine/generation.h"
+#include "engine/text_toolkit.h"
 #include "reports/form12.h"
 #include "shell/module1.h"
 #include "support/sample_project.h"
@@ -144,6 +145,31 @@ TEST_F(GenerationRun, second_click_while_pages_are_written_does_nothing) {
     app.desktop.on_events = nullptr;
     EXPECT_TRUE(project.generate()); // the next one runs again
     EXPECT_TRUE(project.run().finished);
+}
+
+/// All keywords of a box are counted together; `densidad` counts one by one.
+TEST_F(GenerationRun, boxes_have_the_densities_of_one_count_after_the_other) {
+    test::SampleContent content;
+    const Text opening(highlight_opening);
+    content.keywords.push_back({u"a $ b"});
+    content.keywords.push_back({u"rose garden"});
+    for (const Text& text :
+         {Text(u"rose garden rose garden<b>rose garden</b> and a $ b a $$$ b shed"),
+          Text(u"rose$$$garden $ b"),
+          u"rose <sp" + opening + u"an style=\"background-color: #FFFF97\">rose garden</b> rose garden"})
+        content.boxes.push_back({text});
+    test::SampleProject project(app, content);
+    ASSERT_TRUE(project.generate());
+    const twk::Run& run = project.run();
+    int found = 0;
+    for (std::size_t b = 0; b < content.boxes.size(); ++b)
+        for (int k = 0; k < run.n_keywords; ++k) {
+            Text keyword = run.tabla_kw.at(k);
+            const double wanted = densidad(run.contenidos[b], keyword);
+            EXPECT_EQ(run.densidades[b].at(static_cast<std::size_t>(k)), wanted) << b << ' ' << k;
+            found += wanted > 0 ? 1 : 0;
+        }
+    EXPECT_GT(found, 5);
 }
 
 TEST_F(GenerationRun, preparation_faults_come_before_anything_is_erased) {

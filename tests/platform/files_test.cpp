@@ -1,5 +1,6 @@
 #include "platform/faults.h"
 #include "platform/files.h"
+#include "platform/name_index.h"
 #include "support/faults.h"
 #include "support/temp_app.h"
 
@@ -122,6 +123,26 @@ TEST(Names, AreFoundWithoutRegardToCase) {
     EXPECT_FALSE(file_exists(app.path(u"projects/COPY.htm")));
     write_page(app.path(u"projects/copy.htm"), u"again");
     EXPECT_TRUE(app.exists(u"Projects/copy.htm"));
+}
+
+TEST(Names, OfSteadyFoldersFollowTheProgramAndAfterwardsOthersToo) {
+    const TempApp app;
+    MkDir(app.path(u"P"));
+    app.write(u"P/Old.htm", "old");
+    {
+        const NameIndex::SteadyFolders steady;
+        EXPECT_TRUE(NameIndex::is_missing(to_utf8(app.path(u"P/new.htm"))));
+        EXPECT_FALSE(NameIndex::is_missing(to_utf8(app.path(u"P/OLD.htm"))));
+        EXPECT_EQ(Dir(app.path(u"P/old.HTM")), u"Old.htm");
+        write_page(app.path(u"P/New.htm"), u"one");
+        EXPECT_EQ(Dir(app.path(u"P/new.htm")), u"New.htm");
+        FileSystemObject().MoveOver(app.path(u"P/New.htm"), app.path(u"P/OLD.htm"));
+        EXPECT_EQ(list_files(app.path(u"P"), u"*"), (std::vector<Text>{u"OLD.htm"}));
+        EXPECT_TRUE(NameIndex::is_missing(to_utf8(app.path(u"P/New.htm"))));
+    }
+    app.write(u"P/Other.htm", "of another program");
+    const NameIndex::SteadyFolders steady;
+    EXPECT_EQ(Dir(app.path(u"P/other.HTM")), u"Other.htm");
 }
 
 TEST(MoveOver, LeavesOneFileUnderTheNameAsGiven) {
