@@ -31,6 +31,7 @@ run_clang_tidy() {
     tidy=$(command -v clang-tidy || command -v clang-tidy-14)
     [ -f "$build/compile_commands.json" ] || cmake --preset dev -B "$build" -DTARNWICK_DESKTOP=OFF
     if [ $# = 0 ]; then
+        # shellcheck disable=SC2046 # a list of names
         set -- $(grep -o '"file": "[^"]*/src/[^"]*\.cpp"' "$build/compile_commands.json" | cut -d'"' -f4 |
             grep -v autogen | sort -u)
     fi
