@@ -207,26 +207,35 @@ void check_densidad(TextView texto, const Text& keyword) {
 
 } // namespace
 
+SpacedText::SpacedText(Text text)
+    : texto(std::move(text)), palabras(contar_palabras(texto)),
+      piezas(split_views(trim_view(quitar_dobles(texto)))) {}
+
 Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, std::int16_t densidad_pedida) {
     if (trim_view(texto).empty() || densidad_pedida < 1) return {};
-    const std::int16_t w = contar_palabras(texto);
+    SpacedText spaced(std::move(texto));
+    Text out = Ajustar_KW(run, spaced, keyword, densidad_pedida);
+    texto = std::move(spaced.texto);
+    return out;
+}
+
+Text Ajustar_KW(Run& run, const SpacedText& spaced, const Text& keyword, std::int16_t densidad_pedida) {
+    if (spaced.piezas.empty() || densidad_pedida < 1) return {};
+    const int w = spaced.palabras;
     const Text k = Trim(keyword);
-    check_densidad(texto, k);
-    quitar_dobles(texto);
+    check_densidad(spaced.texto, k);
     int step = 0;
     const double por_cien = CInt(static_cast<double>(densidad_pedida) * w) / 100.0;
     if (w != 0) step = static_cast<int>(Int(w / por_cien));
     if (step < 2) return {};
-    const TextView recortado = trim_view(texto);
-    const std::vector<TextView> piezas = split_views(recortado);
     std::vector<TextView> anclas;
     std::uint64_t lengths = 0; // none that counts without a keyword
     for (int i = 0; i < sentences_in_use && !k.empty(); ++i) {
         anclas.push_back(trim_view(run.settings.palabras_ancla[static_cast<std::size_t>(i)]));
         lengths |= Segments::length_bit(anclas.back());
     }
-    Segments segments{run, k, piezas, anclas, lengths, w, {}, {}};
-    segments.out.reserve(texto.size() + texto.size() / 2);
+    Segments segments{run, k, spaced.piezas, anclas, lengths, w, {}, {}};
+    segments.out.reserve(spaced.texto.size() + spaced.texto.size() / 2);
     const auto n = static_cast<int>(Int(por_cien - 1));
     for (int i = 0; i <= n; ++i)
         if (!segments.append(static_cast<std::int64_t>(i) * step, step)) break;

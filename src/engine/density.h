@@ -3,6 +3,7 @@
 #include "platform/text.h"
 
 #include <cstdint>
+#include <vector>
 
 /// Brings a content box to about the word count and keyword density asked for, marks keywords, and makes file
 /// names. Density is reached by adding sentences at even steps; what the text has already is not measured.
@@ -25,9 +26,24 @@ Text muchas_palabras(Run& run, Text& texto);
 
 /// The text in segments of about 100 / `densidad` pieces, each with a sentence that links the keyword in
 /// front of its first anchor word. Empty when the text is, when `densidad` is below 1, or above 50. The
-/// argument gets its tags spaced. Faults 6 (words times density past 16 bits), 9 (an anchor word past the
-/// last piece), 1001.
+/// argument gets its tags spaced; a fault leaves it empty. Faults 6 (words times density past 16 bits), 9 (an
+/// anchor word past the last piece), 1001.
 Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, std::int16_t densidad);
+
+/// A text as `Ajustar_KW` leaves its argument, cut into pieces: for texts that get sentences many times.
+struct SpacedText {
+    /// Fault 6 when there are more words than 32767.
+    explicit SpacedText(Text text);
+    SpacedText(const SpacedText&) = delete;
+    SpacedText& operator=(const SpacedText&) = delete;
+
+    Text texto;
+    std::int16_t palabras;
+    std::vector<TextView> piezas; ///< of `texto`, without the blanks at its ends
+};
+
+/// The same for such a text.
+Text Ajustar_KW(Run& run, const SpacedText& spaced, const Text& keyword, std::int16_t densidad);
 
 /// The draw of `xrnum`.
 std::int16_t xrnum2(std::int16_t n);

@@ -18,6 +18,7 @@ namespace twk {
 class KeywordSet;
 class PatternSet;
 struct KnownSynonyms;
+struct SpacedText;
 
 /// The project's record, as the run reads it.
 struct Proyecto {
@@ -69,8 +70,10 @@ struct Run {
     std::array<std::int16_t, max_boxes> palabras_caja{};
     std::array<std::vector<std::int16_t>, max_boxes> densidades; ///< [box][keyword], per cent
     std::int16_t ultima_caja = -1;
-    /// Boxes with every sentence in a paragraph of its own, and the same with tags spaced; made when needed.
-    std::array<std::optional<Text>, max_boxes> contenidos_partidos, contenidos_espaciados;
+    /// Boxes with every sentence in a paragraph of its own, and the same ready to get sentences; made when
+    /// needed.
+    std::array<std::optional<Text>, max_boxes> contenidos_partidos;
+    std::array<std::shared_ptr<const SpacedText>, max_boxes> contenidos_espaciados;
 
     std::shared_ptr<const KeywordSet>
         keywords; ///< those of the table, to be counted together; made when needed

@@ -85,15 +85,23 @@ int hidden_box(Run& run, std::int16_t boxes) {
     return b;
 }
 
-/// The box with its sentences as paragraphs, spaced as the search for anchor words leaves it. Many pages draw
-/// the same box.
-const Text& spaced_box(Run& run, int b) {
-    std::optional<Text>& kept = run.contenidos_espaciados[static_cast<std::size_t>(b)];
-    if (!kept) {
-        kept = Replace(run.box(b), u". ", u". <p>");
-        contar_palabras(*kept);
-    }
+/// The box with its sentences as paragraphs. Many pages draw the same box.
+const SpacedText& spaced_box(Run& run, int b) {
+    std::shared_ptr<const SpacedText>& kept = run.contenidos_espaciados[static_cast<std::size_t>(b)];
+    if (!kept) kept = std::make_shared<SpacedText>(Replace(run.box(b), u". ", u". <p>"));
     return *kept;
+}
+
+/// Box `a`, a short one with the keyword list and box `b` behind it, and the sentences for the subkeyword.
+Text with_sentences(Run& run, int a, int b, bool split_sentences) {
+    const Text& sub = run.subkw_actual;
+    const Text& first = run.box(a);
+    if (split_sentences && Len(first) >= 300) { // a short one keeps its sentences together
+        const SpacedText& spaced = spaced_box(run, a);
+        return sub.empty() ? spaced.texto : Ajustar_KW(run, spaced, sub, 3);
+    }
+    Text text = Len(first) < 300 ? first + u"<p>" + run.lista_kw + u"<p>" + run.box(b) : first;
+    return sub.empty() ? text : Ajustar_KW(run, text, sub, 3);
 }
 
 } // namespace
@@ -136,11 +144,8 @@ void write_content_block(Run& run, bool split_sentences, bool count_file) {
     const Text k = run.tabla_kw.at(run.indice_kw);
     const int a = xrnum2(run.ultima_caja);
     const int b = xrnum2(run.ultima_caja);
-    const Text& first = run.box(a);
     Text& text = run.texto_pagina;
-    text = split_sentences ? spaced_box(run, a) : first;
-    if (Len(first) < 300) text = first + u"<p>" + run.lista_kw + u"<p>" + run.box(b);
-    if (!run.subkw_actual.empty()) text = Ajustar_KW(run, text, run.subkw_actual, 3);
+    text = with_sentences(run, a, b, split_sentences);
     text = Ajustar_KW(run, text, k, 2);
     status(run, u"Updating Second-Level Page");
     DoEvents();

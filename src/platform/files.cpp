@@ -204,8 +204,16 @@ void remove_file(const std::string& name, const Text& path) {
 
 // Streams
 
+namespace {
+
+constexpr std::size_t usual_page = 32 * 1024; ///< units, so that a page seldom outgrows its first room
+
+} // namespace
+
 TextStream::TextStream(Text path, OpenMode mode, TextKind kind, Text content, int file)
-    : path_(std::move(path)), mode_(mode), kind_(kind), content_(std::move(content)), file_(file) {}
+    : path_(std::move(path)), mode_(mode), kind_(kind), content_(std::move(content)), file_(file) {
+    if (kind_ == TextKind::page && mode_ != OpenMode::reading) content_.reserve(usual_page);
+}
 
 TextStream::~TextStream() {
     if (file_ >= 0) ::close(file_);
@@ -267,7 +275,8 @@ Text TextStream::close_and_read() {
     if (error != 0) fail(error, path_);
     size_ = std::ssize(bytes) + (appended ? std::ssize(old) : 0);
     Text text = std::exchange(content_, {});
-    return reads_back(text) ? text : decode_text(bytes);
+    if (!reads_back(text)) return decode_text(bytes);
+    return text;
 }
 
 // The file system

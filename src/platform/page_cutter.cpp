@@ -116,8 +116,9 @@ Element Cutter::element() {
     const std::size_t from = at_;
     while (!is_blank(unit()) && unit() != u'/' && unit() != u'>' && at_ < html_.size()) ++at_;
     const TextView name = html_.substr(from, at_ - from);
+    const char16_t first = lower_ascii(name.front());
     for (const Name& known : names)
-        if (is_name(name, known.name)) return {known.kind, known.number};
+        if (known.name.front() == first && is_name(name, known.name)) return {known.kind, known.number};
     // What is no name of HTML is an inline element like any other.
     if (!std::all_of(name.begin(), name.end(), is_letter_or_digit)) return {Kind::marks, 0};
     throw Unknown();

@@ -12,12 +12,13 @@ namespace {
 
 /// Whether a text holds no white space but single blanks.
 bool single_blanks(TextView text) {
-    unsigned short other = 0;
-    for (const char16_t c : text)
-        other =
-            static_cast<unsigned short>(other | (c == u'\t') | (c == u'\n') | (c == u'\r') | (c == u'\f'));
+    const auto other_blank = [](char16_t c) {
+        return (c == u'\t') | (c == u'\n') | (c == u'\r') | (c == u'\f');
+    };
+    unsigned short other = !text.empty() && other_blank(text.front()) ? 1 : 0;
     for (std::size_t i = 1; i < text.size(); ++i)
-        other = static_cast<unsigned short>(other | ((text[i - 1] == u' ') & (text[i] == u' ')));
+        other = static_cast<unsigned short>(other | other_blank(text[i]) |
+                                            ((text[i - 1] == u' ') & (text[i] == u' ')));
     return other == 0;
 }
 

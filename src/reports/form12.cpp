@@ -219,30 +219,24 @@ Text Form12::report_text(const PageAnalysis& page, int list) const {
         line(u"JavaScript Redirection to Target Site?: " + page.redirect);
         line(u"");
     }
-    line(u"Body Word Count: " + page.words + u" words");
-    for (std::size_t k = 0; k < page.keywords.size(); ++k) {
-        const KeywordAnalysis& found = page.keywords[k];
-        const Text named = u"[" + xKeyWords[k] + u"]";
-        if (found.count == u"0") {
-            line(u"No KeyWords for " + named);
-            continue;
+    const auto keyword_lines = [&](TextView where, auto count, auto density) {
+        for (std::size_t k = 0; k < page.keywords.size(); ++k) {
+            const KeywordAnalysis& found = page.keywords[k];
+            const Text named = u" for [" + xKeyWords[k] + u"]";
+            if (found.*count == u"0") {
+                line(u"No KeyWords" + LCase(where) + named);
+                continue;
+            }
+            line(u"KeyWord Count" + Text(where) + named + u": " + found.*count + u" repetitions");
+            line(u"   KeyWord Density" + Text(where) + named + u": " + found.*density + u" %");
         }
-        line(u"KeyWord Count for " + named + u": " + found.count + u" repetitions");
-        line(u"   KeyWord Density for " + named + u": " + found.density + u" %");
-    }
+    };
+    line(u"Body Word Count: " + page.words + u" words");
+    keyword_lines(u"", &KeywordAnalysis::count, &KeywordAnalysis::density);
     line(u"");
     line(u"Title: " + page.title);
     line(u"Title Word Count: " + page.title_words + u" words");
-    for (std::size_t k = 0; k < page.keywords.size(); ++k) {
-        const KeywordAnalysis& found = page.keywords[k];
-        const Text named = u"[" + xKeyWords[k] + u"]";
-        if (found.title_count == u"0") {
-            line(u"No KeyWords in title for " + named);
-            continue;
-        }
-        line(u"KeyWord Count in Title for " + named + u": " + found.title_count + u" repetitions");
-        line(u"   KeyWord Density in Title for " + named + u": " + found.title_density + u" %");
-    }
+    keyword_lines(u" in Title", &KeywordAnalysis::title_count, &KeywordAnalysis::title_density);
     line(u"URL: " + (list == 1 ? screen<Form7>().Text2.text() + u"\\" + page.file : page.url));
     line(u"");
     line(u"Make sure this file is uploaded to the directory above. Otherwise generated-pages will not be "
