@@ -126,8 +126,10 @@ struct Segments {
 
     bool is_anchor(TextView pieza) const {
         if ((lengths & length_bit(pieza)) == 0) return false;
+        const char16_t first = lower(pieza.front());
         for (const TextView ancla : anclas)
-            if (pieza.size() == ancla.size() && same_text(pieza, ancla)) return true;
+            if (pieza.size() == ancla.size() && first == lower(ancla.front()) && same_text(pieza, ancla))
+                return true;
         return false;
     }
 
@@ -231,8 +233,10 @@ Text Ajustar_KW(Run& run, const SpacedText& spaced, const Text& keyword, std::in
     std::vector<TextView> anclas;
     std::uint64_t lengths = 0; // none that counts without a keyword
     for (int i = 0; i < sentences_in_use && !k.empty(); ++i) {
-        anclas.push_back(trim_view(run.settings.palabras_ancla[static_cast<std::size_t>(i)]));
-        lengths |= Segments::length_bit(anclas.back());
+        const TextView ancla = trim_view(run.settings.palabras_ancla[static_cast<std::size_t>(i)]);
+        if (ancla.empty()) continue;
+        anclas.push_back(ancla);
+        lengths |= Segments::length_bit(ancla);
     }
     Segments segments{run, k, spaced.piezas, anclas, lengths, w, {}, {}};
     segments.out.reserve(spaced.texto.size() + spaced.texto.size() / 2);

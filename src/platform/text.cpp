@@ -191,14 +191,13 @@ Text Trim(TextView text) {
     return Text(trim_view(text));
 }
 
-char16_t lower(char16_t unit) {
+char16_t lower_beyond_ascii(char16_t unit) {
     return tables().lower[unit];
 }
 
 Text LCase(TextView text) {
-    const CaseTables& table = tables();
     Text out(text);
-    for (char16_t& unit : out) unit = table.lower[unit];
+    for (char16_t& unit : out) unit = lower(unit);
     return out;
 }
 
@@ -218,10 +217,8 @@ bool contains(TextView text, TextView find) {
 }
 
 bool same_text(TextView a, TextView b) {
-    const CaseTables& table = tables();
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&table](char16_t x, char16_t y) {
-        return x == y || table.lower[x] == table.lower[y];
-    });
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char16_t x, char16_t y) { return x == y || lower(x) == lower(y); });
 }
 
 namespace {

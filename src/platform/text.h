@@ -46,7 +46,11 @@ TextView trim_view(TextView text);
 
 Text LCase(TextView text);
 Text UCase(TextView text);
-char16_t lower(char16_t unit);
+char16_t lower_beyond_ascii(char16_t unit);
+inline char16_t lower(char16_t unit) {
+    if (unit >= 0x80) return lower_beyond_ascii(unit);
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
+}
 
 /// Units in reverse order.
 Text StrReverse(TextView text);
