@@ -3,7 +3,6 @@
 #include "engine/fragments.h"
 #include "engine/page_file.h"
 #include "engine/run.h"
-#include "platform/desktop.h"
 #include "platform/faults.h"
 #include "shell/form2.h"
 #include "store/stores.h"

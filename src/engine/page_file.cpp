@@ -2,7 +2,6 @@
 
 #include "engine/run.h"
 #include "platform/desktop.h"
-#include "platform/faults.h"
 
 namespace twk {
 

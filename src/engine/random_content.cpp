@@ -12,8 +12,6 @@
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 
-#include <numeric>
-
 namespace twk {
 
 namespace {

@@ -6,7 +6,6 @@
 #include "inputs/form7.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
-#include "platform/numbers.h"
 #include "shell/form2.h"
 
 namespace twk {

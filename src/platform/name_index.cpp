@@ -2,7 +2,6 @@
 
 #include "platform/files.h"
 
-#include <filesystem>
 #include <unordered_map>
 #include <utility>
 

@@ -3,7 +3,6 @@
 #include "platform/page_cutter.h"
 
 #include <algorithm>
-#include <array>
 #include <vector>
 
 namespace twk {

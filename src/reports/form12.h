@@ -2,7 +2,6 @@
 
 #include "platform/screens.h"
 
-#include <array>
 #include <cstdint>
 #include <memory>
 #include <vector>
