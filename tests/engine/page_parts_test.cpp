@@ -90,52 +90,6 @@ TEST_F(PageParts, meta_tags_follow_their_switches) {
               "<meta name=\"Description\" content=\"Sheds.\">|</head>|");
 }
 
-TEST_F(PageParts, body_shows_the_background_and_redirects_up_to_the_second_phase) {
-    form.Option1.value = true;
-    EXPECT_EQ(body(run), u""); // no layout is chosen
-    form.Template[0].value = true;
-    EXPECT_EQ(body(run), u"<body bgcolor=\"#ffffff\">");
-    form.Option2.value = true; // the picture wins
-    EXPECT_EQ(body(run), u"<body background=\"" + form.Text3.text() + u"\">");
-    choose_option(form.Template, 3);
-    form.Check13.value = true;
-    EXPECT_EQ(to_utf8(body(run)), "<a ref =\"http://target.example\" ><script language=JavaScript> "
-                                  "window.navigate('http://target.example')</script></a>");
-    run.fase = 3;
-    EXPECT_EQ(body(run), u"");
-}
-
-TEST_F(PageParts, target_favours_the_last_of_the_others) {
-    chance().fix_seed(7);
-    const double next = chance().Rnd();
-    chance().fix_seed(7);
-    EXPECT_EQ(target(run), u"http://target.example");
-    EXPECT_EQ(chance().Rnd(), next); // nothing was drawn without others
-    ListBox& others = screen<Form2>().List1;
-    others.add_item(u"http://one");
-    others.add_item(u"http://two");
-    std::map<Text, int> drawn;
-    form.Combo8.text = u"60";
-    for (int i = 0; i < 1000; ++i) ++drawn[target(run)];
-    EXPECT_NEAR(drawn[u"http://target.example"], 590, 60);
-    EXPECT_GT(drawn[u"http://two"], drawn[u"http://one"]); // 12 or so of 21 numbers, against 8
-    EXPECT_GT(drawn[u"http://one"], 100);
-}
-
-TEST_F(PageParts, animation_keeps_ten_words_and_an_open_quote) {
-    Text words = u"a b c d e f g h i j k l";
-    const std::string lines = written([&] { flash(run, words); });
-    EXPECT_EQ(words, u"a b c d e f g h i j");
-    EXPECT_NE(lines.find("TYPE=\"application/x-shockwave-flash | PLUGINSPAGE="), std::string::npos);
-    EXPECT_NE(lines.find("VALUE=\"twk.swf?texxxto=a b c d e f g h i j\">"), std::string::npos);
-    form.Check4.value = true;
-    int shown = 0;
-    for (int i = 0; i < 200; ++i)
-        if (!written([&] { perhaps_flash(run, run.main_folder, u"a, b"); }).empty()) ++shown;
-    EXPECT_NEAR(shown, 58, 25); // 29 of 100
-    EXPECT_TRUE(app.exists(u"Projects/shed/main.example-a-b/twk.swf"));
-}
-
 TEST_F(PageParts, picture_is_copied_once_under_the_page_s_name) {
     for (const char16_t* file : {u"aurora.jpg", u"dunes.gif", u"leaves.gif"})
         form.List1.add_item(app.path(u"Images/") + file);
