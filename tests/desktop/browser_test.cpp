@@ -8,7 +8,6 @@
 #include "user.h"
 
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QTest>
 
 namespace twk {

@@ -3,7 +3,6 @@
 #include "desktop/qt_desktop.h"
 #include "desktop/qt_text.h"
 #include "every_screen.h"
-#include "platform/files.h"
 #include "shell/mdi1.h"
 
 #include <QApplication>

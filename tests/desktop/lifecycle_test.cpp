@@ -9,11 +9,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
-#include <QTest>
 
 namespace twk {
 namespace {

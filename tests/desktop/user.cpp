@@ -1,6 +1,5 @@
 #include "user.h"
 
-#include "desktop/qt_text.h"
 #include "shell/mdi1.h"
 
 #include <QAbstractButton>
@@ -8,9 +7,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QTest>
 
 namespace twk::test {

@@ -1,5 +1,4 @@
 #include "engine/form17.h"
-#include "platform/files.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
 #include "support/temp_app.h"

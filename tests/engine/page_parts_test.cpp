@@ -7,7 +7,6 @@
 #include "engine/second_level.h"
 #include "engine/surplus.h"
 #include "inputs/form7.h"
-#include "platform/chance.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
 #include "support/faults.h"

@@ -1,4 +1,3 @@
-#include "engine/form17.h"
 #include "reports/form12.h"
 #include "shell/form2.h"
 #include "shell/module1.h"

@@ -15,7 +15,6 @@
 #include "settings/form6.h"
 #include "shell/form1.h"
 #include "shell/form2.h"
-#include "shell/module1.h"
 #include "store/store_setup.h"
 #include "store/stores.h"
 

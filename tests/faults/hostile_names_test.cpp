@@ -1,12 +1,9 @@
 // Names that become paths: of projects, hosts, keywords, pages and files.
 
 #include "engine/form17.h"
-#include "engine/run.h"
 #include "faults/hostile_app.h"
 #include "inputs/form3.h"
 #include "inputs/form7.h"
-#include "platform/numbers.h"
-#include "settings/form6.h"
 #include "shell/form1.h"
 #include "shell/form2.h"
 #include "shell/module1.h"

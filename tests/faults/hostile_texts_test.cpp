@@ -1,12 +1,9 @@
 // Texts that become pages, settings or parts of statements.
 
-#include "engine/run.h"
 #include "faults/hostile_app.h"
 #include "inputs/form10.h"
 #include "inputs/form3.h"
 #include "inputs/form7.h"
-#include "platform/numbers.h"
-#include "settings/form6.h"
 #include "settings/settings_file.h"
 #include "shell/form1.h"
 #include "shell/form2.h"

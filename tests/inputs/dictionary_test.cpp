@@ -1,7 +1,6 @@
 #include "inputs/form10.h"
 #include "inputs/form3.h"
 #include "inputs/form8.h"
-#include "shell/form2.h"
 #include "support/temp_app.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "inputs/form3.h"
-#include "platform/desktop.h"
 #include "platform/numbers.h"
 #include "shell/form2.h"
 #include "shell/module1.h"

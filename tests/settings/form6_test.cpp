@@ -77,7 +77,7 @@ TEST_F(StepFive, shows_one_level_at_a_time) {
 TEST_F(StepFive, saves_by_dialog_until_a_file_has_been_loaded) {
     form();
     app.desktop.save_files = {std::nullopt, app.path(u"mine"), app.path(u"late.dat"), std::nullopt};
-    EXPECT_TRUE(click("Command4")); // cancelled: nothing is saved
+    EXPECT_TRUE(click("Command4"));                      // cancelled: nothing is saved
     EXPECT_FALSE(std::filesystem::exists("garden.dat")); // where the bare name would lead
     EXPECT_TRUE(click("Command4"));
     EXPECT_TRUE(app.exists(u"mine.dat"));

@@ -14,18 +14,17 @@ namespace {
 namespace fs = std::filesystem;
 using test::TempApp;
 
-Text insert_project(const Text& name) {
-    return u"insert into Projects ( name , site_name , site_url , title , category , description , "
-           u"designer_name , designer_url ) values ( '" +
-           name +
-           u"' , 'Site' , 'http://site.com' , 'Subject' , 'Category' , 'About it' , 'Ann' , 'http://' )";
-}
-
 /// The manager on projects that stand in the store.
 struct Manager {
     TempApp app;
 
-    void add(const Text& name) { app.run(insert_project(name)); }
+    void add(const Text& name) {
+        app.run(
+            u"insert into Projects ( name , site_name , site_url , title , category , description , "
+            u"designer_name , designer_url ) values ( '" +
+            name +
+            u"' , 'Site' , 'http://site.com' , 'Subject' , 'Category' , 'About it' , 'Ann' , 'http://' )");
+    }
     Text pid(const Text& name) {
         return app.value(u"select pid from Projects where name = '" + name + u"'", u"pid");
     }
@@ -49,17 +48,15 @@ struct Manager {
     Text full_project(const Text& name) {
         add(name);
         const Text key = pid(name);
-        app.run(u"insert into keywords ( pid , keyword ) values ( " + key + u" , 'green tea' )");
-        app.run(u"insert into keywords ( pid , keyword ) values ( " + key + u" , 'black tea' )");
-        const Text keyid = app.value(
-            u"select keyid from keywords where pid = " + key + u" and keyword = 'green tea'", u"keyid");
-        app.run(u"insert into elements ( catid , element ) values ( " + keyid + u" , 'leaves' )");
-        app.run_unfenced("insert into content ( pid , content ) values ( " + to_utf8(key) +
-                         " , 'Tea isn''t coffee.' )");
-        app.run(u"insert into ties ( pid , keyid , cid ) values ( " + key + u" , " + keyid + u" , 1 )");
-        app.run(u"insert into host ( pid , host ) values ( " + key + u" , 'http://second.com' )");
-        app.run(u"insert into host1 ( pid , host ) values ( " + key + u" , 'http://main.com' )");
-        app.run(u"insert into target ( pid , target ) values ( " + key + u" , 'http://site.com/b.htm' )");
+        const std::string rows = R"(
+            insert into keywords ( pid , keyword ) values ( KEY , 'green tea' ) , ( KEY , 'black tea' );
+            insert into elements ( catid , element ) select min(keyid) , 'leaves' from keywords where pid = KEY;
+            insert into content ( pid , content ) values ( KEY , 'Tea isn''t coffee.' );
+            insert into ties ( pid , keyid , cid ) select KEY , min(keyid) , 1 from keywords where pid = KEY;
+            insert into host ( pid , host ) values ( KEY , 'http://second.com' );
+            insert into host1 ( pid , host ) values ( KEY , 'http://main.com' );
+            insert into target ( pid , target ) values ( KEY , 'http://site.com/b.htm' );)";
+        app.run_unfenced(to_utf8(Replace(from_utf8(rows), u"KEY", key)));
         return key;
     }
 };

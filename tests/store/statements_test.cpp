@@ -1,5 +1,4 @@
 #include "platform/faults.h"
-#include "platform/numbers.h"
 #include "support/faults.h"
 #include "support/temp_app.h"
 

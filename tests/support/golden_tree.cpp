@@ -1,4 +1,3 @@
-#include "platform/desktop.h"
 #include "support/sample_project.h"
 
 #include <fstream>
