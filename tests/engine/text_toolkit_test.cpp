@@ -69,6 +69,24 @@ double density(const Text& text, Text keyword) {
     return densidad(text, keyword);
 }
 
+TEST(Words, are_the_pieces_between_blanks_that_are_no_tags) {
+    EXPECT_EQ(words(u""), 0);
+    EXPECT_EQ(words(u"   "), 0);
+    EXPECT_EQ(words(u"<p>"), 0);
+    EXPECT_EQ(words(u"<p>one two</p>"), 2);
+    EXPECT_EQ(words(u"<a href=\"x\">"), 0);
+    EXPECT_EQ(words(u"<img src=\"x\" alt=\"y\">"), 1); // the attribute in the middle
+    EXPECT_EQ(words(u"one,two  three."), 2);
+    EXPECT_EQ(words(u"a < b > c"), 3);
+}
+
+TEST(Occurrences, of_phrases_pass_over_one_unit_more_per_blank) {
+    EXPECT_EQ(occurrences(u"red rosered rose", u"red rose"), 1); // the second begins within the extra unit
+    EXPECT_EQ(occurrences(u"red rose red rose", u"red rose"), 2);
+    EXPECT_EQ(occurrences(u"a b c a b c", u"a b c"), 1); // two blanks reach past the gap
+    EXPECT_EQ(occurrences(u"a b c, a b c", u"a b c"), 2);
+}
+
 TEST(Counting, equals_its_plain_form_on_random_texts) {
     const Text pieces[] = {u"a",
                            u"b",
@@ -158,6 +176,12 @@ TEST(Cleaning, collapses_blanks_points_and_empty_paragraphs) {
     Text paragraphs = u"x<p><p> <p>  <p>y ";
     EXPECT_EQ(utf8(limpiar_html(paragraphs)), "x <p> y");
     EXPECT_EQ(utf8(paragraphs), "x <p> y ");
+}
+
+TEST(Preparing, turns_the_text_of_a_box_into_page_text) {
+    Text text = u" say \"hi\"(now)\r\n<b>x</b> ";
+    EXPECT_EQ(utf8(preparar_texto(text)), "say hi (now) <p> <b> x </b>");
+    EXPECT_EQ(utf8(text), " say hi (now)   <p>   <b> x </b>  ");
 }
 
 TEST(Draws, of_nothing_take_no_chance) {

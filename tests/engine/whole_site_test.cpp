@@ -1,3 +1,6 @@
+#include "inputs/form7.h"
+#include "platform/files.h"
+#include "platform/html.h"
 #include "reports/form12.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
@@ -8,10 +11,67 @@
 namespace twk {
 namespace {
 
+namespace fs = std::filesystem;
 using test::SampleContent;
 using test::SampleProject;
 
-/// Whole runs with a fixed seed, compared page by page.
+/// Files of a generated site, and where its links lead.
+class SiteLinks {
+  public:
+    SiteLinks(const SampleProject& project, const test::TempApp& app)
+        : folder_(to_utf8(app.path(project.folder()))), main_(to_utf8(app.path(project.main_folder()))) {}
+
+    /// Fails for every link or picture of a page that leads to no file of the site. Links to other sites and
+    /// the user's own page of local paths are left alone.
+    void check() const {
+        for (const auto& entry : fs::recursive_directory_iterator(folder_))
+            if (entry.is_regular_file() && entry.path().parent_path() != folder_ &&
+                entry.path().extension() == ".htm")
+                check_page(entry.path());
+    }
+
+  private:
+    void check_page(const fs::path& page) const {
+        const Text html = read_text_file(from_utf8(page.string()));
+        std::vector<Text> links = page_links(html);
+        for (const TextView piece : split_views(html, u"<img src=\""))
+            if (piece.data() != html.data()) links.emplace_back(piece.substr(0, piece.find(u'"')));
+        for (const Text& link : links) {
+            if (leads_away(link)) continue;
+            EXPECT_TRUE(found(page, link)) << page.filename() << " links to " << to_utf8(link);
+        }
+    }
+
+    static Text main_host() { return screen<Form7>().Text2.text(); }
+
+    static bool leads_away(const Text& link) {
+        if (!link.starts_with(u"http://")) return false;
+        bool own = link.starts_with(main_host());
+        for (const Text& host : screen<Form7>().List1.entries()) own = own || link.starts_with(host);
+        return !own;
+    }
+
+    /// The pages of the main host's two folders are uploaded to one place.
+    bool found(const fs::path& page, const Text& link) const {
+        const fs::path more(main_.string() + "_More_Files");
+        if (link.starts_with(u"/")) return fs::exists(to_utf8(link)); // a read-more page by its local path
+        if (link.starts_with(u"http://")) {
+            const std::size_t cut =
+                link.find_last_of(u"/\\"); // before a destination's latest page stands "\"
+            const std::string name = to_utf8(link.substr(cut + 1));
+            const Text host = link.substr(0, cut);
+            if (host == main_host()) return fs::exists(main_ / name) || fs::exists(more / name);
+            return fs::exists(folder_ / to_utf8(Replace(Replace(host, u"http://", u""), u"/", u"-")) / name);
+        }
+        const fs::path here = page.parent_path();
+        if (fs::exists(here / to_utf8(link))) return true;
+        return here == more && fs::exists(main_ / to_utf8(link));
+    }
+
+    fs::path folder_, main_;
+};
+
+/// Whole runs with a fixed seed, compared page by page; no link of theirs leads nowhere.
 class WholeSite : public testing::Test {
   protected:
     static SampleContent with_hosts(std::vector<Text> targets = {}) {
@@ -36,6 +96,7 @@ class WholeSite : public testing::Test {
     void generate_and_compare(SampleProject& project, const std::string& golden) {
         ASSERT_TRUE(project.generate());
         ASSERT_TRUE(project.run().finished);
+        SiteLinks(project, app).check();
         test::expect_same_tree(app.path(project.folder()), golden);
     }
     void add_synonym(const Text& word, const Text& other) {
@@ -132,6 +193,7 @@ TEST_F(WholeSite, table_2_with_synonyms) {
     app.desktop.expect(u"Some files needed for this template will be copied along with the generated pages.\n"
                        u"The source for these files is ");
     ASSERT_TRUE(screens().dispatch([&] { project.form.Command1_Click(); }));
+    SiteLinks(project, app).check();
     test::expect_same_tree(app.path(project.folder()), "site_table_2");
 }
 
