@@ -53,10 +53,18 @@ bool is_blank(char16_t c) {
     return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r' || c == u'\f';
 }
 
+std::size_t Cutter::next_bracket() const {
+    // Mostly the next tag is close: no use in looking at whole blocks.
+    constexpr std::size_t close = 24;
+    const std::size_t near = html_.substr(at_, close).find(u'<');
+    if (near != TextView::npos) return at_ + near;
+    return std::min(position(html_, u"<", at_ + close), html_.size());
+}
+
 TextView Cutter::text() {
     const std::size_t from = at_;
     while (at_ < html_.size()) {
-        at_ = std::min(position(html_, u"<", at_), html_.size());
+        at_ = next_bracket();
         if (at_ + 1 < html_.size() && (is_letter(html_[at_ + 1]) || html_[at_ + 1] == u'/' ||
                                        html_[at_ + 1] == u'!' || html_[at_ + 1] == u'?'))
             break;

@@ -64,6 +64,8 @@ class Cutter {
     char16_t unit(std::size_t ahead = 0) const {
         return at_ + ahead < html_.size() ? html_[at_ + ahead] : u'\0';
     }
+    /// Place of the next "<", the page's end when there is none.
+    std::size_t next_bracket() const;
     void skip_comment();
     Element element();
     void skip_blanks();
