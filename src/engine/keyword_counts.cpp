@@ -26,10 +26,11 @@ std::vector<Text> all_as_counted(const std::vector<Text>& keywords) {
 
 } // namespace
 
-KeywordSet::KeywordSet(const std::vector<Text>& keywords) : patterns_(all_as_counted(keywords)) {}
-
-bool KeywordSet::known(int k) const {
-    return keyword(k).empty() || (patterns_.findable(k) && !contains(keyword(k), u"$"));
+KeywordSet::KeywordSet(const std::vector<Text>& keywords) : patterns_(all_as_counted(keywords)) {
+    for (int k = 0; k < size(); ++k) {
+        known_.push_back(keyword(k).empty() || (patterns_.findable(k) && !contains(keyword(k), u"$")));
+        phrases_.push_back(contains(keyword(k), u" "));
+    }
 }
 
 bool KeywordSet::same(const std::vector<Text>& keywords) const {
@@ -63,13 +64,16 @@ bool KeywordCounts::ready() {
 std::optional<std::int64_t> KeywordCounts::counted(int k) const {
     const Text& keyword = set_.keyword(k);
     if (keyword.empty() || !index_->occurs(k)) return 0;
-    const std::vector<std::size_t> places = index_->from_left(k);
-    if (contains(keyword, u" "))
-        for (std::size_t i = 1; i < places.size(); ++i) {
-            const std::size_t end = places[i - 1] + keyword.size();
-            if (!are_apart(TextView(text_).substr(end, places[i] - end), keyword)) return std::nullopt;
-        }
-    return static_cast<std::int64_t>(places.size());
+    std::int64_t count = 0;
+    std::size_t end = 0;
+    for (const PatternSet::Hit& hit : index_->hits()) {
+        if (hit.pattern != k || (count != 0 && hit.at < end)) continue;
+        if (count != 0 && set_.is_phrase(k) && !are_apart(TextView(text_).substr(end, hit.at - end), keyword))
+            return std::nullopt;
+        end = hit.at + keyword.size();
+        ++count;
+    }
+    return count;
 }
 
 std::int16_t KeywordCounts::contar(int k, Text& keyword) {

@@ -17,7 +17,9 @@ class KeywordSet {
     int size() const { return patterns_.size(); }
     const Text& keyword(int k) const { return patterns_.pattern(k); }
     /// Whether the index tells all: an empty keyword, or one of two units and more without a "$".
-    bool known(int k) const;
+    bool known(int k) const { return known_[static_cast<std::size_t>(k)]; }
+    /// Whether it has more words than one.
+    bool is_phrase(int k) const { return phrases_[static_cast<std::size_t>(k)]; }
     const PatternSet& patterns() const { return patterns_; }
 
     /// Whether these keywords, as a count leaves them, are the ones of the set.
@@ -25,6 +27,7 @@ class KeywordSet {
 
   private:
     PatternSet patterns_;
+    std::vector<bool> known_, phrases_;
 };
 
 struct Run;

@@ -63,6 +63,8 @@ class PatternIndex {
 
     /// Whether the pattern occurs at all.
     bool occurs(int number) const { return counts_[static_cast<std::size_t>(number)] != 0; }
+    /// All occurrences, by place.
+    const std::vector<PatternSet::Hit>& hits() const { return hits_; }
     /// Places of the pattern from the left, none overlapping the one before.
     std::vector<std::size_t> from_left(int number) const;
     /// Places from the right, at most `most`, none overlapping the one before; the leftmost comes first.

@@ -83,9 +83,9 @@ void perhaps_adjust(Run& run, Text& s, int below, std::int16_t density) {
 void limit_keywords(Run& run, Text& s, int kept) {
     ++run.cuenta_archivos;
     KeywordCounts counts(keyword_set(run), s);
+    const Text of_all = u"/" + to_text(run.n_keywords) + u" done for file " + to_text(run.cuenta_archivos);
     for (int i = 0; i < run.n_keywords; ++i) {
-        status(run, u"Updating Random-Generated Page " + to_text(i) + u"/" + to_text(run.n_keywords) +
-                        u" done for file " + to_text(run.cuenta_archivos));
+        status(run, u"Updating Random-Generated Page " + to_text(i) + of_all);
         DoEvents();
         Text& keyword = run.tabla_kw.cell(i);
         const std::int16_t n = counts.contar(i, keyword);

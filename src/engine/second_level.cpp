@@ -156,10 +156,10 @@ void write_content_block(Run& run, bool split_sentences, bool count_file) {
     DoEvents();
     if (count_file) ++run.cuenta_archivos;
     KeywordCounts counts(keyword_set(run), text);
+    const Text of_all = u"/" + to_text(run.n_keywords) + u" done";
     for (int i = 0; i < run.n_keywords; ++i) {
         // The caption speaks of random pages here, too.
-        status(run,
-               u"Updating Random-Generated Page " + to_text(i) + u"/" + to_text(run.n_keywords) + u" done");
+        status(run, u"Updating Random-Generated Page " + to_text(i) + of_all);
         DoEvents();
         Text& keyword = run.tabla_kw.cell(i);
         const std::int16_t found = counts.contar(i, keyword);

@@ -10,15 +10,11 @@ namespace twk {
 void replace_last(Text& text, TextView find, TextView with, int count) {
     if (count < -1) throw RuntimeFault(fault_argument);
     if (count == 0 || find.empty()) return;
+    std::vector<std::size_t> all; // overlapping ones among them
+    for (std::size_t at = 0; (at = position(text, find, at)) != TextView::npos; ++at) all.push_back(at);
     std::vector<std::size_t> places; // from the end
-    std::size_t end = text.size();
-    while (count < 0 || static_cast<int>(places.size()) < count) {
-        if (end < find.size()) break;
-        const std::size_t at = text.rfind(find, end - find.size());
-        if (at == Text::npos) break;
-        places.push_back(at);
-        end = at;
-    }
+    for (auto at = all.rbegin(); at != all.rend() && static_cast<int>(places.size()) != count; ++at)
+        if (places.empty() || *at + find.size() <= places.back()) places.push_back(*at);
     if (places.empty()) return;
     Text out;
     out.reserve(text.size());
