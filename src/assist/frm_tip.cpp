@@ -4,7 +4,6 @@
 #include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
-#include "store/stores.h"
 
 namespace twk {
 

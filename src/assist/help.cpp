@@ -3,7 +3,6 @@
 #include "assist/form9.h"
 #include "platform/addresses.h"
 #include "platform/desktop.h"
-#include "store/stores.h"
 
 namespace twk {
 

@@ -6,7 +6,6 @@
 #include "platform/files.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
-#include "store/stores.h"
 
 #include <algorithm>
 

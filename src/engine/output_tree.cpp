@@ -3,9 +3,9 @@
 #include "engine/fragments.h"
 #include "engine/page_file.h"
 #include "engine/run.h"
+#include "platform/desktop.h"
 #include "platform/faults.h"
 #include "shell/form2.h"
-#include "store/stores.h"
 
 namespace twk {
 

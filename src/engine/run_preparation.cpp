@@ -8,7 +8,6 @@
 #include "platform/faults.h"
 #include "platform/numbers.h"
 #include "shell/module1.h"
-#include "store/stores.h"
 
 namespace twk {
 

@@ -3,6 +3,7 @@
 #include "engine/run.h"
 #include "engine/text_toolkit.h"
 #include "platform/clock.h"
+#include "platform/desktop.h"
 #include "platform/faults.h"
 #include "platform/numbers.h"
 #include "store/database.h"

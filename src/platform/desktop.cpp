@@ -46,4 +46,8 @@ void set_app_path(Text path) {
     application_folder() = std::move(path);
 }
 
+Text beside_program(TextView file) {
+    return app_path() + Text(path_separator) + Text(file);
+}
+
 } // namespace twk

@@ -101,4 +101,7 @@ void set_app_path(Text path);
 /// Separator of local paths.
 inline constexpr TextView path_separator = u"/";
 
+/// Path of a file in the application folder.
+Text beside_program(TextView file);
+
 } // namespace twk

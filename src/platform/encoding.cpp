@@ -17,16 +17,10 @@ char16_t from_windows(unsigned char byte) {
     return byte >= 0x80 && byte < 0xA0 ? upper[byte - 0x80] : byte;
 }
 
-template <class Units> bool ascii_only(Units text) {
-    typename Units::value_type all = 0;
-    for (const auto unit : text) all = static_cast<typename Units::value_type>(all | unit);
-    return (all & ~0x7F) == 0;
-}
-
 } // namespace
 
 std::string encode_text(TextView text, TextKind kind) {
-    if (ascii_only(text)) {
+    if (is_ascii(text)) {
         std::string plain(text.size(), '\0');
         std::transform(text.begin(), text.end(), plain.begin(),
                        [](char16_t unit) { return static_cast<char>(unit); });
@@ -37,7 +31,7 @@ std::string encode_text(TextView text, TextKind kind) {
 
 Text decode_text(std::string_view bytes) {
     if (bytes.starts_with(utf8_mark)) return from_utf8(bytes.substr(utf8_mark.size()));
-    if (ascii_only(bytes)) return {bytes.begin(), bytes.end()};
+    if (is_ascii(bytes)) return {bytes.begin(), bytes.end()};
     if (is_utf8(bytes)) return from_utf8(bytes);
     Text text(bytes.size(), u'\0');
     std::transform(bytes.begin(), bytes.end(), text.begin(),

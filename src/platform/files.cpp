@@ -18,6 +18,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr std::size_t usual_page = 32 * 1024; ///< units, so that a page seldom outgrows its first room
+
 struct Failure {
     int number;
     TextView text;
@@ -125,12 +127,6 @@ int append_content(int file, std::string_view bytes) {
     return error;
 }
 
-bool is_ascii(std::string_view bytes) {
-    unsigned char all = 0;
-    for (const char byte : bytes) all |= static_cast<unsigned char>(byte);
-    return all < 0x80;
-}
-
 /// Writes the whole file. Where the disk is full nothing is written: what was there stays, and a file that
 /// was made for it is taken away again.
 void write_bytes(const Text& path, std::string_view bytes) {
@@ -202,12 +198,6 @@ void remove_file(const std::string& name, const Text& path) {
 } // namespace
 
 // Streams
-
-namespace {
-
-constexpr std::size_t usual_page = 32 * 1024; ///< units, so that a page seldom outgrows its first room
-
-} // namespace
 
 TextStream::TextStream(Text path, OpenMode mode, TextKind kind, Text content, int file)
     : path_(std::move(path)), mode_(mode), kind_(kind), content_(std::move(content)), file_(file) {

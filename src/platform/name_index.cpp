@@ -33,13 +33,6 @@ int steady_depth = 0;
 int steady_number = 0;
 
 std::string folded(const std::string& name) {
-    std::string plain = name;
-    bool ascii = true;
-    for (char& unit : plain) {
-        ascii = ascii && static_cast<unsigned char>(unit) < 0x80;
-        if (unit >= 'A' && unit <= 'Z') unit = static_cast<char>(unit - 'A' + 'a');
-    }
-    if (ascii) return plain;
     return to_utf8(LCase(from_utf8(name)));
 }
 

@@ -49,10 +49,6 @@ bool is_name(TextView found, TextView name) {
 
 } // namespace
 
-bool is_blank(char16_t c) {
-    return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r' || c == u'\f';
-}
-
 std::size_t Cutter::next_bracket() const {
     // Mostly the next tag is close: no use in looking at whole blocks.
     constexpr std::size_t close = 24;

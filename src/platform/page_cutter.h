@@ -45,7 +45,9 @@ struct Tag {
 /// The page is none of those that are known here.
 struct Unknown {};
 
-bool is_blank(char16_t c);
+inline bool is_blank(char16_t c) {
+    return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r' || c == u'\f';
+}
 
 /// Cuts a page into text and tags; comments fall away. Whatever is not certain throws `Unknown`.
 class Cutter {

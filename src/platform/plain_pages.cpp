@@ -34,17 +34,15 @@ void VisibleLines::words(TextView text) {
         blank_ = behind;
         return;
     }
-    const auto blank = [](char16_t c) {
-        return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r' || c == u'\f';
-    };
+    using plain_pages::is_blank;
     for (std::size_t at = 0; at < text.size();) {
-        if (blank(text[at])) {
+        if (is_blank(text[at])) {
             blank_ = true;
             ++at;
             continue;
         }
         std::size_t end = at + 1;
-        while (end < text.size() && !blank(text[end])) ++end;
+        while (end < text.size() && !is_blank(text[end])) ++end;
         if (blank_ && !out_.empty() && out_.back() != u'\n') out_.push_back(u' ');
         blank_ = false;
         out_.append(text, at, end - at);

@@ -335,4 +335,23 @@ bool is_utf8(std::string_view bytes) {
     return true;
 }
 
+namespace {
+
+// Without an early exit: compilers vectorise that.
+template <class View> bool all_ascii(View text) {
+    typename View::value_type all = 0;
+    for (const auto unit : text) all = static_cast<typename View::value_type>(all | unit);
+    return (all & ~0x7F) == 0;
+}
+
+} // namespace
+
+bool is_ascii(TextView text) {
+    return all_ascii(text);
+}
+
+bool is_ascii(std::string_view bytes) {
+    return all_ascii(bytes);
+}
+
 } // namespace twk

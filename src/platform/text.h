@@ -63,6 +63,8 @@ bool same_text(TextView a, TextView b);
 std::string to_utf8(TextView text);
 Text from_utf8(std::string_view bytes);
 bool is_utf8(std::string_view bytes);
+bool is_ascii(TextView text);
+bool is_ascii(std::string_view bytes);
 
 inline constexpr TextView vbCrLf = u"\r\n";
 inline constexpr TextView vbCr = u"\r";

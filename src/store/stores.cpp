@@ -4,10 +4,6 @@
 
 namespace twk {
 
-Text beside_program(TextView file) {
-    return app_path() + Text(path_separator) + Text(file);
-}
-
 Database open_hive() {
     return OpenDatabase(beside_program(u"hive.mdb"), false, false, u";pwd=" + from_utf8(hive_key));
 }

@@ -4,9 +4,6 @@
 
 namespace twk {
 
-/// Path of a file in the application folder.
-Text beside_program(TextView file);
-
 /// The key of the project store.
 inline constexpr const char* hive_key = "lantern4821";
 

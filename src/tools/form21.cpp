@@ -3,7 +3,6 @@
 #include "inputs/form5.h"
 #include "platform/desktop.h"
 #include "platform/files.h"
-#include "store/stores.h"
 
 namespace twk {
 
