@@ -288,13 +288,17 @@ Text letra(std::int16_t& n) {
     return Text(1, static_cast<char16_t>(u'a' + n));
 }
 
+bool is_reserved(TextView word) {
+    const Text plain = LCase(trim_view(word));
+    return plain == u"index" || plain == u"sitemap";
+}
+
 Text validar_palabra(Text& palabra) {
     if (Len(palabra) < 3) {
         MsgBox(u"The word must have more than 3 characters"); // 3 pass, whatever it says
         return {};
     }
-    const Text plana = LCase(trim_view(palabra));
-    if (plana == u"index" || plana == u"sitemap") {
+    if (is_reserved(palabra)) {
         MsgBox(u"'Sitemap' and 'Index' are reserved words.");
         return {};
     }

@@ -91,6 +91,9 @@ std::int16_t xrnum(std::int16_t n);
 /// Letter of the number, "a" for 0. Above 25 the number loses 25 (in place): 26 gives "b". Fault 9 past 50.
 Text letra(std::int16_t& n);
 
+/// Whether the word, blanks around it and case aside, is the name of a page that every site has.
+bool is_reserved(TextView word);
+
 /// The trimmed word, or an empty text after a message when it is no word of letters, digits, blank, dash and
 /// underscore, is reserved, or is shorter than 3. The argument is trimmed when it passes the first two tests.
 Text validar_palabra(Text& palabra);

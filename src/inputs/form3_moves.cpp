@@ -68,7 +68,7 @@ void Form3::Command15_Click() {
         MsgBox(u"Can't add a +20 words Keyword Phrase");
         return;
     }
-    if (LCase(word) == u"index" || LCase(word) == u"sitemap") {
+    if (is_reserved(word)) {
         MsgBox(u"'Sitemap' and 'Index' are reserved words.");
         return;
     }

@@ -108,8 +108,7 @@ int Form2::Revisar_Target(TextView) {
     const Text word = Text2[0].text();
     if (Len(word) < 3) return refuse(u"The word must have more than 3 characters"); // three pass
     const Text trimmed = Trim(word);
-    const Text small = LCase(trimmed);
-    if (small == u"index" || small == u"sitemap") return refuse(u"'Sitemap' and 'Index' are reserved words.");
+    if (is_reserved(trimmed)) return refuse(u"'Sitemap' and 'Index' are reserved words.");
     if (!std::all_of(trimmed.begin(), trimmed.end(), word_unit))
         return refuse(u"The word can only contain letters, numbers and dashes");
     return 0;

@@ -90,7 +90,7 @@ void Form20::Command13_Click() {
         if (!List1.selected(i) || Len(word) < 3) continue;
         Text counted = word;
         if (contar_palabras(counted) > 20) continue;
-        if (LCase(word) == u"index" || LCase(word) == u"sitemap") continue;
+        if (is_reserved(word)) continue;
         if (!base_datos
                  .OpenRecordset(u"select * from keywords where pid = " + pid + u" and keyword = '" + word +
                                 u"'")
