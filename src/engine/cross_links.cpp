@@ -28,7 +28,7 @@ void append_links(Run& run, const Text& path, bool index) {
     page->writeline(u"</body></html>");
     run.ultimo_texto = page->close_and_read();
     run.ultima_pagina = path;
-    run.bytes_written += FileLen(path) - before;
+    run.bytes_written += page->size() - before;
 }
 
 /// The report gets the link that the last written page left, whatever this page holds.

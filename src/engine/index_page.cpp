@@ -42,12 +42,12 @@ void index_page(Run& run) {
     write_index(run);
     origen->Close();
     run.salida->Close();
+    run.bytes_written += run.salida->size();
     run.salida.reset();
     run.fso.DeleteFile(page);
     run.fso.CopyFile(aux, finished);
     run.fso.DeleteFile(aux);
     ++run.pages_written;
-    run.bytes_written += FileLen(finished);
 }
 
 } // namespace twk

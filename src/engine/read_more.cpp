@@ -48,7 +48,7 @@ void write_read_more(Run& run, const Text& path, const Text& t) {
     out->Close();
     page.replace_by(aux);
     ++run.pages_written;
-    run.bytes_written += FileLen(path);
+    run.bytes_written += out->size();
 }
 
 } // namespace
