@@ -172,29 +172,18 @@ struct Segments {
     }
 };
 
-/// Pieces that begin behind a blank.
-std::int64_t count_starts(TextView texto) {
-    std::int64_t starts = 0;
-    for (std::size_t i = 1; i < texto.size();) {
-        unsigned short some = 0; // small counters are quick
-        for (const std::size_t end = std::min(texto.size(), i + 4096); i < end; ++i)
-            some = static_cast<unsigned short>(some + ((texto[i - 1] == u' ') & (texto[i] != u' ')));
-        starts += some;
-    }
-    return starts;
-}
-
-/// Whether `densidad` of the text could overflow: occurrences of the keyword, words or their ratio past 16
-/// bits. "No" is certain, "yes" is not.
+/// Whether `densidad` of a text with single blanks could overflow: occurrences of the keyword, words or their
+/// ratio past 16 bits. "No" is certain, "yes" is not.
 bool densidad_may_overflow(TextView texto, TextView keyword) {
     constexpr std::int64_t most = 32767;
-    const std::int64_t ends = count_units(texto, [](char16_t c) { return (c == u'<') | (c == u'>'); });
-    const std::int64_t dollars = count_units(texto, [](char16_t c) { return c == u'$'; });
-    const std::int64_t starts = count_starts(texto);
+    const Survey survey(texto);
+    const std::int64_t dollars = survey.dollars ? std::count(texto.begin(), texto.end(), u'$') : 0;
+    // Pieces that begin behind a blank: one behind each, but the last.
+    const std::int64_t starts = survey.blanks - (texto.ends_with(u' ') ? 1 : 0);
     // Once its tags are spaced the text has so many units at most, and so many words at least: every end of a
     // tag takes one piece, a "$$$" stands for a blank.
-    const std::int64_t units = static_cast<std::int64_t>(texto.size()) + 2 * ends;
-    const std::int64_t words = starts - ends - dollars;
+    const std::int64_t units = std::ssize(texto) + 2 * survey.tag_ends;
+    const std::int64_t words = starts - survey.tag_ends - dollars;
     Text counted = Trim(keyword);
     const std::int64_t found = units / std::max<std::int64_t>(1, std::ssize(quitar_dobles(counted)));
     return words < 1 || units / 2 + 1 > most || found > most || found * 100 / words + 1 > most;

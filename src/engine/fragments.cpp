@@ -45,6 +45,16 @@ Text hidden_list(const Run& run) {
     return u"<font color=\"" + run.form.Text4.text() + u"\"size=\"0\"><br><br>" + run.lista_kw + u"</font>";
 }
 
+Text split_sentences(TextView text) {
+    return Replace(text, u". ", u". <p>");
+}
+
+const Text& split_box(Run& run, int b) {
+    std::optional<Text>& kept = run.contenidos_partidos[static_cast<std::size_t>(b)];
+    if (!kept) kept = split_sentences(run.box(b));
+    return *kept;
+}
+
 Text hidden_field(TextView name, TextView content) {
     return u"<input type=hidden name=\"" + Text(name) + u"\" content=\"" + Text(content) + u"\">";
 }

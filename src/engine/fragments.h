@@ -20,6 +20,10 @@ Text phrase_line(const Run& run, TextView keyword);
 Text link_line(const Run& run, TextView heading); ///< to the hallway page, between <heading> and </heading>
 Text hidden_list(const Run& run);                 ///< the keyword list in letters of size 0
 Text hidden_field(TextView name, TextView content);
+/// A text with every sentence in a paragraph of its own.
+Text split_sentences(TextView text);
+/// A content box like that, made when it is first asked for: many pages draw the same box.
+const Text& split_box(Run& run, int b);
 /// The user's own HTML between line breaks; empty when there is none.
 Text custom_box(const Run& run);
 /// Writes that line when there is one.

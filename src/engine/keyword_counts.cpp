@@ -65,15 +65,15 @@ std::optional<std::int64_t> KeywordCounts::counted(int k) const {
     const Text& keyword = set_.keyword(k);
     if (keyword.empty() || !index_->occurs(k)) return 0;
     std::int64_t count = 0;
-    std::size_t end = 0;
-    for (const PatternSet::Hit& hit : index_->hits()) {
-        if (hit.pattern != k || (count != 0 && hit.at < end)) continue;
-        if (count != 0 && set_.is_phrase(k) && !are_apart(TextView(text_).substr(end, hit.at - end), keyword))
-            return std::nullopt;
-        end = hit.at + keyword.size();
+    std::size_t end = 0; // of the occurrence before
+    bool apart = true;
+    index_->each_from_left(k, [&](std::size_t at) {
+        if (count != 0 && set_.is_phrase(k))
+            apart = apart && are_apart(TextView(text_).substr(end, at - end), keyword);
+        end = at + keyword.size();
         ++count;
-    }
-    return count;
+    });
+    return apart ? std::optional(count) : std::nullopt;
 }
 
 std::int16_t KeywordCounts::contar(int k, Text& keyword) {

@@ -93,10 +93,7 @@ void PatternIndex::count() {
 
 std::vector<std::size_t> PatternIndex::from_left(int number) const {
     std::vector<std::size_t> places;
-    const std::size_t length = set_.pattern(number).size();
-    for (const PatternSet::Hit& hit : hits_)
-        if (hit.pattern == number && (places.empty() || hit.at >= places.back() + length))
-            places.push_back(hit.at);
+    each_from_left(number, [&places](std::size_t at) { places.push_back(at); });
     return places;
 }
 

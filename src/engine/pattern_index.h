@@ -63,8 +63,16 @@ class PatternIndex {
 
     /// Whether the pattern occurs at all.
     bool occurs(int number) const { return counts_[static_cast<std::size_t>(number)] != 0; }
-    /// All occurrences, by place.
-    const std::vector<PatternSet::Hit>& hits() const { return hits_; }
+    /// Calls `visit` with the places of the pattern from the left, none overlapping the one before.
+    template <class Visit> void each_from_left(int number, Visit visit) const {
+        const std::size_t length = set_.pattern(number).size();
+        std::size_t end = 0;
+        for (const PatternSet::Hit& hit : hits_) {
+            if (hit.pattern != number || hit.at < end) continue;
+            end = hit.at + length;
+            visit(hit.at);
+        }
+    }
     /// Places of the pattern from the left, none overlapping the one before.
     std::vector<std::size_t> from_left(int number) const;
     /// Places from the right, at most `most`, none overlapping the one before; the leftmost comes first.

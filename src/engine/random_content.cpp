@@ -4,8 +4,8 @@
 #include "engine/density.h"
 #include "engine/fragments.h"
 #include "engine/generation.h"
-#include "engine/keyword_counts.h"
 #include "engine/run.h"
+#include "engine/surplus.h"
 #include "engine/synonyms.h"
 #include "engine/text_toolkit.h"
 #include "platform/chance.h"
@@ -28,13 +28,6 @@ int draw_boxes(Run& run) {
         fuente_aux.erase(fuente_aux.begin() + r);
     }
     return m;
-}
-
-/// The box with every sentence in a paragraph of its own. Many pages draw the same box.
-const Text& split_box(Run& run, int b) {
-    std::optional<Text>& kept = run.contenidos_partidos[static_cast<std::size_t>(b)];
-    if (!kept) kept = Replace(run.box(b), u". ", u". <p>");
-    return *kept;
 }
 
 /// The boxes 0 to m: the last one was not drawn for this page, so it is what an earlier page left there.
@@ -79,20 +72,6 @@ void perhaps_adjust(Run& run, Text& s, int below, std::int16_t density) {
     s = Ajustar_KW(run, s, keyword, density);
 }
 
-/// Of every keyword the first `kept` occurrences stay.
-void limit_keywords(Run& run, Text& s, int kept) {
-    ++run.cuenta_archivos;
-    KeywordCounts counts(keyword_set(run), s);
-    const Text of_all = u"/" + to_text(run.n_keywords) + u" done for file " + to_text(run.cuenta_archivos);
-    for (int i = 0; i < run.n_keywords; ++i) {
-        status(run, u"Updating Random-Generated Page " + to_text(i) + of_all);
-        DoEvents();
-        Text& keyword = run.tabla_kw.cell(i);
-        const std::int16_t n = counts.contar(i, keyword);
-        if (!keyword.empty() && n >= kept) counts.replace_last(i, run.settings.kw_sustituto, n - kept);
-    }
-}
-
 } // namespace
 
 void fill_content_pool(Run& run) {
@@ -116,7 +95,7 @@ Text tp3_content(Run& run) {
     if (xrnum2(30) > 15 && form.Check3.value()) {
         const Text list = hidden_list(run);
         units += list.size();
-        s += Replace(list, u". ", u". <p>"); // begins with a tag
+        s += split_sentences(list); // begins with a tag
     }
     draw_densities(run, units);
     perhaps_adjust(run, s, 7, run.d1);
@@ -126,7 +105,10 @@ Text tp3_content(Run& run) {
     DoEvents();
     perhaps_adjust(run, s, 4, run.d2);
     const int kept = xrnum(40);
-    if (form.Check8.value()) limit_keywords(run, s, kept);
+    if (form.Check8.value()) {
+        ++run.cuenta_archivos;
+        limit_keywords(run, s, kept, u" for file " + to_text(run.cuenta_archivos));
+    }
     if (form.Check6.value()) s = highLight(run, s);
     const Text font = font_line(run);
     Text content;

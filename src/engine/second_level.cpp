@@ -4,7 +4,6 @@
 #include "engine/density.h"
 #include "engine/fragments.h"
 #include "engine/generation.h"
-#include "engine/keyword_counts.h"
 #include "engine/page_file.h"
 #include "engine/page_head.h"
 #include "engine/page_report.h"
@@ -85,22 +84,23 @@ int hidden_box(Run& run, std::int16_t boxes) {
     return b;
 }
 
-/// The box with its sentences as paragraphs. Many pages draw the same box.
+/// A split box, ready to get sentences.
 const SpacedText& spaced_box(Run& run, int b) {
     std::shared_ptr<const SpacedText>& kept = run.contenidos_espaciados[static_cast<std::size_t>(b)];
-    if (!kept) kept = std::make_shared<SpacedText>(Replace(run.box(b), u". ", u". <p>"));
+    if (!kept) kept = std::make_shared<SpacedText>(split_box(run, b));
     return *kept;
 }
 
 /// Box `a`, a short one with the keyword list and box `b` behind it, and the sentences for the subkeyword.
-Text with_sentences(Run& run, int a, int b, bool split_sentences) {
+Text with_sentences(Run& run, int a, int b, bool split) {
     const Text& sub = run.subkw_actual;
     const Text& first = run.box(a);
-    if (split_sentences && Len(first) >= 300) { // a short one keeps its sentences together
+    const bool is_short = Len(first) < 300;
+    if (split && !is_short) { // a short one keeps its sentences together
         const SpacedText& spaced = spaced_box(run, a);
         return sub.empty() ? spaced.texto : Ajustar_KW(run, spaced, sub, 3);
     }
-    Text text = Len(first) < 300 ? first + u"<p>" + run.lista_kw + u"<p>" + run.box(b) : first;
+    Text text = is_short ? first + u"<p>" + run.lista_kw + u"<p>" + run.box(b) : first;
     return sub.empty() ? text : Ajustar_KW(run, text, sub, 3);
 }
 
@@ -155,18 +155,8 @@ void write_content_block(Run& run, bool split_sentences, bool count_file) {
     status(run, u"Updating Second-Level Page");
     DoEvents();
     if (count_file) ++run.cuenta_archivos;
-    KeywordCounts counts(keyword_set(run), text);
-    const Text of_all = u"/" + to_text(run.n_keywords) + u" done";
-    for (int i = 0; i < run.n_keywords; ++i) {
-        // The caption speaks of random pages here, too.
-        status(run, u"Updating Random-Generated Page " + to_text(i) + of_all);
-        DoEvents();
-        Text& keyword = run.tabla_kw.cell(i);
-        const std::int16_t found = counts.contar(i, keyword);
-        if (!keyword.empty() && found >= kept_occurrences)
-            counts.replace_last(i, run.settings.kw_sustituto, found - kept_occurrences);
-    }
-    replace_all(text, u". ", run.lista_kw); // the sentence ends go
+    limit_keywords(run, text, kept_occurrences); // the caption speaks of random pages here, too
+    replace_all(text, u". ", run.lista_kw);      // the sentence ends go
     if (run.form.Check6.value()) text = highLight(run, text);
     run.writeline({u"<table border = 1 width=75% cellpadding=4><tr><td align=center><p>", text,
                    u"</p></td></tr></table><br>"});
