@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: MIT
 # Builds Tarnwick, fills the folder Tarnwick/ beside the sources, and opens the wizard. Where there is no display it
 # generates the pages of the sample project instead. Projects, stores and settings that stand in the folder stay.
 set -eu

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: MIT
 # Builds everything and runs every test, those of the windows off screen.
 #   ./test.sh                 a debug build
 #   ./test.sh --sanitize      with the address and undefined behaviour sanitizers

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Sourced by run.sh and test.sh: sees to the Debian packages that they need.
 
 build_packages="g++ cmake ninja-build pkg-config libsqlcipher-dev libgumbo-dev libcli11-dev nlohmann-json3-dev

@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Times whole runs against the limit (cp -r of the finished tree on the same disk) and against hugo on the same number of
 # pages and about the same bytes, and shows how time grows. Prints Markdown tables.
 #

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Counting and density over page text. Bytes are units of the text: one a character of plain ASCII.
 
 #include "engine/density.h"

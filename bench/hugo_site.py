@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Makes a hugo site of the second-level pages of a finished run.
 
     hugo_site.py TREE SITE

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A whole run over a made-up project, from the click to the local site map.
 //
 //   run_bench [KEYWORDS SUBKEYWORDS BOXES WORDS RANDOM_PAGES [TEMPLATE]] [OPTION VALUE]...

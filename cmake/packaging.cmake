@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # `cmake --install build/release --prefix DIR` and `cpack -G TGZ` give the portable application folder. What stands
 # at the place already is left alone (data/deliver.cmake). `cpack -G DEB` gives a package whose programs keep
 # their application folder in the user's home.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Puts what is delivered beside the program into FOLDER. Whatever stands there already is the user's and stays:
 # stores, settings files, pictures. SOURCES is this folder, STORES the one with the two finished stores.
 cmake_policy(VERSION 3.25)

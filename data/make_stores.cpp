@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Makes the two stores that are delivered, with the sample project in them: make_stores DATA-FOLDER
 // OUT-FOLDER.
 

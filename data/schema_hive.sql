@@ -1,3 +1,4 @@
+-- SPDX-License-Identifier: MIT
 -- The project store. Keys are assigned by the store and never used again. No foreign keys and no unique indexes:
 -- what belongs together is kept together by the program.
 

@@ -1,3 +1,4 @@
+-- SPDX-License-Identifier: MIT
 -- The synonym store, one for all projects. A word may have several rows.
 
 create table synonyms (

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: MIT
 # Static analysis of src/: cppcheck, then clang-tidy with the checks of .clang-tidy. Fails at the first finding.
 #   tests/analysis.sh                 all of src/ that the build folder compiles
 #   tests/analysis.sh --cppcheck      cppcheck alone, which takes a minute

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "assist/disclaimer.h"
 
 namespace twk {

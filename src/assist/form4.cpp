@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "assist/form4.h"
 
 #include "shell/module1.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "assist/form9.h"
 
 #include "platform/desktop.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "assist/frm_tip.h"
 
 #include "platform/chance.h"

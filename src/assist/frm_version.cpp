@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "assist/frm_version.h"
 
 #include "assist/help.h"

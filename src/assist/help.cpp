@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "assist/help.h"
 
 #include "assist/form9.h"

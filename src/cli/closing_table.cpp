@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/closing_table.h"
 
 #include "platform/desktop.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/report_json.h"
 
 #include "platform/desktop.h"

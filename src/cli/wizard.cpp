@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/wizard.h"
 
 #include "engine/run.h"

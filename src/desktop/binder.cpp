@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/binder.h"
 
 #include "desktop/control_links.h"

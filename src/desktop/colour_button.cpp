@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/colour_button.h"
 
 #include "desktop/qt_colour.h"

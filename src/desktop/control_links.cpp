@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/control_links.h"
 
 #include "desktop/binder.h"

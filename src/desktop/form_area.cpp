@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/form_area.h"
 
 #include <QEvent>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/forms.h"
 
 #include "ui_disclaimer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/qt_desktop.h"
 #include "desktop/qt_text.h"
 #include "shell/mdi1.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/qt_desktop.h"
 
 #include "desktop/browser.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/qt_text.h"
 
 #include <QStringList>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/screen_window.h"
 
 #include "desktop/form_area.h"

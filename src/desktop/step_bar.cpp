@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/step_bar.h"
 
 #include <QPainter>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/transfer.h"
 
 #include "desktop/qt_text.h"

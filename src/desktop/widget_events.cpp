@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/widget_events.h"
 
 #include "desktop/binder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/cross_links.h"
 
 #include "engine/page_report.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/decorations.h"
 
 #include "engine/density.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/first_level.h"
 
 #include "engine/decorations.h"

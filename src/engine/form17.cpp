@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/form17.h"
 
 #include "platform/clock.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/generation.h"
 
 #include "engine/first_level.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/hallway.h"
 
 #include "engine/density.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/density.h"
 #include "engine/pattern_index.h"
 #include "engine/run.h"

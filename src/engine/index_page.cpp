@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/index_page.h"
 
 #include "engine/first_level.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/keyword_counts.h"
 
 #include "engine/run.h"

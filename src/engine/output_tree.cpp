@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/output_tree.h"
 
 #include "engine/fragments.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/page_report.h"
 
 #include "engine/run.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/pattern_index.h"
 
 #include <algorithm>

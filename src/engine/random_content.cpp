@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/random_content.h"
 
 #include "engine/decorations.h"

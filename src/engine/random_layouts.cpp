@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/fragments.h"
 #include "engine/page_head.h"
 #include "engine/random_content.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/random_pages.h"
 
 #include "engine/cross_links.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/read_more.h"
 
 #include "engine/density.h"

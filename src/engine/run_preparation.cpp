@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/run_preparation.h"
 
 #include "engine/keyword_counts.h"

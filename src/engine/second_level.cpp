@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/second_level.h"
 
 #include "engine/decorations.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/site_map.h"
 
 #include "engine/fragments.h"

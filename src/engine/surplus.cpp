@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/surplus.h"
 
 #include "engine/generation.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/synonyms.h"
 
 #include "engine/run.h"

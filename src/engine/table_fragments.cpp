@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/table_fragments.h"
 
 #include "engine/fragments.h"

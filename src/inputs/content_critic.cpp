@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Step 3: the content critic. It blocks nothing and stores nothing; what it changes is the text in the
 // editor.
 

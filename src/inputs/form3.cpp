@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "inputs/form3.h"
 
 #include "assist/help.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Step 2: import and export of keyword lists.
 
 #include "engine/text_toolkit.h"

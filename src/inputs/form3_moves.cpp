@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Step 2: moving keywords and subkeywords, and copying the keywords of another project.
 
 #include "assist/help.h"

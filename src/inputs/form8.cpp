@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "inputs/form8.h"
 
 #include "engine/text_toolkit.h"

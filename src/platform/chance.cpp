@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/chance.h"
 
 #include "platform/clock.h"

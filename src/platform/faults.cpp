@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/faults.h"
 
 namespace twk {

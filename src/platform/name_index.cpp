@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/name_index.h"
 
 #include "platform/files.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/numbers.h"
 
 #include "platform/faults.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/page_cutter.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/plain_pages.h"
 
 #include "platform/page_cutter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/screens.h"
 
 #include "platform/desktop.h"

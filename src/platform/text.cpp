@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/text.h"
 
 #include "platform/faults.h"

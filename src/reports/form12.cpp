@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/form12.h"
 
 #include "engine/density.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "settings/form6.h"
 
 #include "assist/help.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "settings/key_table.h"
 
 namespace twk {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "shell/mdi1.h"
 
 #include "assist/disclaimer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "shell/module1.h"
 
 namespace twk {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/statement_fence.h"
 
 #include "platform/faults.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/store_setup.h"
 
 #include "platform/faults.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/stores.h"
 
 #include "platform/desktop.h"

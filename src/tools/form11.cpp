@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/form11.h"
 
 #include "inputs/form5.h"

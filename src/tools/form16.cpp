@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/form16.h"
 
 namespace twk {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/form19.h"
 
 #include "engine/text_toolkit.h"

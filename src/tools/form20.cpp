@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/form20.h"
 
 #include "engine/text_toolkit.h"

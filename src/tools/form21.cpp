@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/form21.h"
 
 #include "inputs/form5.h"

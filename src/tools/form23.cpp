@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/form23.h"
 
 #include "platform/clock.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One pass of the spider, from the links of the results page to the list of words. The pass is one event that
 // lets others run while it waits: a click on "Cancell" meanwhile ends it, or starts a second pass within it.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "assist/form9.h"
 #include "assist/frm_tip.h"
 #include "assist/help.h"

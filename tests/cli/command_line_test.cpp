@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/commands.h"
 #include "platform/screens.h"
 #include "support/temp_app.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Delivering twice: the first time brings everything, the second leaves what the user has changed and brings back what
 # is missing.
 cmake_policy(VERSION 3.25)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/qt_text.h"
 #include "every_screen.h"
 #include "opened_addresses.h"

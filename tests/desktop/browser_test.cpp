@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/browser.h"
 #include "desktop/qt_text.h"
 #include "inputs/form5.h"

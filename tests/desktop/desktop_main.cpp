@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "quit_run.h"
 
 #include <QApplication>

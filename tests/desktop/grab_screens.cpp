@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shows every screen of the program on the sample project and keeps its picture:
 //   grab_screens APPLICATION-FOLDER PICTURE-FOLDER WIDTH HEIGHT [dark]
 #include "desktop/qt_desktop.h"

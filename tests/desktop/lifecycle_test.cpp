@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/qt_text.h"
 #include "engine/run.h"
 #include "every_screen.h"

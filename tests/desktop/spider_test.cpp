@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/qt_text.h"
 #include "page_server.h"
 #include "tools/form20.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "user.h"
 
 #include "shell/mdi1.h"

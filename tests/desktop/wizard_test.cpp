@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/run.h"
 #include "opened_addresses.h"
 #include "platform/files.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/density.h"
 #include "engine/run.h"
 #include "platform/chance.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/form17.h"
 #include "shell/form2.h"
 #include "shell/module1.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/form17.h"
 #include "engine/generation.h"
 #include "engine/text_toolkit.h"

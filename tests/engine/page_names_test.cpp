@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/page_names.h"
 #include "engine/run.h"
 #include "inputs/form7.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/decorations.h"
 #include "engine/first_level.h"
 #include "engine/page_file.h"

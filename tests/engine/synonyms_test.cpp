@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/run.h"
 #include "engine/synonyms.h"
 #include "engine/text_toolkit.h"

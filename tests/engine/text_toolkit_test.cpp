@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/text_toolkit.h"
 #include "platform/chance.h"
 #include "support/faults.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "inputs/form7.h"
 #include "platform/files.h"
 #include "platform/html.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Good files with some of their bytes changed, doubled or lost: whatever they have become, what is made of
 // them is sound.
 

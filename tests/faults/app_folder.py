@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """An application folder for the fault scripts: made from the delivered files, looked into through fault_driver."""
 
 import argparse

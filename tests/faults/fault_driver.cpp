@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Walks screens of the wizard for tests/faults/kills.py, which kills it while it does. Each finished step is
 // told by a line that leaves the process at once.
 //

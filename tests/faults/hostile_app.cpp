@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "faults/hostile_app.h"
 
 #include "engine/run.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Names that become paths: of projects, hosts, keywords, pages and files.
 
 #include "engine/form17.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts that become pages, settings or parts of statements.
 
 #include "faults/hostile_app.h"

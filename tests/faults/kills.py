@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Kills the program at random moments of a run, an import, a save and a copy, and looks at what is left.
 
 After every kill both stores open and are sound, every row is there whose insertion had been told, every file that

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Lets the program meet a full disk, folders and files that it may not touch, a locked store and files held open.
 
 Each time it tells what is wrong and leaves stores, settings and lists sound; when the obstacle is gone, a run writes

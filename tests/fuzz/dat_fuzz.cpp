@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Any bytes as a settings file: loaded, saved, and loaded again.
 
 #include "fuzz_app.h"

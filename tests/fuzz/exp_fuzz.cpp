@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Any bytes as a keyword list, exported or general: what the list shows is what the store holds.
 
 #include "fuzz_app.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Any bytes as a list of page names: never more names than there were, and all of them back after a fault.
 
 #include "engine/form17.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "inputs/form10.h"
 #include "inputs/form3.h"
 #include "inputs/form8.h"

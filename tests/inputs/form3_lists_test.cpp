@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "inputs/step_two.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "inputs/form5.h"
 #include "inputs/form7.h"
 #include "inputs/step_two.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/faults.h"
 #include "platform/files.h"
 #include "platform/name_index.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/html.h"
 #include "platform/plain_pages.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/controls.h"
 #include "platform/faults.h"
 #include "platform/screens.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/faults.h"
 #include "platform/text.h"
 #include "support/faults.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "engine/run.h"
 #include "inputs/form7.h"
 #include "reports/form12.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/faults.h"
 #include "settings/form6.h"
 #include "shell/form2.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "settings/form6.h"
 #include "settings/settings_file.h"
 #include "shell/form2.h"

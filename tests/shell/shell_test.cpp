@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "assist/disclaimer.h"
 #include "assist/frm_version.h"
 #include "inputs/form10.h"

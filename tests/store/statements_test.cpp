@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/faults.h"
 #include "support/faults.h"
 #include "support/temp_app.h"

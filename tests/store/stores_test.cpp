@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/faults.h"
 #include "platform/numbers.h"
 #include "store/store_setup.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/sample_project.h"
 
 #include "inputs/form3.h"

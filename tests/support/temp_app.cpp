@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/temp_app.h"
 
 #include "platform/chance.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/test_desktop.h"
 
 #include "platform/html.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/files.h"
 #include "support/temp_app.h"
 #include "tools/form23.h"

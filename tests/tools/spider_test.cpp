@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "inputs/step_two.h"
 #include "tools/form16.h"
 #include "tools/form20.h"

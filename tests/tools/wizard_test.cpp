@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "inputs/step_two.h"
 #include "tools/form19.h"
 
