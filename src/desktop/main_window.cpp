@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
+#include <QStatusBar>
 #include <QTimer>
 #include <map>
 
@@ -121,6 +122,10 @@ void MainWindow::bury() {
         area_->removeSubWindow(each);
         each->deleteLater();
     }
+}
+
+void MainWindow::say(const QString& what) {
+    statusBar()->showMessage(what);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -28,6 +28,8 @@ class MainWindow : public QMainWindow {
     /// Takes a screen's window from sight; it is destroyed when no event runs any more.
     void retire(ScreenWindow& window);
     const std::vector<ScreenWindow*>& windows() const { return windows_; }
+    /// Shows in the status bar what has just been done.
+    void say(const QString& what);
     /// Whether the event that the menu has just raised runs alone, not inside another one.
     bool menu_event_alone() const { return menu_event_alone_; }
 

@@ -138,6 +138,10 @@ Text QtDesktop::get_setting(TextView section, TextView key, const Text& fallback
     return from_qt(settings.value(to_qt(section) + u'/' + to_qt(key), to_qt(fallback)).toString());
 }
 
+void QtDesktop::say(const Text& what) {
+    window_.say(to_qt(what));
+}
+
 void QtDesktop::quit() {
     if (!window_.menu_event_alone()) std::_Exit(EXIT_SUCCESS);
     QCoreApplication::quit();

@@ -28,6 +28,7 @@ class QtDesktop : public Desktop {
     void DoEvents() override;
     void start(const Text& file_or_address) override;
     Text get_setting(TextView section, TextView key, const Text& fallback) override;
+    void say(const Text& what) override;
     /// With an event under way the process ends then and there: the store is durable after each statement,
     /// and a page that is not finished is rewritten by the next run.
     void quit() override;

@@ -38,6 +38,10 @@ void DoEvents() {
     desktop().DoEvents();
 }
 
+void say(const Text& what) {
+    desktop().say(what);
+}
+
 const Text& app_path() {
     return application_folder();
 }

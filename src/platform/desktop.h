@@ -58,6 +58,9 @@ class Desktop {
     /// Opens a file or an address in the system's own program for it. Fault 53 when that cannot be.
     virtual void start(const Text& file_or_address) = 0;
     virtual Text get_setting(TextView section, TextView key, const Text& fallback) = 0;
+    /// Tells what has just been done, where a screen itself says nothing: a line at the window's foot that
+    /// asks for no answer.
+    virtual void say(const Text&) {}
     /// Ends the program at once.
     virtual void quit() = 0;
 
@@ -94,6 +97,8 @@ Desktop* set_desktop(Desktop* desktop);
 Answer MsgBox(const Text& text);
 Answer MsgBox(const Text& text, Buttons buttons, const Text& title = u"Tarnwick");
 void DoEvents();
+/// Tells what has just been done, in the status bar of the window.
+void say(const Text& what);
 
 /// The folder of the running program, without a separator at its end.
 const Text& app_path();

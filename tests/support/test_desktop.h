@@ -25,6 +25,7 @@ class TestDesktop : public Desktop {
     std::vector<Message> messages;
     const Text& last_message() const;
     std::vector<Text> started;   ///< files and addresses opened in the system
+    std::vector<Text> said;      ///< what the status bar told
     std::vector<Text> navigated; ///< addresses the browsers were sent to
     bool has_quit = false;
 
@@ -49,6 +50,7 @@ class TestDesktop : public Desktop {
     void DoEvents() override;
     void start(const Text& file_or_address) override { started.push_back(file_or_address); }
     Text get_setting(TextView section, TextView key, const Text& fallback) override;
+    void say(const Text& what) override { said.push_back(what); }
     void quit() override { has_quit = true; }
     void screen_loaded(Screen&) override {}
     void screen_unloaded(Screen&) override {}
