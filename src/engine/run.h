@@ -123,6 +123,7 @@ struct Run {
     // What the end of a run tells the command line.
     std::int64_t pages_written = 0;
     std::int64_t bytes_written = 0;
+    double seconds = 0;    ///< from the first page to the last, pauses for questions not among them
     bool finished = false; ///< the run came to its end
 
     /// Folder `\Projects\<project>` and the main destination's folder in it.

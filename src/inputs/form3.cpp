@@ -392,8 +392,8 @@ void Form3::cmd_wizard_sub_Click() {
 }
 
 void Form3::Command5_Click() {
-    if (List1.list_count() < 3) {
-        MsgBox(u"You must provide more than 3 keywords"); // three pass
+    if (List1.list_count() < least_keywords) {
+        MsgBox(Text(too_few_keywords));
         return;
     }
     screens().unload<Form5>();

@@ -16,6 +16,8 @@ class Form3 {
   public:
     static constexpr const char* name = "Form3";
     static constexpr TextView title = u"Step 2 of 6 - Keywords";
+    static constexpr int least_keywords = 3; ///< that Next lets pass, whatever its words say
+    static constexpr TextView too_few_keywords = u"You must provide more than 3 keywords";
 
     Form3();
 

@@ -318,8 +318,8 @@ void Form5::Command1_Click() {
             Answer::yes)
         Command5_Click();
     screens().unload<Form7>();
-    if (List1.list_count() < 2) {
-        MsgBox(u"You Must enter at least 2 content boxes.");
+    if (List1.list_count() < least_boxes) {
+        MsgBox(Text(too_few_boxes));
         return;
     }
     screens().show<Form7>();

@@ -16,6 +16,8 @@ class Form5 {
   public:
     static constexpr const char* name = "Form5";
     static constexpr TextView title = u"Step 3 of 6 - Content";
+    static constexpr int least_boxes = 2; ///< that Next lets pass
+    static constexpr TextView too_few_boxes = u"You Must enter at least 2 content boxes.";
     static constexpr TextView critic_at_rest = u"Click a content box from the list to calculate.";
 
     Form5();

@@ -67,20 +67,23 @@ void Form7::Form_Unload() {
     marcar_forma(screen_number, false);
 }
 
-bool Form7::main_directory_valid() {
-    const auto refuse = [](const Text& message) {
-        MsgBox(message);
-        return false;
-    };
-    if (!contains(Text2.text(), scheme)) return refuse(u"URL must have 'http://'");
-    Text2.text = Trim(Text2.text());
-    if (Text2.text() == placeholder()) return refuse(u"You must enter an URL to host the gateway pages");
-    const Text main_host = LCase(Text2.text());
+Text Form7::directory_refusal(const Text& main, const std::vector<Text>& others) {
+    if (!contains(main, scheme)) return u"URL must have 'http://'";
+    const Text trimmed = Trim(main);
+    if (trimmed == placeholder()) return u"You must enter an URL to host the gateway pages";
+    const Text main_host = LCase(trimmed);
     const auto same = [&](const Text& other) { return LCase(Trim(other)) == main_host; };
-    if (std::any_of(List1.entries().begin(), List1.entries().end(), same))
-        return refuse(u"Main host can't be the same as Other Host!");
-    if (ends_in_slash(Text2.text())) return refuse(u"Main Gateway Domain can't end in / or \\");
-    return true;
+    if (std::any_of(others.begin(), others.end(), same))
+        return u"Main host can't be the same as Other Host!";
+    if (ends_in_slash(trimmed)) return u"Main Gateway Domain can't end in / or \\";
+    return {};
+}
+
+bool Form7::main_directory_valid() {
+    const Text refusal = directory_refusal(Text2.text(), List1.entries());
+    if (contains(Text2.text(), scheme)) Text2.text = Trim(Text2.text());
+    if (!refusal.empty()) MsgBox(refusal);
+    return refusal.empty();
 }
 
 void Form7::Command1_Click() {

@@ -46,6 +46,8 @@ class Form7 {
     void Command2_Click();
     void Command3_Click();
     void Command7_Click();
+    /// What Next would say to a main directory beside these secondary ones; empty when it would go on.
+    static Text directory_refusal(const Text& main, const std::vector<Text>& others);
 
   private:
     bool main_directory_valid();

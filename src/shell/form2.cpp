@@ -12,6 +12,7 @@
 #include "store/stores.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace twk {
 
@@ -39,6 +40,12 @@ bool begins_with_h(TextView url) {
 bool ends_in_slash(TextView url) {
     const TextView trimmed = trim_view(url);
     return trimmed.ends_with(u'/') || trimmed.ends_with(u'\\');
+}
+
+/// Shows what stands against going on.
+bool refused(const Text& message) {
+    if (!message.empty()) MsgBox(message);
+    return !message.empty();
 }
 
 /// Text of a box as it goes into a statement.
@@ -99,20 +106,23 @@ void Form2::Form_Unload() {
     marcar_forma(screen_number, false);
 }
 
-int Form2::Revisar_Target(TextView) {
-    const auto refuse = [this](const Text& message) {
-        MsgBox(message);
-        Text2[0].text = u"";
-        Text2[0].set_focus();
-        return 1;
-    };
+Text Form2::site_name_refusal() const {
     const Text word = Text2[0].text();
-    if (Len(word) < 3) return refuse(u"The word must have more than 3 characters"); // three pass
+    if (Len(word) < 3) return u"The word must have more than 3 characters"; // three pass
     const Text trimmed = Trim(word);
-    if (is_reserved(trimmed)) return refuse(u"'Sitemap' and 'Index' are reserved words.");
+    if (is_reserved(trimmed)) return u"'Sitemap' and 'Index' are reserved words.";
     if (!std::all_of(trimmed.begin(), trimmed.end(), word_unit))
-        return refuse(u"The word can only contain letters, numbers and dashes");
-    return 0;
+        return u"The word can only contain letters, numbers and dashes";
+    return {};
+}
+
+int Form2::Revisar_Target(TextView) {
+    const Text refusal = site_name_refusal();
+    if (refusal.empty()) return 0;
+    MsgBox(refusal);
+    Text2[0].text = u"";
+    Text2[0].set_focus();
+    return 1;
 }
 
 void Form2::Text2_LostFocus(int index) {
@@ -147,7 +157,12 @@ void Form2::Command2_Click() {
     if (Revisar_Target(Text2[0].text()) == 1) return;
     module1().url_sitio = txt_url[0].text();
     module1().url_webmaster = txt_url[2].text();
-    if (!fields_complete() || !addresses_valid()) return;
+    if (const Refusal field = field_refusal(); !field.message.empty()) {
+        MsgBox(field.message);
+        field.box->set_focus();
+        return;
+    }
+    if (refused(address_refusal())) return;
     const Text project = Trim(txt_name[0].text());
     if (module1().pid_actual != 0 && project != module1().proyecto_actual)
         MsgBox(u"The project " + module1().proyecto_actual + u" has been renamed to " + project);
@@ -159,56 +174,54 @@ void Form2::Command2_Click() {
         update_project();
     store_targets(); // under key 0 after a Cancel, where nobody reads them
     // Only now, with everything saved.
-    if (!addresses_without_slash() || name_taken) return;
+    if (refused(slash_refusal()) || name_taken) return;
     make_folder();
     screens().bring_forward<Form3>();
 }
 
-bool Form2::fields_complete() {
-    const auto refuse = [](const Text& message, TextBox& box) {
-        MsgBox(message);
-        box.set_focus();
-        return false;
-    };
-    if (txt_name[0].text().empty()) return refuse(u"The Project must have a Name", txt_name[0]);
+Form2::Refusal Form2::first_refusal() {
+    if (Text name = site_name_refusal(); !name.empty()) return {std::move(name), &Text2[0]};
+    if (Refusal field = field_refusal(); !field.message.empty()) return field;
+    if (Text address = address_refusal(); !address.empty()) return {std::move(address), &txt_url[0]};
+    return {slash_refusal(), &txt_url[0]};
+}
+
+int Form2::filled_fields() const {
+    int filled = 0;
+    for (const TextBox* box : {&txt_name[0], &Text2[0], &txt_url[0], &txt_dat[0], &txt_dat[1], &txt_dat[2]})
+        if (!box->text().empty()) ++filled;
+    return filled;
+}
+
+Form2::Refusal Form2::field_refusal() {
+    if (txt_name[0].text().empty()) return {u"The Project must have a Name", &txt_name[0]};
     if (contains(txt_name[0].text(), u" "))
-        return refuse(u"The name of the project can`t contain spaces", txt_name[0]);
-    if (Text2[0].text().empty()) return refuse(u"The Project must have a Target Site Name", Text2[0]);
-    if (txt_url[0].text().empty()) return refuse(u"The Project must have a Target URL", txt_url[0]);
+        return {u"The name of the project can`t contain spaces", &txt_name[0]};
+    if (Text2[0].text().empty()) return {u"The Project must have a Target Site Name", &Text2[0]};
+    if (txt_url[0].text().empty()) return {u"The Project must have a Target URL", &txt_url[0]};
     for (TextBox& box : txt_dat)
-        if (box.text().empty()) return refuse(u"Subject, Category and Description can´t be empty", box);
-    return true;
+        if (box.text().empty()) return {u"Subject, Category and Description can´t be empty", &box};
+    return {};
 }
 
-bool Form2::addresses_valid() const {
+Text Form2::address_refusal() const {
     const Text& url = txt_url[0].text();
-    if (!has_scheme(url)) {
-        MsgBox(u"The Target Site URL is invalid (" + Trim(url) + u")\n" + Text(should_begin));
-        return false;
-    }
-    if (!begins_with_h(url)) {
-        MsgBox(u"The Target Site URL is invalid: " + url + u"\n" + Text(should_begin));
-        return false;
-    }
-    for (const Text& other : List1.entries()) {
-        if (has_scheme(other) && begins_with_h(other)) continue;
-        MsgBox(u"This Other Target URL is invalid: " + other + u"\n" + Text(should_begin));
-        return false;
-    }
-    return true;
+    if (!has_scheme(url))
+        return u"The Target Site URL is invalid (" + Trim(url) + u")\n" + Text(should_begin);
+    if (!begins_with_h(url)) return u"The Target Site URL is invalid: " + url + u"\n" + Text(should_begin);
+    for (const Text& other : List1.entries())
+        if (!has_scheme(other) || !begins_with_h(other))
+            return u"This Other Target URL is invalid: " + other + u"\n" + Text(should_begin);
+    return {};
 }
 
-bool Form2::addresses_without_slash() const {
-    if (ends_in_slash(txt_url[0].text())) {
-        MsgBox(u"You can't put a backward or fordward slash at the end of the Target Site URL");
-        return false;
-    }
-    for (const Text& other : List1.entries()) {
-        if (!ends_in_slash(other)) continue;
-        MsgBox(u"You can't put a backward or fordward slash at the end of the an (Other) Target Site URL");
-        return false;
-    }
-    return true;
+Text Form2::slash_refusal() const {
+    if (ends_in_slash(txt_url[0].text()))
+        return u"You can't put a backward or fordward slash at the end of the Target Site URL";
+    for (const Text& other : List1.entries())
+        if (ends_in_slash(other))
+            return u"You can't put a backward or fordward slash at the end of the an (Other) Target Site URL";
+    return {};
 }
 
 /// Inserts the project, in the place of one of the same name when the user agrees. False when he does not.

@@ -67,10 +67,22 @@ class Form2 {
     /// `Text2[0]` whatever is passed in.
     int Revisar_Target(TextView text);
 
+    /// What Next would say, and the box that it would say it of; an empty message when it would go on.
+    struct Refusal {
+        Text message;
+        TextBox* box = nullptr;
+    };
+    /// The first thing in the fields that Next would refuse. Nothing is shown or changed.
+    Refusal first_refusal();
+    static constexpr int needed_fields = 6;
+    /// How many of the fields that must not be empty are filled.
+    int filled_fields() const;
+
   private:
-    bool fields_complete();
-    bool addresses_valid() const;
-    bool addresses_without_slash() const;
+    Text site_name_refusal() const;
+    Refusal field_refusal();
+    Text address_refusal() const;
+    Text slash_refusal() const;
     bool store_new_project();
     void replace_project(std::int16_t pid);
     void insert_project();
