@@ -50,12 +50,12 @@ void copy_flash_movie(Run& run, const Text& folder) {
 
 Text imagen(Run& run, int kind, TextView alt, const Text& folder, const Text& stem) {
     const ListBox& fotos = run.form.List1;
-    const auto count = static_cast<std::int16_t>(fotos.list_count());
+    const int count = fotos.list_count();
     if (count == 0)
         throw RuntimeFault(fault_project_lacks, u"There is no picture to choose from in the folder Images.");
     chance().Randomize();
     Text f;
-    while (f.empty()) f = Trim(fotos.list(xrnum(static_cast<std::int16_t>(count - 1)))); // never the last one
+    while (f.empty()) f = Trim(fotos.list(xrnum(count - 1))); // never the last one
     const Text ext = Right(f, 4);
     run.mensaje_error = u"Copying image + Creating Tag " + f;
     if (kind == 2) return {};

@@ -8,9 +8,7 @@
 #include "platform/chance.h"
 #include "platform/faults.h"
 #include "platform/numbers.h"
-
-#include <algorithm>
-#include <iterator>
+#include "platform/subscript.h"
 
 namespace twk {
 
@@ -52,7 +50,7 @@ Text linking_sentence(Run& run, const Text& keyword) {
             fault_project_lacks,
             u"The settings hold no sentence to insert: the first ten entries of 6.c are empty.");
     for (;;) {
-        const std::int16_t a = xrnum(sentences_in_use);
+        const int a = xrnum(sentences_in_use);
         const Text u = target(run);
         Text f = Replace(run.settings.frases_link[static_cast<std::size_t>(a)], u"*LINK*",
                          u"<a href=\"" + u + u"\">" + keyword + u"</a>");
@@ -107,103 +105,7 @@ Text muchas_palabras(Run& run, Text& texto) {
     return texto;
 }
 
-namespace {
-
-/// The segments of `Ajustar_KW` while they grow. No blank stands beside another one in `out`: those that the
-/// joints bring go in the end anyway.
-struct Segments {
-    Run& run;
-    const Text& keyword;                 ///< trimmed
-    const std::vector<TextView>& piezas; ///< of one text, single blanks between them
-    const std::vector<TextView>& anclas; ///< trimmed
-    std::uint64_t lengths; ///< a bit for the length of each of them, the last for all from 63 on
-    int w;
-    Text out;
-    Text f; ///< the sentence chosen last
-
-    static std::uint64_t length_bit(TextView pieza) {
-        return std::uint64_t{1} << std::min<std::size_t>(pieza.size(), 63);
-    }
-
-    bool is_anchor(TextView pieza) const {
-        if ((lengths & length_bit(pieza)) == 0) return false;
-        const char16_t first = lower(pieza.front());
-        for (const TextView ancla : anclas)
-            if (pieza.size() == ancla.size() && first == lower(ancla.front()) && same_text(pieza, ancla))
-                return true;
-        return false;
-    }
-
-    TextView pieza(std::int64_t p) const {
-        if (p < 0 || p >= static_cast<std::int64_t>(piezas.size())) throw RuntimeFault(fault_subscript);
-        return piezas[static_cast<std::size_t>(p)];
-    }
-
-    /// Appends the segment from piece `first`, `step` + 1 pieces; false when it was the last one.
-    bool append(std::int64_t first, int step) {
-        const std::int64_t last = first + step;
-        std::int64_t p = first;
-        while (p <= last && !is_anchor(pieza(p))) ++p;
-        if (p > last) { // no anchor word: the last sentence, glued to the last word
-            append_pieces(first, last);
-            append_single(f);
-            return true;
-        }
-        append_pieces(first, p - 1);
-        f = linking_sentence(run, keyword);
-        append_single(u" ");
-        append_single(f);
-        const bool more = p == last || last < w;
-        append_pieces(p, std::max<std::int64_t>(p, more ? last : w - 1));
-        return more;
-    }
-
-    /// A blank and the pieces `from` to `to`, if there are any.
-    void append_pieces(std::int64_t from, std::int64_t to) {
-        if (from > to) return;
-        const char16_t* const begin = pieza(from).data();
-        const TextView end = pieza(to);
-        if (!out.empty() && out.back() != u' ') out.push_back(u' ');
-        out.append(begin, end.data() + end.size());
-    }
-
-    void append_single(TextView added) {
-        for (const char16_t unit : added)
-            if (unit != u' ' || out.empty() || out.back() != u' ') out.push_back(unit);
-    }
-};
-
-/// Whether `densidad` of a text with single blanks could overflow: occurrences of the keyword, words or their
-/// ratio past 16 bits. "No" is certain, "yes" is not.
-bool densidad_may_overflow(TextView texto, TextView keyword) {
-    constexpr std::int64_t most = 32767;
-    const Survey survey(texto);
-    const std::int64_t dollars = survey.dollars ? std::count(texto.begin(), texto.end(), u'$') : 0;
-    // Pieces that begin behind a blank: one behind each, but the last.
-    const std::int64_t starts = survey.blanks - (texto.ends_with(u' ') ? 1 : 0);
-    // Once its tags are spaced the text has so many units at most, and so many words at least: every end of a
-    // tag takes one piece, a "$$$" stands for a blank.
-    const std::int64_t units = std::ssize(texto) + 2 * survey.tag_ends;
-    const std::int64_t words = starts - survey.tag_ends - dollars;
-    Text counted = Trim(keyword);
-    const std::int64_t found = units / std::max<std::int64_t>(1, std::ssize(quitar_dobles(counted)));
-    return words < 1 || units / 2 + 1 > most || found > most || found * 100 / words + 1 > most;
-}
-
-/// `densidad` for the sake of its faults; its value is not used.
-void check_densidad(TextView texto, const Text& keyword) {
-    if (!densidad_may_overflow(texto, keyword)) return;
-    Text medida = keyword;
-    densidad(Text(texto), medida);
-}
-
-} // namespace
-
-SpacedText::SpacedText(Text text)
-    : texto(std::move(text)), palabras(contar_palabras(texto)),
-      piezas(split_views(trim_view(quitar_dobles(texto)))) {}
-
-Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, std::int16_t densidad_pedida) {
+Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, int densidad_pedida) {
     if (trim_view(texto).empty() || densidad_pedida < 1) return {};
     SpacedText spaced(std::move(texto));
     Text out = Ajustar_KW(run, spaced, keyword, densidad_pedida);
@@ -211,34 +113,21 @@ Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, std::int16_t densida
     return out;
 }
 
-Text Ajustar_KW(Run& run, const SpacedText& spaced, const Text& keyword, std::int16_t densidad_pedida) {
-    if (spaced.piezas.empty() || densidad_pedida < 1) return {};
-    const int w = spaced.palabras;
+Text Ajustar_KW(Run& run, const SpacedText& spaced, const Text& keyword, int densidad_pedida) {
     const Text k = Trim(keyword);
-    check_densidad(spaced.texto, k);
-    int step = 0;
-    const double por_cien = CInt(static_cast<double>(densidad_pedida) * w) / 100.0;
-    if (w != 0) step = static_cast<int>(Int(w / por_cien));
-    if (step < 2) return {};
-    std::vector<TextView> anclas;
-    std::uint64_t lengths = 0; // none that counts without a keyword
-    for (int i = 0; i < sentences_in_use && !k.empty(); ++i) {
-        const TextView ancla = trim_view(run.settings.palabras_ancla[static_cast<std::size_t>(i)]);
-        if (ancla.empty()) continue;
-        anclas.push_back(ancla);
-        lengths |= Segments::length_bit(ancla);
-    }
-    Segments segments{run, k, spaced.piezas, anclas, lengths, w, {}, {}};
-    segments.out.reserve(spaced.texto.size() + spaced.texto.size() / 2);
-    const auto n = static_cast<int>(Int(por_cien - 1));
-    for (int i = 0; i <= n; ++i)
-        if (!segments.append(static_cast<std::int64_t>(i) * step, step)) break;
-    check_densidad(segments.out, k);
-    return Trim(segments.out);
+    LinkingSentences sentences{{}, [&] { return linking_sentence(run, k); }};
+    for (int i = 0; i < sentences_in_use; ++i)
+        if (Text ancla = Trim(at(run.settings.palabras_ancla, i)); !ancla.empty())
+            sentences.anchors.push_back(std::move(ancla));
+    return Ajustar_KW(spaced, k, densidad_pedida, sentences);
 }
 
-std::int16_t xrnum2(std::int16_t n) {
+int xrnum2(int n) {
     return xrnum(n);
+}
+
+Text highLight(Run& run, TextView texto) {
+    return run.marks.highLight(texto, run.column_0(), run.settings.hl_abre, run.settings.hl_cierra);
 }
 
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/text.h"
+#include "engine/counting/spaced_text.h"
 
 #include <cstdint>
 #include <vector>
@@ -29,25 +29,13 @@ Text muchas_palabras(Run& run, Text& texto);
 /// front of its first anchor word. Empty when the text is, when `densidad` is below 1, or above 50. The
 /// argument gets its tags spaced; a fault leaves it empty. Faults 6 (words times density past 16 bits), 9 (an
 /// anchor word past the last piece), 1001.
-Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, std::int16_t densidad);
-
-/// A text as `Ajustar_KW` leaves its argument, cut into pieces: for texts that get sentences many times.
-struct SpacedText {
-    /// Fault 6 when there are more words than 32767.
-    explicit SpacedText(Text text);
-    SpacedText(const SpacedText&) = delete;
-    SpacedText& operator=(const SpacedText&) = delete;
-
-    Text texto;
-    std::int16_t palabras;
-    std::vector<TextView> piezas; ///< of `texto`, without the blanks at its ends
-};
+Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, int densidad_pedida);
 
 /// The same for such a text.
-Text Ajustar_KW(Run& run, const SpacedText& spaced, const Text& keyword, std::int16_t densidad);
+Text Ajustar_KW(Run& run, const SpacedText& spaced, const Text& keyword, int densidad_pedida);
 
 /// The draw of `xrnum`.
-std::int16_t xrnum2(std::int16_t n);
+int xrnum2(int n);
 
 /// Marks every keyword that stands between blanks, in its own case.
 Text highLight(Run& run, TextView texto);

@@ -167,7 +167,7 @@ void write_first_level_image(Run& run, bool letter, TextView before) {
     const Text& keyword = run.tabla_kw.at(run.indice_kw);
     Text stem = keyword;
     if (letter) {
-        std::int16_t number = xrnum(25);
+        int number = xrnum(25);
         stem += u" " + letra(number);
     }
     const Text alt = Trim(keyword + u" " + run.lista_kw);

@@ -54,8 +54,8 @@ void build_page_names(Run& run) {
     int i = 0;
     int c = 0;
     while (i <= total) {
-        for (std::int16_t a = 0; a < run.n_terminos && i <= total; ++a) {
-            for (std::int16_t b = 0; b < run.n_terminos && i <= total; ++b) {
+        for (int a = 0; a < run.n_terminos && i <= total; ++a) {
+            for (int b = 0; b < run.n_terminos && i <= total; ++b) {
                 const Text x = Trim(preparar_texto(run.terminos[static_cast<std::size_t>(a)] + u" " +
                                                    run.terminos[static_cast<std::size_t>(b)]));
                 const Text name = LCase(rspaces(form, x));

@@ -24,7 +24,7 @@ int draw_boxes(Run& run) {
     std::vector<int> fuente_aux = run.fuente;
     const int m = xrnum2(run.n_fuente);
     for (int k = 0; k < m; ++k) {
-        const int r = xrnum2(static_cast<std::int16_t>(run.n_fuente - k));
+        const int r = xrnum2(run.n_fuente - k);
         run.seleccion[static_cast<std::size_t>(k)] = fuente_aux[static_cast<std::size_t>(r)];
         fuente_aux.erase(fuente_aux.begin() + r);
     }
@@ -67,7 +67,7 @@ void draw_densities(Run& run, std::size_t units) {
 }
 
 /// Fits the text to a drawn keyword, in `below` of ten cases.
-void perhaps_adjust(Run& run, Text& s, int below, std::int16_t density) {
+void perhaps_adjust(Run& run, Text& s, int below, int density) {
     if (xrnum2(10) >= below) return;
     const Text keyword = run.tabla_kw.at(xrnum2(run.n_keywords));
     s = Ajustar_KW(run, s, keyword, density);

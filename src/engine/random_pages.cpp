@@ -42,7 +42,7 @@ Text take_name(Run& run, int destination, int n, int c) {
 
 /// The list of three terms that a page starts with serves nothing, but its draws count.
 void draw_unused_list(Run& run) {
-    for (int i = 0; i < 3; ++i) xrnum2(static_cast<std::int16_t>(run.n_terminos - 1));
+    for (int i = 0; i < 3; ++i) xrnum2(run.n_terminos - 1);
 }
 
 Text drawn_term(Run& run) {
@@ -163,7 +163,7 @@ Text tp3_linktotarget(Run& run) {
     const Text separator = run.form.Combo6.text();
     if (Val(run.form.Combo4.text()) > percent_draw()) {
         if (run.n_keywords <= 1) throw RuntimeFault(fault_project_lacks, Text(lacks_second_keyword));
-        std::int16_t i = 0;
+        int i = 0;
         while (i == 0) i = xrnum(run.n_keywords);
         const Text u = target(run);
         run.enlace_padre = u;
@@ -216,8 +216,7 @@ Text tp3_linktogoogle(const Run& run) {
 
 void write_random_image(Run& run) {
     if (!run.form.Check2.value()) return;
-    const Text& name =
-        run.nombres[static_cast<std::size_t>(xrnum(static_cast<std::int16_t>(run.n_nombres - 1)))];
+    const Text& name = run.nombres[static_cast<std::size_t>(xrnum(run.n_nombres - 1))];
     const Text stem = preparar_texto(LCase(rspaces(run.form, name)));
     run.writeline(imagen(run, 3, Trim(run.lista_kw), run.carpeta, stem));
 }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/counting/keyword_counts.h"
+#include "engine/counting/keyword_marks.h"
+#include "engine/counting/spaced_text.h"
 #include "platform/faults.h"
 #include "platform/files.h"
 #include "platform/text.h"
@@ -16,10 +19,7 @@
 
 namespace twk {
 
-class KeywordSet;
-class PatternSet;
 struct KnownSynonyms;
-struct SpacedText;
 
 /// The project's record, as the run reads it.
 struct Proyecto {
@@ -74,12 +74,11 @@ struct Run {
     /// Boxes with every sentence in a paragraph of its own, and the same ready to get sentences; made when
     /// needed.
     std::array<std::optional<Text>, max_boxes> contenidos_partidos;
-    std::array<std::shared_ptr<const SpacedText>, max_boxes> contenidos_espaciados;
+    std::array<std::unique_ptr<const SpacedText>, max_boxes> contenidos_espaciados;
 
-    std::shared_ptr<const KeywordSet>
-        keywords; ///< those of the table, to be counted together; made when needed
-    std::shared_ptr<const PatternSet> highlighted; ///< the same between blanks
-    std::shared_ptr<KnownSynonyms> synonyms;       ///< read when first needed
+    std::optional<KeywordSet> keywords; ///< those of the table, to be counted together; made when needed
+    KeywordMarks marks;
+    std::shared_ptr<KnownSynonyms> synonyms; ///< read when first needed
 
     Text extension;       ///< with its point
     Text separador;       ///< word separator of file names, read once
@@ -111,7 +110,7 @@ struct Run {
     Text url_pagina;
     std::vector<Text> ultima_por_host; ///< one per destination
     Text lista_enlaces;
-    std::int16_t d1 = 0, d2 = 0; ///< densities; kept from page to page at exactly 10000 units
+    int d1 = 0, d2 = 0; ///< densities; kept from page to page at exactly 10000 units
 
     Database base_datos; ///< stays open after the run
     FileSystemObject fso;
@@ -135,6 +134,8 @@ struct Run {
         if (index < 0 || index >= max_boxes) throw RuntimeFault(fault_subscript);
         return contenidos[static_cast<std::size_t>(index)];
     }
+    /// Column 0 of the table, as far as it has keywords.
+    std::vector<Text> column_0() const;
     void writeline(TextView line) { salida->writeline(line); }
     void writeline(std::initializer_list<TextView> pieces) { salida->writeline(pieces); }
 };

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/run_preparation.h"
 
-#include "engine/keyword_counts.h"
+#include "engine/counting/keyword_counts.h"
+#include "engine/counting/words.h"
 #include "engine/run.h"
 #include "engine/text_toolkit.h"
 #include "inputs/form3.h"
@@ -38,6 +39,18 @@ Text& KeywordTable::cell(int row, int column) {
     std::vector<Text>& cells = rows_[static_cast<std::size_t>(row)];
     if (column >= static_cast<int>(cells.size())) cells.resize(static_cast<std::size_t>(column) + 1);
     return cells[static_cast<std::size_t>(column)];
+}
+
+std::vector<Text> Run::column_0() const {
+    std::vector<Text> all;
+    all.reserve(static_cast<std::size_t>(n_keywords));
+    for (int k = 0; k < n_keywords; ++k) all.push_back(tabla_kw.at(k));
+    return all;
+}
+
+const KeywordSet& keyword_set(Run& run) {
+    if (!run.keywords) run.keywords.emplace(run.column_0());
+    return *run.keywords;
 }
 
 void read_project(Run& run) {

@@ -3,7 +3,11 @@
 
 namespace twk {
 
+class KeywordSet;
 struct Run;
+
+/// The set of the run's keywords.
+const KeywordSet& keyword_set(Run& run);
 
 /// Reads the project's record; the pages' main address is its Target Site URL.
 void read_project(Run& run);

@@ -87,8 +87,8 @@ int hidden_box(Run& run, std::int16_t boxes) {
 
 /// A split box, ready to get sentences.
 const SpacedText& spaced_box(Run& run, int b) {
-    std::shared_ptr<const SpacedText>& kept = run.contenidos_espaciados[static_cast<std::size_t>(b)];
-    if (!kept) kept = std::make_shared<SpacedText>(split_box(run, b));
+    std::unique_ptr<const SpacedText>& kept = run.contenidos_espaciados[static_cast<std::size_t>(b)];
+    if (!kept) kept = std::make_unique<SpacedText>(split_box(run, b));
     return *kept;
 }
 

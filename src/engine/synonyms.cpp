@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/synonyms.h"
 
+#include "engine/counting/scan.h"
 #include "engine/run.h"
-#include "engine/text_toolkit.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"

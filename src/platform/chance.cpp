@@ -7,24 +7,17 @@
 
 namespace twk {
 
-namespace {
-
-constexpr std::uint32_t modulus = 1u << 24;
-
-} // namespace
-
 double Chance::Rnd() {
-    state_ = (state_ * 1140671485u + 12820163u) % modulus;
-    return static_cast<double>(state_) / modulus;
+    return static_cast<double>(generator_()) / modulus;
 }
 
 void Chance::Randomize() {
     if (fixed_) return;
-    state_ = static_cast<std::uint32_t>(std::fmod(clock().Timer() * 1000.0, modulus));
+    generator_.seed(static_cast<std::uint64_t>(clock().Timer() * 1000.0));
 }
 
 void Chance::fix_seed(std::uint64_t seed) {
-    state_ = static_cast<std::uint32_t>(seed % modulus);
+    generator_.seed(seed);
     fixed_ = true;
 }
 

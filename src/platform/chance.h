@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
+#include <random>
 
 namespace twk {
 
@@ -21,7 +21,10 @@ class Chance {
     void release_seed() { fixed_ = false; }
 
   private:
-    std::uint32_t state_ = 0x50000;
+    static constexpr std::uint64_t modulus = 1u << 24;
+    using Generator = std::linear_congruential_engine<std::uint64_t, 1140671485 % modulus, 12820163, modulus>;
+
+    Generator generator_{0x50000};
     bool fixed_ = false;
 };
 

@@ -80,10 +80,7 @@ std::string rounded_digits(double value, int decimals) {
 } // namespace
 
 double Round(double value) {
-    const double whole = std::floor(value);
-    const double part = value - whole;
-    if (part != 0.5) return part > 0.5 ? whole + 1 : whole;
-    return std::fmod(whole, 2.0) == 0 ? whole : whole + 1;
+    return std::nearbyint(value);
 }
 
 double Int(double value) {

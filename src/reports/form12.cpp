@@ -2,7 +2,7 @@
 #include "reports/form12.h"
 
 #include "engine/density.h"
-#include "engine/keyword_counts.h"
+#include "engine/counting/keyword_counts.h"
 #include "engine/run.h"
 #include "engine/text_toolkit.h"
 #include "inputs/form3.h"

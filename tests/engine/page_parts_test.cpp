@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "engine/counting/keyword_counts.h"
 #include "engine/decorations.h"
 #include "engine/first_level.h"
 #include "engine/page_file.h"
@@ -6,7 +7,6 @@
 #include "engine/read_more.h"
 #include "engine/run.h"
 #include "engine/second_level.h"
-#include "engine/surplus.h"
 #include "inputs/form7.h"
 #include "shell/form2.h"
 #include "shell/module1.h"

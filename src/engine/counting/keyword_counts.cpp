@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "engine/keyword_counts.h"
+#include "engine/counting/keyword_counts.h"
 
-#include "engine/run.h"
-#include "engine/surplus.h"
-#include "engine/text_toolkit.h"
+#include "engine/counting/words.h"
 #include "platform/faults.h"
 #include "platform/numbers.h"
 
@@ -43,20 +41,29 @@ bool KeywordSet::same(const std::vector<Text>& keywords) const {
     return true;
 }
 
-const KeywordSet& keyword_set(Run& run) {
-    if (!run.keywords) {
-        std::vector<Text> all;
-        all.reserve(static_cast<std::size_t>(run.n_keywords));
-        for (int k = 0; k < run.n_keywords; ++k) all.push_back(run.tabla_kw.at(k));
-        run.keywords = std::make_shared<KeywordSet>(all);
+void replace_last(Text& text, TextView find, TextView with, int count) {
+    if (count < -1) throw RuntimeFault(fault_argument);
+    if (count == 0 || find.empty()) return;
+    std::vector<std::size_t> all; // overlapping ones among them
+    for (std::size_t at = 0; (at = position(text, find, at)) != TextView::npos; ++at) all.push_back(at);
+    std::vector<std::size_t> places; // from the end
+    for (auto at = all.rbegin(); at != all.rend() && static_cast<int>(places.size()) != count; ++at)
+        if (places.empty() || *at + find.size() <= places.back()) places.push_back(*at);
+    if (places.empty()) return;
+    Text out;
+    out.reserve(text.size());
+    std::size_t from = 0;
+    std::reverse(places.begin(), places.end());
+    for (const std::size_t place : places) {
+        out.append(text, from, place - from).append(with);
+        from = place + find.size();
     }
-    return *run.keywords;
+    text = out.append(text, from);
 }
 
-/// The index is made only of a text that a count leaves alone.
 bool KeywordCounts::ready() {
     if (index_) return true;
-    if (passes_left_ == 0 || !is_settled(text_)) return false;
+    if (passes_left_ == 0 || !survives_a_count(text_)) return false;
     --passes_left_;
     index_.emplace(set_.patterns(), text_);
     return true;
@@ -92,7 +99,7 @@ std::int16_t KeywordCounts::contar(int k, Text& keyword) {
 
 /// What was put in may stand close to a tag, or be, with what is around it, what a count takes away. `places`
 /// are those before the replacement.
-bool KeywordCounts::settled_around(const std::vector<std::size_t>& places, std::size_t old_size,
+bool KeywordCounts::survive_around(const std::vector<std::size_t>& places, std::size_t old_size,
                                    std::size_t new_size) const {
     constexpr std::size_t reach = highlight_opening.size() - 1;
     for (std::size_t i = 0; i < places.size(); ++i) {
@@ -102,7 +109,7 @@ bool KeywordCounts::settled_around(const std::vector<std::size_t>& places, std::
         // Tags at the ends of a part have their blanks outside.
         while (from > 0 && text_[from] == u'<') --from;
         while (end < text_.size() && text_[end - 1] == u'>') ++end;
-        if (!is_settled(TextView(text_).substr(from, end - from))) return false;
+        if (!survives_a_count(TextView(text_).substr(from, end - from))) return false;
     }
     return true;
 }
@@ -118,7 +125,7 @@ void KeywordCounts::replace_last(int k, TextView with, int count) {
     const std::vector<std::size_t> places = index_->from_right(k, most);
     if (places.empty()) return;
     index_->replace(k, places, with);
-    if (!settled_around(places, set_.keyword(k).size(), with.size())) changed();
+    if (!survive_around(places, set_.keyword(k).size(), with.size())) changed();
 }
 
 } // namespace twk

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/pattern_index.h"
+#include "engine/counting/pattern_index.h"
 
 #include <cstdint>
 #include <optional>
 
 /// Counts of many keywords in one text: what `contar_kw` gives for one keyword after the other, from one
-/// pass.
+/// pass. Where that is not certain they fall back on `contar_kw`.
 namespace twk {
 
 /// The keywords that are counted together, in the form that a count leaves them in.
@@ -31,10 +31,9 @@ class KeywordSet {
     std::vector<bool> known_, phrases_;
 };
 
-struct Run;
-
-/// The set of the run's keywords.
-const KeywordSet& keyword_set(Run& run);
+/// Replaces the last `count` occurrences, case-sensitive, looked for from the end: what `plain::replace_last`
+/// gives without reversing the text. 0 leaves the text alone, -1 replaces all, below that is fault 5.
+void replace_last(Text& text, TextView find, TextView with, int count);
 
 /// Counts in one text. Whatever else changes the text makes the object useless.
 class KeywordCounts {
@@ -55,7 +54,7 @@ class KeywordCounts {
     bool ready();
     /// From the index; nothing when matches of a phrase stand close enough to play into each other.
     std::optional<std::int64_t> counted(int k) const;
-    bool settled_around(const std::vector<std::size_t>& places, std::size_t old_size,
+    bool survive_around(const std::vector<std::size_t>& places, std::size_t old_size,
                         std::size_t new_size) const;
 
     const KeywordSet& set_;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "engine/density.h"
-#include "engine/keyword_counts.h"
-#include "engine/run.h"
-#include "engine/surplus.h"
-#include "engine/text_toolkit.h"
-#include "settings/form6.h"
+#include "engine/counting/keyword_counts.h"
+#include "engine/counting/keyword_marks.h"
+#include "engine/counting/plain.h"
+#include "engine/counting/spaced_text.h"
+#include "engine/counting/words.h"
+#include "support/faults.h"
 
 #include <algorithm>
 #include <random>
@@ -60,7 +60,7 @@ class Soup {
 
 } // namespace
 
-/// Longer patterns let the search step further; each place is compared with every pattern here.
+/// Longer patterns let the search step further.
 TEST(PatternSet, FindsWhatComparingEveryPlaceFinds) {
     for (unsigned seed = 0; seed < 500; ++seed) {
         Soup soup(seed);
@@ -77,24 +77,23 @@ TEST(PatternSet, FindsWhatComparingEveryPlaceFinds) {
         const auto from = static_cast<std::size_t>(soup.below(5)), end = text.size() - text.size() / 4;
         std::vector<PatternSet::Hit> hits;
         set.find(text, from, end, hits);
-        std::vector<std::pair<std::size_t, int>> found, wanted;
+        std::vector<std::pair<std::size_t, int>> found;
         for (const PatternSet::Hit& hit : hits) found.emplace_back(hit.at, hit.pattern);
-        for (std::size_t at = from; at < end; ++at)
-            for (int p = 0; p < set.size(); ++p)
-                if (set.findable(p) && TextView(text).substr(at).starts_with(set.pattern(p)))
-                    wanted.emplace_back(at, p);
         std::sort(found.begin(), found.end());
-        ASSERT_EQ(found, wanted) << seed;
+        ASSERT_EQ(found, plain::occurrences(text, patterns, from, end)) << seed;
     }
 }
 
-/// The simple form: one scan for each keyword, and the last ones replaced at once.
-TEST(KeywordCounts, EqualOneCountAfterTheOther) {
+/// Words of texts, and one keyword after the other whose last occurrences are replaced at once.
+TEST(Counts, EqualTheirPlainForm) {
     int replaced = 0;
     for (unsigned seed = 0; seed < 4000; ++seed) {
         Soup soup(seed);
         Text simple = soup.text(5 + soup.below(120));
         Text fast = simple;
+        Text words = simple, simple_words = simple;
+        ASSERT_EQ(contar_palabras(words), plain::contar_palabras(simple_words)) << seed;
+        ASSERT_EQ(words, simple_words) << seed;
         std::vector<Text> simple_keywords = soup.keywords();
         std::vector<Text> fast_keywords = simple_keywords;
         const Text with = soup.substitute();
@@ -103,7 +102,11 @@ TEST(KeywordCounts, EqualOneCountAfterTheOther) {
         KeywordCounts counts(set, fast);
         for (std::size_t k = 0; k < simple_keywords.size(); ++k) {
             const Text before = simple;
-            const std::int16_t n = contar_kw(simple, simple_keywords[k]);
+            Text one_by_one = simple, keyword = simple_keywords[k];
+            const auto n = static_cast<int>(plain::contar_kw(simple, simple_keywords[k]));
+            ASSERT_EQ(contar_kw(one_by_one, keyword), n) << seed << ' ' << k;
+            ASSERT_EQ(one_by_one, simple) << seed << ' ' << k;
+            ASSERT_EQ(keyword, simple_keywords[k]);
             ASSERT_EQ(counts.contar(static_cast<int>(k), fast_keywords[k]), n) << seed << ' ' << k;
             ASSERT_EQ(fast, simple) << seed << ' ' << k;
             ASSERT_EQ(fast_keywords[k], simple_keywords[k]);
@@ -111,7 +114,9 @@ TEST(KeywordCounts, EqualOneCountAfterTheOther) {
                 ASSERT_TRUE(n == 0 && simple == before) << seed << ' ' << k;
             }
             if (simple_keywords[k].empty() || n < kept) continue;
-            replace_last(simple, simple_keywords[k], with, n - kept);
+            plain::replace_last(simple, simple_keywords[k], with, n - kept);
+            replace_last(one_by_one, keyword, with, n - kept);
+            ASSERT_EQ(one_by_one, simple) << seed << ' ' << k;
             counts.replace_last(static_cast<int>(k), with, n - kept);
             ASSERT_EQ(fast, simple) << seed << ' ' << k;
             ++replaced;
@@ -136,25 +141,52 @@ TEST(KeywordCounts, FollowTheirKeywords) {
     EXPECT_EQ(counts.contar(0, keyword), 2);
 }
 
-TEST(HighLight, EqualsOneReplacementAfterTheOther) {
-    Form6 form;
+TEST(KeywordMarks, EqualOneReplacementAfterTheOther) {
+    KeywordMarks marks;
     for (unsigned seed = 0; seed < 2000; ++seed) {
         Soup soup(seed);
-        twk::Run run(form);
         const std::vector<Text> keywords = soup.keywords();
-        run.tabla_kw.resize(static_cast<int>(keywords.size()));
-        for (std::size_t k = 0; k < keywords.size(); ++k)
-            run.tabla_kw.cell(static_cast<int>(k)) = keywords[k];
-        run.n_keywords = static_cast<std::int16_t>(keywords.size());
-        form.settings.hl_abre = soup.below(2) == 0 ? u"<b>" : u" tool ";
-        form.settings.hl_cierra = soup.below(2) == 0 ? u"</b>" : u" shed ";
+        const TextView opening = soup.below(2) == 0 ? u"<b>" : u" tool ";
+        const TextView closing = soup.below(2) == 0 ? u"</b>" : u" shed ";
         const Text text = soup.text(soup.below(100));
-        Text simple = text;
-        for (const Text& keyword : keywords)
-            replace_all(simple, u" " + Trim(keyword) + u" ",
-                        u" " + form.settings.hl_abre + keyword + form.settings.hl_cierra + u" ");
-        ASSERT_EQ(highLight(run, text), simple) << seed;
+        ASSERT_EQ(marks.highLight(text, keywords, opening, closing),
+                  plain::highLight(text, keywords, opening, closing))
+            << seed;
     }
+}
+
+/// Sentences that differ from draw to draw, glued ones and blank-ended ones among them; a text that is used
+/// again and again.
+TEST(SpacedText, GetsItsSentencesAsInTheirPlainForm) {
+    int linked = 0;
+    for (unsigned seed = 0; seed < 3000; ++seed) {
+        Soup soup(seed);
+        const Text text = soup.text(20 + soup.below(200));
+        const Text keyword = soup.keywords().front();
+        const int wanted = soup.below(seed % 3 == 0 ? 60 : 12);
+        int drawn = 0;
+        const LinkingSentences sentences{{u"TOOL", u"ab", u"shed"}, [&drawn] {
+                                             static const Text all[] = {u"<a>one</a>", u" two  tool ", u"x "};
+                                             return all[drawn++ % 3];
+                                         }};
+        const auto with = [&](auto adjust) {
+            drawn = 0;
+            Text out;
+            const int fault = test::fault_of([&] { out = adjust(); });
+            return std::tuple(fault, fault == 0 ? out : Text(), drawn);
+        };
+        Text plain_text = text;
+        std::optional<SpacedText> spaced;
+        const int too_many = test::fault_of([&] { spaced.emplace(text); });
+        ASSERT_EQ(too_many, 0);
+        const auto plain_out =
+            with([&] { return plain::Ajustar_KW(plain_text, keyword, wanted, sentences); });
+        for (int twice = 0; twice < 2; ++twice)
+            ASSERT_EQ(with([&] { return Ajustar_KW(*spaced, keyword, wanted, sentences); }), plain_out)
+                << seed << ' ' << to_utf8(keyword) << ' ' << wanted;
+        linked += std::get<2>(plain_out) > 0 ? 1 : 0;
+    }
+    EXPECT_GT(linked, 500);
 }
 
 } // namespace twk::test

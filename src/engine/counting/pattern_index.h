@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-/// Finds many patterns in one pass over a text.
+/// Finds many patterns in one pass over a text: what `plain::occurrences` finds by looking at every place.
 namespace twk {
 
 /// Patterns of two units or more, by number; shorter ones are never found.
@@ -74,8 +74,6 @@ class PatternIndex {
             visit(hit.at);
         }
     }
-    /// Places of the pattern from the left, none overlapping the one before.
-    std::vector<std::size_t> from_left(int number) const;
     /// Places from the right, at most `most`, none overlapping the one before; the leftmost comes first.
     std::vector<std::size_t> from_right(int number, std::size_t most) const;
     /// Puts `with` in the place of the pattern at places that rise and do not overlap.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/pattern_index.h"
+#include "engine/counting/pattern_index.h"
 
 #include <algorithm>
 #include <utility>
@@ -90,12 +90,6 @@ PatternIndex::PatternIndex(const PatternSet& set, Text& text) : set_(set), text_
 void PatternIndex::count() {
     counts_.assign(static_cast<std::size_t>(set_.size()), 0);
     for (const PatternSet::Hit& hit : hits_) ++counts_[static_cast<std::size_t>(hit.pattern)];
-}
-
-std::vector<std::size_t> PatternIndex::from_left(int number) const {
-    std::vector<std::size_t> places;
-    each_from_left(number, [&places](std::size_t at) { places.push_back(at); });
-    return places;
 }
 
 std::vector<std::size_t> PatternIndex::from_right(int number, std::size_t most) const {

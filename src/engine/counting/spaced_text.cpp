@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "engine/counting/spaced_text.h"
+
+#include "engine/counting/words.h"
+#include "platform/numbers.h"
+#include "platform/subscript.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+
+namespace twk {
+
+namespace {
+
+/// The segments of `Ajustar_KW` while they grow. No blank stands beside another one in `out`: those that the
+/// joints bring go in the end anyway.
+struct Segments {
+    const LinkingSentences& sentences;
+    const std::vector<TextView>& piezas; ///< of one text, single blanks between them
+    std::uint64_t lengths; ///< a bit for the length of each anchor word, the last for all from 63 on
+    int w;
+    Text out{};
+    Text f{}; ///< the sentence chosen last
+
+    static std::uint64_t length_bit(TextView pieza) {
+        return std::uint64_t{1} << std::min<std::size_t>(pieza.size(), 63);
+    }
+
+    bool is_anchor(TextView pieza) const {
+        if ((lengths & length_bit(pieza)) == 0) return false;
+        const char16_t first = lower(pieza.front());
+        for (const TextView ancla : sentences.anchors)
+            if (pieza.size() == ancla.size() && first == lower(ancla.front()) && same_text(pieza, ancla))
+                return true;
+        return false;
+    }
+
+    TextView pieza(std::int64_t p) const { return at(piezas, p); }
+
+    /// Appends the segment from piece `first`, `step` + 1 pieces; false when it was the last one.
+    bool append(std::int64_t first, int step) {
+        const std::int64_t last = first + step;
+        std::int64_t p = first;
+        while (p <= last && !is_anchor(pieza(p))) ++p;
+        if (p > last) { // no anchor word: the last sentence, glued to the last word
+            append_pieces(first, last);
+            append_single(f);
+            return true;
+        }
+        append_pieces(first, p - 1);
+        f = sentences.drawn();
+        append_single(u" ");
+        append_single(f);
+        const bool more = p == last || last < w;
+        append_pieces(p, std::max<std::int64_t>(p, more ? last : w - 1));
+        return more;
+    }
+
+    /// A blank and the pieces `from` to `to`, if there are any.
+    void append_pieces(std::int64_t from, std::int64_t to) {
+        if (from > to) return;
+        const char16_t* const begin = pieza(from).data();
+        const TextView end = pieza(to);
+        if (!out.empty() && out.back() != u' ') out.push_back(u' ');
+        out.append(begin, end.data() + end.size());
+    }
+
+    void append_single(TextView added) {
+        for (const char16_t unit : added)
+            if (unit != u' ' || out.empty() || out.back() != u' ') out.push_back(unit);
+    }
+};
+
+/// Whether `densidad` of a text with single blanks could overflow: occurrences of the keyword, words or their
+/// ratio past 16 bits. "No" is certain, "yes" is not.
+bool densidad_may_overflow(TextView texto, TextView keyword) {
+    constexpr std::int64_t most = 32767;
+    const TextScan scan(texto);
+    const std::int64_t dollars = scan.dollars ? std::count(texto.begin(), texto.end(), u'$') : 0;
+    // Pieces that begin behind a blank: one behind each, but the last.
+    const std::int64_t starts = scan.blanks - (texto.ends_with(u' ') ? 1 : 0);
+    // Once its tags are spaced the text has so many units at most, and so many words at least: every end of a
+    // tag takes one piece, a "$$$" stands for a blank.
+    const std::int64_t units = std::ssize(texto) + 2 * scan.tag_ends;
+    const std::int64_t words = starts - scan.tag_ends - dollars;
+    Text counted = Trim(keyword);
+    const std::int64_t found = units / std::max<std::int64_t>(1, std::ssize(quitar_dobles(counted)));
+    return words < 1 || units / 2 + 1 > most || found > most || found * 100 / words + 1 > most;
+}
+
+/// `densidad` for the sake of its faults; its value is not used.
+void check_densidad(TextView texto, const Text& keyword) {
+    if (!densidad_may_overflow(texto, keyword)) return;
+    Text medida = keyword;
+    densidad(Text(texto), medida);
+}
+
+} // namespace
+
+SpacedText::SpacedText(Text text)
+    : texto(std::move(text)), palabras(contar_palabras(texto)),
+      piezas(split_views(trim_view(quitar_dobles(texto)))) {}
+
+Text Ajustar_KW(const SpacedText& spaced, const Text& keyword, int densidad_pedida,
+                const LinkingSentences& sentences) {
+    if (spaced.piezas.empty() || densidad_pedida < 1) return {};
+    const int w = spaced.palabras;
+    const Text k = Trim(keyword);
+    check_densidad(spaced.texto, k);
+    const double por_cien = CInt(static_cast<double>(densidad_pedida) * w) / 100.0;
+    const int step = w == 0 ? 0 : static_cast<int>(Int(w / por_cien));
+    if (step < 2) return {};
+    std::uint64_t lengths = 0; // none that counts without a keyword
+    if (!k.empty())
+        for (const Text& ancla : sentences.anchors) lengths |= Segments::length_bit(ancla);
+    Segments segments{sentences, spaced.piezas, lengths, w};
+    segments.out.reserve(spaced.texto.size() + spaced.texto.size() / 2);
+    const auto n = static_cast<int>(Int(por_cien - 1));
+    for (int i = 0; i <= n; ++i)
+        if (!segments.append(static_cast<std::int64_t>(i) * step, step)) break;
+    check_densidad(segments.out, k);
+    return Trim(segments.out);
+}
+
+} // namespace twk

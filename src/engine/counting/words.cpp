@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "engine/counting/words.h"
+
+#include "engine/counting/plain.h"
+#include "platform/numbers.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace twk {
+
+namespace {
+
+/// Words of a spaced text: its pieces less those that begin or end a tag.
+std::int64_t words_of_spaced(TextView text, const TextScan& scan) {
+    if (trim_view(text).empty()) return 0;
+    const std::int64_t blanks = scan.blanks - (text.front() == u' ' ? 1 : 0) - (text.back() == u' ' ? 1 : 0);
+    if (scan.tag_ends == 0) return blanks + 1;
+    std::int64_t whole_tags = 0; // pieces that do both
+    for (std::size_t at = 0; (at = position(text, u"<", at)) != TextView::npos;) {
+        at = text.find_first_of(u" >", at);
+        if (at == TextView::npos) break;
+        if (text[at] == u'>') ++whole_tags;
+    }
+    return blanks + 1 - (scan.tag_ends - whole_tags);
+}
+
+std::int16_t as_count(std::int64_t count) {
+    return CInt(static_cast<double>(count));
+}
+
+} // namespace
+
+std::int16_t contar_palabras(Text& texto) {
+    const TextScan scan = space_for_a_count(texto, u"");
+    return as_count(words_of_spaced(texto, scan));
+}
+
+bool are_apart(TextView between, TextView keyword) {
+    const auto blank = [](char16_t c) { return c == u' '; };
+    // The longer step passes over one unit for each blank. A match across both would hold what is between
+    // them in one of its words.
+    return std::ssize(between) >= count_units(keyword, blank) &&
+           (between.size() >= keyword.size() || contains(between, u" "));
+}
+
+namespace {
+
+/// Occurrences without touching the text, where that is certain to give what the plain count gives: nothing
+/// when two matches of a phrase stand so close that the longer step, or a match across both, can play a part.
+std::optional<std::int64_t> count_apart(TextView texto, TextView keyword, bool phrase) {
+    std::int64_t count = 0;
+    std::size_t end = 0;
+    for (std::size_t at = 0; (at = position(texto, keyword, end)) != TextView::npos; ++count) {
+        if (count != 0 && phrase && !are_apart(texto.substr(end, at - end), keyword)) return std::nullopt;
+        end = at + keyword.size();
+    }
+    return count;
+}
+
+} // namespace
+
+std::int16_t contar_kw(Text& texto, Text& keyword) {
+    const TextScan scan = space_for_a_count(texto, u" ");
+    keyword = Trim(LCase(keyword));
+    const bool phrase = contains(keyword, u" ");
+    if (phrase) quitar_dobles(keyword);
+    // A "$" beside a joint would make the joint another one.
+    const bool joints = (scan.dollars && contains(texto, keyword_joint)) || contains(keyword, u"$");
+    if (!joints && keyword.empty()) return 0;
+    const std::optional<std::int64_t> count = joints ? std::nullopt : count_apart(texto, keyword, phrase);
+    return as_count(count ? *count : plain::count_in_spaced(texto, keyword));
+}
+
+double por_ciento(std::int16_t cuenta, std::int16_t palabras) {
+    if (cuenta == 0 || palabras == 0) return 0;
+    return CInt(Replace(Format(Round(cuenta * 100.0 / palabras), u"###,0"), u",", u""));
+}
+
+double densidad(const Text& texto, Text& keyword) {
+    if (trim_view(texto).empty()) return 0;
+    Text copia = texto;
+    const std::int16_t cuenta = contar_kw(copia, keyword);
+    return por_ciento(cuenta, contar_palabras(copia));
+}
+
+double densidad2(std::int16_t cuenta, Text& texto, const Text& keyword) {
+    replace_all(texto, keyword, Replace(keyword, u" ", keyword_joint));
+    const std::int64_t blanks = std::count(texto.begin(), texto.end(), u' ');
+    // One less than the pieces, of which an empty text has none.
+    const double piezas = texto.empty() ? -1 : blanks == 0 ? 1 : static_cast<double>(blanks);
+    const double valor = CInt(static_cast<double>(cuenta) * 100) / piezas;
+    if (valor == 0) return 0;
+    return CInt(Format(valor, u"##.##"));
+}
+
+} // namespace twk
