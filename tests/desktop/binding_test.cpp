@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/qt_text.h"
-#include "every_screen.h"
+#include "support/every_screen.h"
 #include "opened_addresses.h"
 #include "shell/mdi1.h"
 #include "user.h"

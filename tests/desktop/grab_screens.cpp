@@ -3,7 +3,7 @@
 //   grab_screens APPLICATION-FOLDER PICTURE-FOLDER WIDTH HEIGHT [dark]
 #include "desktop/qt_desktop.h"
 #include "desktop/qt_text.h"
-#include "every_screen.h"
+#include "support/every_screen.h"
 #include "shell/mdi1.h"
 
 #include <QApplication>

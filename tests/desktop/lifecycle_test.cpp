@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/qt_text.h"
 #include "engine/run.h"
-#include "every_screen.h"
+#include "support/every_screen.h"
 #include "quit_run.h"
 #include "shell/mdi1.h"
 #include "support/sample_project.h"

@@ -102,6 +102,21 @@ void TempApp::run_unfenced(const std::string& sql) const {
     if (code != SQLITE_OK) throw std::runtime_error(sql + ": " + reason);
 }
 
+std::string TempApp::rows_of(const std::string& sql) const {
+    std::string all;
+    const auto add = [](void* rows, int columns, char** values, char**) {
+        auto& text = *static_cast<std::string*>(rows);
+        if (!text.empty()) text += '|';
+        for (int i = 0; i < columns; ++i)
+            text.append(i > 0 ? "," : "").append(values[i] != nullptr ? values[i] : "null");
+        return 0;
+    };
+    sqlite3* const db = open_store(to_utf8(path(u"hive.mdb")), SQLITE_OPEN_READONLY, "lantern4821");
+    const int code = sqlite3_exec(db, sql.c_str(), add, &all, nullptr);
+    sqlite3_close_v2(db);
+    return code == SQLITE_OK ? all : "error " + std::to_string(code);
+}
+
 std::string TempApp::all_rows() const {
     std::string all;
     const auto add = [](void* rows, int columns, char** values, char**) {

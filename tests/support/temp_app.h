@@ -40,6 +40,8 @@ class TempApp {
     void run_unfenced(const std::string& sql) const;
     /// First column named `column` of the first row, empty when there is none.
     Text value(const Text& statement, TextView column) const;
+    /// What a statement finds in the project store: columns parted by ",", rows by "|".
+    std::string rows_of(const std::string& sql) const;
     /// All rows of the project store, one a line.
     std::string all_rows() const;
     int count(const Text& statement) const { return hive().OpenRecordset(statement).RecordCount(); }

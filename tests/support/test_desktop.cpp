@@ -18,6 +18,9 @@ TestDesktop::~TestDesktop() {
 void TestDesktop::expect(Text part, Answer answer) {
     expected_.push_back({std::move(part), answer});
 }
+void TestDesktop::expect_exactly(Text text, Answer answer) {
+    expected_.push_back({std::move(text), answer, true});
+}
 void TestDesktop::always(Text part, Answer answer) {
     always_.push_back({std::move(part), answer});
 }
@@ -29,13 +32,13 @@ const Text& TestDesktop::last_message() const {
 
 Answer TestDesktop::MsgBox(const Message& message) {
     messages.push_back(message);
-    if (!expected_.empty() && contains(message.text, expected_.front().part)) {
+    if (!expected_.empty() && expected_.front().fits(message.text)) {
         const Answer answer = expected_.front().answer;
         expected_.pop_front();
         return answer;
     }
     for (const Script& script : always_)
-        if (contains(message.text, script.part)) return script.answer;
+        if (script.fits(message.text)) return script.answer;
     ADD_FAILURE() << "unexpected message: " << to_utf8(message.text)
                   << (expected_.empty() ? "" : "\n  expected: " + to_utf8(expected_.front().part));
     switch (message.buttons) {

@@ -19,6 +19,10 @@ class TestDesktop : public Desktop {
 
     /// The next message must contain `part`; it gets `answer`.
     void expect(Text part, Answer answer = Answer::ok);
+    /// The next message must be this text to the letter.
+    void expect_exactly(Text text, Answer answer);
+    /// Whether every expected message has come.
+    bool all_said() const { return expected_.empty(); }
     /// From now on every message that contains `part` gets `answer`, however often; expected ones go first.
     void always(Text part, Answer answer);
 
@@ -72,6 +76,8 @@ class TestDesktop : public Desktop {
     struct Script {
         Text part;
         Answer answer;
+        bool whole = false;
+        bool fits(const Text& text) const { return whole ? text == part : contains(text, part); }
     };
     std::deque<Script> expected_;
     std::vector<Script> always_;
