@@ -3,6 +3,8 @@
 
 #include "platform/text.h"
 
+#include <cstdint>
+
 namespace twk {
 
 struct Run;

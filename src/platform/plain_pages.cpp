@@ -13,12 +13,12 @@ namespace {
 /// Whether a text holds no white space but single blanks.
 bool single_blanks(TextView text) {
     const auto other_blank = [](char16_t c) {
-        return (c == u'\t') | (c == u'\n') | (c == u'\r') | (c == u'\f');
+        return int{c == u'\t'} | int{c == u'\n'} | int{c == u'\r'} | int{c == u'\f'};
     };
-    unsigned short other = !text.empty() && other_blank(text.front()) ? 1 : 0;
+    unsigned short other = !text.empty() && other_blank(text.front()) != 0 ? 1 : 0;
     for (std::size_t i = 1; i < text.size(); ++i)
         other = static_cast<unsigned short>(other | other_blank(text[i]) |
-                                            ((text[i - 1] == u' ') & (text[i] == u' ')));
+                                            (int{text[i - 1] == u' '} & int{text[i] == u' '}));
     return other == 0;
 }
 

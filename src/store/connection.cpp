@@ -22,8 +22,6 @@ struct JoinDelete {
 
 namespace {
 
-constexpr int busy_milliseconds = 5000;
-
 std::string lower_case(std::string name) {
     std::transform(name.begin(), name.end(), name.begin(), [](unsigned char c) { return std::tolower(c); });
     return name;
@@ -77,7 +75,6 @@ std::optional<JoinDelete> parse_join_delete(const std::string& statement) {
 
 Connection::Connection(const std::string& file, bool read_only, const std::string& key)
     : db_(open_store(file, read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE, key)) {
-    sqlite3_busy_timeout(db_, busy_milliseconds);
     sqlite3_set_authorizer(db_, authorize, nullptr);
 }
 

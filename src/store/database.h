@@ -121,7 +121,8 @@ class WriteTogether {
 };
 
 /// Opens a store file; nothing is ever created. `connect` is "" or ";pwd=" and the password. Fault 3024 when
-/// the file is missing, 3031 when the password does not open it, 3343 when it is no store.
+/// the file is missing, 3031 when the password does not open it, 3260 when another process holds
+/// it for more than five seconds, 3343 when it is no store.
 Database OpenDatabase(const Text& path, bool exclusive, bool read_only, const Text& connect = {});
 
 } // namespace twk

@@ -57,7 +57,7 @@ Text& quitar_dobles(Text& texto) {
     const auto doubled = [](char16_t a, char16_t b) { return a == u' ' && b == u' '; };
     unsigned short found = 0;
     for (std::size_t i = 1; i < texto.size(); ++i)
-        found = static_cast<unsigned short>(found | ((texto[i - 1] == u' ') & (texto[i] == u' ')));
+        found = static_cast<unsigned short>(found | (int{texto[i - 1] == u' '} & int{texto[i] == u' '}));
     if (found != 0) texto.erase(std::unique(texto.begin(), texto.end(), doubled), texto.end());
     return texto;
 }
