@@ -1,9 +1,10 @@
 # SPDX-License-Identifier: MIT
-# Sourced by run.sh and test.sh: sees to the Debian packages that they need.
+# Sourced by run.sh, test.sh and .ci/run: sees to the Debian packages that they need.
 
 build_packages="g++ cmake ninja-build pkg-config libsqlcipher-dev libgumbo-dev libcli11-dev nlohmann-json3-dev
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-webengine-dev"
 test_packages="libgtest-dev libbenchmark-dev python3"
+check_packages="clang clang-format cppcheck"
 
 # install_missing PACKAGE...: installs what is not there, as root or through sudo.
 install_missing() {

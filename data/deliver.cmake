@@ -4,7 +4,7 @@
 cmake_policy(VERSION 3.25)
 
 file(GLOB_RECURSE pictures RELATIVE ${SOURCES} ${SOURCES}/Images/* ${SOURCES}/swf/*)
-foreach(name twk.dat TIPOFDAY.TXT help.htm ${pictures})
+foreach(name twk.dat garden-sample.dat TIPOFDAY.TXT help.htm ${pictures})
   list(APPEND delivered "${SOURCES}/${name}" "${name}")
 endforeach()
 foreach(name hive.mdb synonyms.mdb)

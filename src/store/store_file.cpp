@@ -84,6 +84,8 @@ Opened try_open(const std::string& name, int flags, const std::string& key, Ciph
     if (opened.code != SQLITE_OK) return opened;
     sqlite3_busy_timeout(opened.db, busy_milliseconds);
     sqlite3_create_collation_v2(opened.db, "NOCASE", SQLITE_UTF8, nullptr, compare_texts, nullptr);
+    // Later libraries tell of a key that does not fit on the standard error; here it is a fault.
+    run_own(opened.db, "PRAGMA cipher_log_level = NONE");
     if (!key.empty() &&
         !(run_own(opened.db, "PRAGMA key = " + quoted(key)) && set_form(opened.db, "main", form))) {
         opened.code = SQLITE_ERROR;

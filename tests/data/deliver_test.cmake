@@ -14,7 +14,7 @@ function(deliver)
 endfunction()
 
 deliver()
-foreach(name hive.mdb synonyms.mdb twk.dat TIPOFDAY.TXT help.htm swf/twk.swf Images/templates/template2_back.gif)
+foreach(name hive.mdb synonyms.mdb twk.dat garden-sample.dat TIPOFDAY.TXT help.htm swf/twk.swf Images/templates/template2_back.gif)
   if(NOT EXISTS "${folder}/${name}")
     message(SEND_ERROR "${name} was not delivered")
   endif()
