@@ -179,6 +179,20 @@ TEST_F(CommandLine, GenerateWritesTheSampleAndTellsPagesBytesAndSeconds) {
     EXPECT_FALSE(app.exists(u"garden-sample.fnm")) << "the question whether to save the names gets a No";
 }
 
+TEST_F(CommandLine, TheDeliveredStrategyFillsTheRandomPagesOfTheSample) {
+    fs::copy_file(fs::path(TEST_DATA_DIR) / "garden-sample.dat", app.folder() / "garden-sample.dat");
+    ASSERT_EQ(generate().status, 0);
+    int filled = 0;
+    for (const auto& [path, content] : output()) {
+        if (!path.ends_with(".htm") || path.ends_with("index.htm") ||
+            path.starts_with("pages.greenspade.example/"))
+            continue;
+        EXPECT_NE(content.find("<!-- Still Info -->"), std::string::npos) << path << " has no body";
+        ++filled;
+    }
+    EXPECT_EQ(filled, 9) << "10 pages over three destinations, the remainder left out";
+}
+
 TEST_F(CommandLine, OneSeedAndMomentGiveTheSameBytesTwice) {
     ASSERT_EQ(generate().status, 0);
     const auto first = output();
