@@ -89,12 +89,11 @@ void densidad_of_raw_text(benchmark::State& state) {
 /// Without anchor words: the linking sentences would need the screens of a project.
 void Ajustar_KW_at_one_per_cent(benchmark::State& state) {
     Form6 form;
-    Run run(form);
     const Text text = page_text(state.range(0), false);
     const Text keyword = u"red roses";
     for (auto _ : state) {
         Text copy = text;
-        benchmark::DoNotOptimize(Ajustar_KW(run, copy, keyword, 1));
+        benchmark::DoNotOptimize(Ajustar_KW(form.choices, copy, keyword, 1));
     }
     tell(state);
 }

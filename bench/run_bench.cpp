@@ -206,8 +206,8 @@ bool timed_run(const Size& size, const Options& options) {
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
     getrusage(RUSAGE_SELF, &after);
     const double processor = processor_seconds(after) - processor_seconds(before);
-    const auto pages = static_cast<long long>(form.run->pages_written);
-    const auto bytes = static_cast<double>(form.run->bytes_written);
+    const auto pages = static_cast<long long>(form.run->page.pages_written);
+    const auto bytes = static_cast<double>(form.run->page.bytes_written);
     const double resident = static_cast<double>(after.ru_maxrss) / 1024;
     if (!options.value("--line").empty())
         std::printf("%lld %.0f %.3f %.3f %.0f\n", pages, bytes, seconds.count(), processor, resident);

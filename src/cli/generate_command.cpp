@@ -62,7 +62,7 @@ Status generate_project(const Console& console, const std::filesystem::path& app
             console.out << failure_json(options.project, status, messages.empty() ? Text() : messages.back());
         return status;
     }
-    ClosingFigures figures = measure_output(screen<Form6>().run->project_folder);
+    ClosingFigures figures = measure_output(screen<Form6>().run->plan.project_folder);
     figures.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     if (!session.desktop.opened().empty())
         figures.site_map = from_utf8(disk_path(session.desktop.opened())); // in the case that it has on disk

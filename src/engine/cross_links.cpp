@@ -5,65 +5,59 @@
 #include "engine/run.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
-#include "reports/form12.h"
 
 namespace twk {
 
 namespace {
 
-Text sibling_link(const Run& run, const Text& file) {
-    return u"<a href=\"" + file + u"\">" + Replace(Replace(file, run.extension, u""), u"_", u" ") +
-           u"</a> | ";
+Text sibling_link(const Plan& plan, const Text& file) {
+    return fill(uR"(<a href="{1}">{2}</a> | )", file,
+                Replace(Replace(file, plan.extension, u""), u"_", u" "));
 }
 
-void append_links(Run& run, const Text& path, bool index) {
-    run.fence->check(path);
+void append_links(OpenPage& page, const Text& path, const Text& links, bool index) {
+    page.fence->check(path);
     const std::int64_t before = FileLen(path);
-    const Text& links = run.lista_enlaces;
-    TextStreamPtr page = run.fso.OpenTextFile(path, OpenMode::appending, false, TextKind::page);
+    TextStreamPtr file = page.fso.OpenTextFile(path, OpenMode::appending, false, TextKind::page);
     if (index)
-        page->writeline(u"<br><h3><li>" + Replace(Left(links, Len(links) - 2), u"|", u" <li> ") + u"</h3>");
+        file->writeline(fill(u"<br><h3><li>{1}</h3>", Replace(Left(links, Len(links) - 2), u"|", u" <li> ")));
     else
-        page->writeline(u"<br><br>" + links);
-    page->writeline(u"<br><br><br><br><br>");
-    page->writeline(u"</body></html>");
-    run.ultimo_texto = page->close_and_read();
-    run.ultima_pagina = path;
-    run.bytes_written += page->size() - before;
+        file->writeline(fill(u"<br><br>{1}", links));
+    file->writeline(u"<br><br><br><br><br>");
+    file->writeline(u"</body></html>");
+    page.ultimo_texto = file->close_and_read();
+    page.ultima_pagina = path;
+    page.bytes_written += file->size() - before;
 }
 
 /// The report gets the link that the last written page left, whatever this page holds.
 void report_page(Run& run, const Text& path, const Text& file) {
     if (run.enlace_padre.empty()) run.enlace_padre = u"Not linking to any Main Target page.";
-    run.es_redireccion = file.ends_with(u"_js" + run.extension) ? u"YES" : u"NO";
-    run.nota_informe.clear();
-    analizar_pagina(run, path, u"");
+    analizar_pagina(run, path, file.ends_with(u"_js" + run.plan.extension) ? u"YES" : u"NO");
 }
 
 void move_progress(Run& run, int position) {
-    const double pages = Val(run.form.Combo2.text());
+    const double pages = Val(run.choices.random_pages());
     if (pages == 0) return;
-    ProgressBar& progress = screen<Form12>().ProgressBar1;
-    progress.set_value(progress.value() + Int((100 - progress.value() - 2) / pages) * position);
+    const double now = run.report.progress();
+    run.report.set_progress(now + Int((100 - now - 2) / pages) * position);
 }
 
 } // namespace
 
-void cross_link_pass(Run& run) {
-    FileListBox& lister = run.form.File1;
-    lister.set_path(run.carpeta);
-    lister.set_pattern(u"*.htm*");
-    const std::vector<Text> files = lister.entries();
-    for (const Text& file : files) run.lista_enlaces += sibling_link(run, file);
+void cross_link_pass(Run& run, const Text& folder) {
+    const std::vector<Text> files = run.choices.files_in(folder, u"*.htm*");
+    Text links;
+    for (const Text& file : files) links += sibling_link(run.plan, file);
     int position = 0;
     for (const Text& file : files) {
-        const Text path = run.carpeta + Text(path_separator) + file;
-        run.pagina_actual = path;
-        append_links(run, path, file == u"index" + run.extension);
+        const Text path = folder + Text(path_separator) + file;
+        run.page.pagina_actual = path;
+        append_links(run.page, path, links, file == u"index" + run.plan.extension);
+        run.page.pagina_actual.clear();
         report_page(run, path, file);
         move_progress(run, position++);
     }
-    run.lista_enlaces.clear();
 }
 
 } // namespace twk

@@ -6,9 +6,10 @@
 #include "engine/run.h"
 #include "engine/text_toolkit.h"
 #include "platform/chance.h"
-#include "platform/faults.h"
 #include "platform/numbers.h"
 #include "platform/subscript.h"
+
+#include <algorithm>
 
 namespace twk {
 
@@ -17,44 +18,41 @@ namespace {
 constexpr int sentences_in_use = 10; ///< the eleventh is kept, and never picked
 constexpr int kept_pieces = 500;
 
-/// At most one replacement is made: the box is switched off by the first pass and on again at the end.
-Text limit_repetitions(Run& run, Text t, const Text& keyword) {
-    CheckBox& limit = run.form.Check8;
+/// At most one replacement is made: the choice is switched off by the first pass and on again at the end.
+Text limited(Run& run, Text t, const Text& keyword) {
+    const GatewaySettings& s = run.settings;
     Text medida = keyword;
     contar_kw(t, medida); // spaces the tags
     for (int c = 1;; ++c) {
-        const bool on = limit.value();
-        Text del_indice = run.tabla_kw.at(run.indice_kw);
+        const bool on = run.choices.limit_repetitions();
+        Text del_indice = run.keyword();
         const std::int16_t n = contar_kw(t, del_indice);
-        if (n <= run.settings.max_repeticiones || !on) break;
+        if (n <= s.max_repeticiones || !on) break;
         Text r;
-        if (contains(Right(t, 100 * c), keyword)) {
-            r = Replace(Right(t, 50 * c), u" " + keyword + u" ", u" " + run.settings.kw_sustituto + u" ", 1);
-        }
+        if (contains(Right(t, 100 * c), keyword))
+            r = Replace(Right(t, 50 * c), fill(u" {1} ", keyword), fill(u" {1} ", s.kw_sustituto), 1);
         // Without the keyword at the end the text just loses its last 50 units, inside a tag or not.
         if (50 * c < Len(t)) t = Left(t, Len(t) - 50 * c) + r;
-        limit.value = false;
+        run.choices.set_limit_repetitions(false);
     }
-    limit.value = true;
+    run.choices.set_limit_repetitions(true);
     return t;
 }
 
 /// A sentence of the settings with its link and keyword; drawn again while the drawn one is blank. A new
 /// address is drawn for every try.
-Text linking_sentence(Run& run, const Text& keyword) {
-    bool any = false;
-    for (int i = 0; i < sentences_in_use; ++i)
-        any = any || !run.settings.frases_link[static_cast<std::size_t>(i)].empty();
-    if (!any)
+Text linking_sentence(const PageChoices& choices, const Text& keyword) {
+    const auto& sentences = choices.settings().frases_link;
+    const auto filled = [](const Text& sentence) { return !sentence.empty(); };
+    if (std::none_of(sentences.begin(), sentences.begin() + sentences_in_use, filled))
         throw RuntimeFault(
             fault_project_lacks,
             u"The settings hold no sentence to insert: the first ten entries of 6.c are empty.");
     for (;;) {
         const int a = xrnum(sentences_in_use);
-        const Text u = target(run);
-        Text f = Replace(run.settings.frases_link[static_cast<std::size_t>(a)], u"*LINK*",
-                         u"<a href=\"" + u + u"\">" + keyword + u"</a>");
-        replace_all(f, u"*KEYWORD*", u" " + Trim(keyword) + u" ");
+        Text f =
+            Replace(at(sentences, a), u"*LINK*", fill(uR"(<a href="{1}">{2}</a>)", target(choices), keyword));
+        replace_all(f, u"*KEYWORD*", fill(u" {1} ", trim_view(keyword)));
         if (!f.empty()) return f;
     }
 }
@@ -62,29 +60,28 @@ Text linking_sentence(Run& run, const Text& keyword) {
 } // namespace
 
 Text recalcular(Run& run, const Text& texto, const Text& keyword) {
-    Form6& form = run.form;
+    PageChoices& choices = run.choices;
     Text t = texto;
     Text medida = keyword;
     contar_kw(t, medida); // spaces the tags
-    if (form.Check10.value()) t = pocas_palabras(run, t);
-    if (form.Check11.value()) t = muchas_palabras(run, t);
+    if (choices.grow_short_texts()) t = pocas_palabras(run.boxes, run.settings, t);
+    if (choices.cut_long_texts()) t = muchas_palabras(run, t);
     if (!trim_view(t).empty()) {
-        const std::int16_t d = CInt(form.Combo9.text());
+        const int d = CInt(choices.keyword_density());
         Text s = u"<p>" + t + u"<p>";
-        t = Ajustar_KW(run, s, keyword, d);
+        t = Ajustar_KW(choices, s, keyword, d);
         replace_all(t, u"...-", u"...");
     }
-    if (!form.Check8.value()) return t;
-    return limit_repetitions(run, std::move(t), keyword);
+    if (!choices.limit_repetitions()) return t;
+    return limited(run, std::move(t), keyword);
 }
 
-Text pocas_palabras(Run& run, Text& texto) {
+Text pocas_palabras(const Boxes& boxes, const GatewaySettings& settings, Text& texto) {
     std::int16_t w = contar_palabras(texto);
-    for (int tries = 0; w < run.settings.min_palabras && tries < 5; ++tries) {
-        const int need = run.settings.min_palabras - w;
+    for (int tries = 0; w < settings.min_palabras && tries < 5; ++tries) {
+        const int need = settings.min_palabras - w;
         // The last box is never drawn.
-        const auto index = static_cast<int>(Int(chance().Rnd() * run.ultima_caja));
-        const Text& b = run.box(index);
+        const Text& b = boxes.box(static_cast<int>(Int(chance().Rnd() * boxes.ultima_caja)));
         if (!trim_view(b).empty()) texto += u" " + cortar_palabras(b, need + 1);
         w = contar_palabras(texto);
     }
@@ -96,28 +93,26 @@ Text muchas_palabras(Run& run, Text& texto) {
     const Text recortado = Trim(texto);
     const std::vector<TextView> piezas = split_views(recortado);
     texto.clear();
-    for (int i = 0; i < kept_pieces; i += 10) {
-        if (piezas.size() < static_cast<std::size_t>(i) + 10) throw RuntimeFault(fault_subscript);
-        for (int j = i; j < i + 10; ++j) texto.append(1, u' ').append(piezas[static_cast<std::size_t>(j)]);
-        texto = Trim(texto);
-    }
+    for (int i = 0; i < kept_pieces; ++i) texto.append(1, u' ').append(at(piezas, i));
+    texto = Trim(texto);
     texto = fs_rm(run, texto);
     return texto;
 }
 
-Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, int densidad_pedida) {
+Text Ajustar_KW(const PageChoices& choices, Text& texto, const Text& keyword, int densidad_pedida) {
     if (trim_view(texto).empty() || densidad_pedida < 1) return {};
     SpacedText spaced(std::move(texto));
-    Text out = Ajustar_KW(run, spaced, keyword, densidad_pedida);
+    Text out = Ajustar_KW(choices, spaced, keyword, densidad_pedida);
     texto = std::move(spaced.texto);
     return out;
 }
 
-Text Ajustar_KW(Run& run, const SpacedText& spaced, const Text& keyword, int densidad_pedida) {
+Text Ajustar_KW(const PageChoices& choices, const SpacedText& spaced, const Text& keyword,
+                int densidad_pedida) {
     const Text k = Trim(keyword);
-    LinkingSentences sentences{{}, [&] { return linking_sentence(run, k); }};
+    LinkingSentences sentences{{}, [&] { return linking_sentence(choices, k); }};
     for (int i = 0; i < sentences_in_use; ++i)
-        if (Text ancla = Trim(at(run.settings.palabras_ancla, i)); !ancla.empty())
+        if (Text ancla = Trim(at(choices.settings().palabras_ancla, i)); !ancla.empty())
             sentences.anchors.push_back(std::move(ancla));
     return Ajustar_KW(spaced, k, densidad_pedida, sentences);
 }
@@ -126,8 +121,8 @@ int xrnum2(int n) {
     return xrnum(n);
 }
 
-Text highLight(Run& run, TextView texto) {
-    return run.marks.highLight(texto, run.column_0(), run.settings.hl_abre, run.settings.hl_cierra);
+Text highLight(Project& project, const GatewaySettings& settings, TextView texto) {
+    return project.marks.highLight(texto, project.keywords(), settings.hl_abre, settings.hl_cierra);
 }
 
 namespace {
@@ -157,9 +152,9 @@ struct FileNameUnits {
 
 } // namespace
 
-Text rspaces(const Form6& form, TextView texto) {
+Text rspaces(const PageChoices& choices, TextView texto) {
     // The separator itself passes through the later replacements, as it stands in the text by then.
-    const Text separado = Replace(texto, u" ", form.Combo6.text());
+    const Text separado = Replace(texto, u" ", choices.word_separator());
     Text out;
     out.reserve(separado.size());
     for (const char16_t unit : separado)

@@ -3,45 +3,45 @@
 
 #include "engine/counting/spaced_text.h"
 
-#include <cstdint>
-#include <vector>
-
 /// Brings a content box to about the word count and keyword density asked for, marks keywords, and makes file
 /// names. Density is reached by adding sentences at even steps; what the text has already is not measured.
 namespace twk {
 
-class Form6;
+class PageChoices;
+struct Boxes;
+struct GatewaySettings;
+struct Project;
 struct Run;
 
 /// The driver: grows a short text, moves a long one to a read-more page, spreads the linking sentences, and
-/// limits repetitions, each as the controls of Step 5 say. Faults 6, 9 and 13 come out; 1001 when the
-/// sentences of the settings are all empty.
+/// limits repetitions, each as Step 5 says. Faults 6, 9 and 13 come out; 1001 when the sentences of the
+/// settings are all empty.
 Text recalcular(Run& run, const Text& texto, const Text& keyword);
 
 /// Adds words from drawn boxes while the text has fewer than `min_palabras`, five times at most. In place.
-Text pocas_palabras(Run& run, Text& texto);
+Text pocas_palabras(const Boxes& boxes, const GatewaySettings& settings, Text& texto);
 
 /// Cuts a text of more than `max_palabras` words to its first 500 pieces, which go to a read-more page. In
 /// place. Fault 9 when there are fewer pieces.
 Text muchas_palabras(Run& run, Text& texto);
 
-/// The text in segments of about 100 / `densidad` pieces, each with a sentence that links the keyword in
-/// front of its first anchor word. Empty when the text is, when `densidad` is below 1, or above 50. The
+/// The text in segments of about 100 / `densidad_pedida` pieces, each with a sentence that links the keyword
+/// in front of its first anchor word. Empty when the text is, when the density is below 1, or above 50. The
 /// argument gets its tags spaced; a fault leaves it empty. Faults 6 (words times density past 16 bits), 9 (an
 /// anchor word past the last piece), 1001.
-Text Ajustar_KW(Run& run, Text& texto, const Text& keyword, int densidad_pedida);
-
-/// The same for such a text.
-Text Ajustar_KW(Run& run, const SpacedText& spaced, const Text& keyword, int densidad_pedida);
+Text Ajustar_KW(const PageChoices& choices, Text& texto, const Text& keyword, int densidad_pedida);
+/// The same for a text that is ready to get sentences.
+Text Ajustar_KW(const PageChoices& choices, const SpacedText& spaced, const Text& keyword,
+                int densidad_pedida);
 
 /// The draw of `xrnum`.
 int xrnum2(int n);
 
 /// Marks every keyword that stands between blanks, in its own case.
-Text highLight(Run& run, TextView texto);
+Text highLight(Project& project, const GatewaySettings& settings, TextView texto);
 
 /// A text made fit for a file name: separator for blanks, plain letters, lower case. "}", ",", "/", "\" and
 /// "." pass through.
-Text rspaces(const Form6& form, TextView texto);
+Text rspaces(const PageChoices& choices, TextView texto);
 
 } // namespace twk

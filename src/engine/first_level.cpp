@@ -4,175 +4,165 @@
 #include "engine/decorations.h"
 #include "engine/density.h"
 #include "engine/fragments.h"
-#include "engine/generation.h"
-#include "engine/page_file.h"
+#include "engine/layouts.h"
 #include "engine/page_head.h"
 #include "engine/page_report.h"
 #include "engine/run.h"
-#include "engine/templates.h"
 #include "engine/text_toolkit.h"
 #include "platform/chance.h"
 #include "platform/desktop.h"
 #include "platform/name_index.h"
 #include "platform/numbers.h"
-#include "reports/form12.h"
+#include "platform/subscript.h"
 
 namespace twk {
 
 namespace {
 
-void write_title(Run& run, const Text& keyword) {
+/// Leaves the keyword as the count of its words does, for the head and the headings of the page.
+void write_title(Run& run, Text& keyword) {
     const GatewaySettings& s = run.settings;
-    Text contado = keyword;
-    const bool alone = contar_palabras(contado) >= s.palabras_minimas;
+    const Proyecto& p = run.project.proyecto;
+    const bool alone = contar_palabras(keyword) >= s.palabras_minimas;
     const Text title =
         alone ? keyword
-              : cortar_palabras(keyword + u" " + run.proyecto.site_name + u" " + run.proyecto.category,
-                                s.palabras_extracto);
-    run.writeline(u"<html><head><title>" + title + u"</title>");
+              : cortar_palabras(keyword + u" " + p.site_name + u" " + p.category, s.palabras_extracto);
+    run.page.writeline(u"<html><head><title>{1}</title>", title);
 }
 
 void write_page(Run& run) {
     const NameIndex::SteadyFolders steady;
-    const Text keyword = run.tabla_kw.at(run.indice_kw);
-    const Text file = rspaces(run.form, keyword) + run.extension;
-    const Text path = run.main_folder + Text(path_separator) + file;
-    open_page(run, path);
+    Text keyword = run.keyword();
+    const Text path = run.plan.in_main_folder(rspaces(run.choices, keyword) + run.plan.extension);
+    OpenPage& page = run.page;
+    page.open(path);
     write_title(run, keyword);
-    meta(run, keyword, run.lista_kw);
-    run.writeline(u"");
-    run.writeline(body(run));
-    switch (template_index(run)) {
-    case 0: first_level_no_table(run); break;
-    case 1: first_level_table1(run); break;
-    case 2: first_level_table2(run); break;
-    case 3: first_level_table3(run); break;
-    default: break; // no template chosen: a page without a middle
+    meta(page, run.choices, run.project, keyword, run.lista_kw);
+    page.writeline(u"");
+    page.writeline(body(run.choices, run.fase));
+    switch (run.choices.layout()) {
+    case Layout::no_table: first_level_no_table(run, keyword); break;
+    case Layout::table_1: first_level_table1(run, keyword); break;
+    case Layout::table_2: first_level_table2(run, keyword); break;
+    case Layout::table_3: first_level_table3(run, keyword); break;
+    case Layout::none: break; // a page without a middle
     }
-    run.writeline(u"</body></html>");
-    close_page(run, path);
-    analizar_pagina(run, path, main_host(run) + u"/" + file);
-    ProgressBar& progress = screen<Form12>().ProgressBar1;
-    progress.set_value(progress.value() + Int(25.0 / run.n_keywords) / 1.7);
+    page.writeline(u"</body></html>");
+    page.close();
+    analizar_pagina(run, path);
+    run.report.set_progress(run.report.progress() + Int(25.0 / run.project.n_keywords) / 1.7);
 }
 
 /// Text of the box that the keyword's ties lead to; nothing when it has none.
 std::optional<Text> tied_text(Run& run, const Text& keyword) {
-    const Text pid = to_text(run.form.pid_form);
-    Recordset tie =
-        run.base_datos.OpenRecordset(u"select * from ties , keywords where ties.pid = " + pid +
-                                     u" and ties.keyid = keywords.keyid and keywords.keyword = '" + keyword +
-                                     u"' and keywords.pid = " + pid);
+    const Text pid = to_text(run.choices.project_key());
+    Database& store = run.project.base_datos;
+    Recordset tie = store.OpenRecordset(u"select * from ties , keywords where ties.pid = " + pid +
+                                        u" and ties.keyid = keywords.keyid and keywords.keyword = '" +
+                                        keyword + u"' and keywords.pid = " + pid);
     if (tie.eof()) return std::nullopt;
     Text text;
-    for (Recordset box = run.base_datos.OpenRecordset(u"select  *  from content where cid = " +
-                                                      to_text(CInt(tie.Fields(u"cid").number())));
+    for (Recordset box = store.OpenRecordset(u"select  *  from content where cid = " +
+                                             to_text(CInt(tie.Fields(u"cid").number())));
          !box.eof(); box.MoveNext())
         text = box.Fields(u"content").text();
     return text;
 }
 
 /// Box for a keyword without a tie.
-int chosen_box(Run& run, int k) {
+int chosen_box(const Boxes& boxes, int k) {
     int b = 0;
-    for (int i = 0; i <= run.ultima_caja;
-         ++i) // the density is compared with the index held, not with a density
-        if (run.densidades[static_cast<std::size_t>(i)].at(static_cast<std::size_t>(k)) > b) b = i;
-    if (b == 0) b = static_cast<int>(Int(chance().Rnd() * run.ultima_caja));
+    for (int i = 0; i <= boxes.ultima_caja; ++i)
+        if (at(at(boxes.densidades, i), k) > b) b = i; // compared with the box held, not with its density
+    if (b == 0) b = static_cast<int>(Int(chance().Rnd() * boxes.ultima_caja));
     return b;
 }
 
 } // namespace
 
-Text joined_keywords(const Run& run) {
-    Text list;
-    int r = 0;
-    do list += u" , " + run.tabla_kw.at(r++);
-    while (!trim_view(run.tabla_kw.at(r)).empty());
-    return list;
-}
-
 void first_level_pages(Run& run) {
     run.indice_kw = 0;
     do {
         if (trim_view(run.lista_kw).empty()) {
-            run.lista_kw = joined_keywords(run);
+            run.lista_kw = run.project.joined_keywords();
             if (Len(run.lista_kw) > 3 && run.lista_kw.starts_with(u" , "))
                 run.lista_kw = Trim(Mid(run.lista_kw, 4));
         }
         write_page(run);
         ++run.indice_kw;
-    } while (!run.tabla_kw.at(run.indice_kw).empty());
+    } while (!run.keyword().empty());
 }
 
-Text TP1_linktoprimary(Run& run) {
-    Text s = font_line(run) + u"<br>" + run.settings.frases[1] + u"<br><h3>";
+Text TP1_linktoprimary(const Run& run) {
+    const GatewaySettings& s = run.settings;
+    Text list = fill(u"{1}<br>{2}<br><h3>", font_line(run.choices), s.frases[1]);
     int i = 0;
     do {
-        const Text& keyword = run.tabla_kw.at(i);
-        s += to_text(i + 1) + u". <a href=\"" + rspaces(run.form, keyword) + run.extension + u"\"><b>" +
-             keyword + u"</b></a><br>";
+        const Text& keyword = run.project.tabla_kw.at(i);
+        list += fill(uR"({1}. <a href="{2}{3}"><b>{4}</b></a><br>)", to_text(i + 1),
+                     rspaces(run.choices, keyword), run.plan.extension, keyword);
         ++i;
-    } while (!run.tabla_kw.at(i).empty());
-    s += u"</h3><br>";
-    return s + u"<font color=\"" + run.form.Text4.text() + u"\"size=3>" + run.settings.frases[2] +
-           u":</font>";
+    } while (!run.project.tabla_kw.at(i).empty());
+    return list +
+           fill(uR"(</h3><br><font color="{1}"size=3>{2}:</font>)", run.choices.font_colour(), s.frases[2]);
 }
 
-Text TP1_linktosecondary(Run& run) {
-    const Text keyword = rspaces(run.form, run.tabla_kw.at(run.indice_kw));
-    const Text separator = Trim(run.form.Combo6.text());
-    Text s;
+Text TP1_linktosecondary(const Run& run) {
+    const Text keyword = rspaces(run.choices, run.keyword());
+    const Text separator = Trim(run.choices.word_separator());
+    const KeywordTable& table = run.project.tabla_kw;
+    Text list;
     int c = 1;
     do {
-        const Text& sub = run.tabla_kw.at(run.indice_kw, c);
-        s += u"<h3><a href=\"" + keyword + separator + rspaces(run.form, sub) + run.extension + u"\"><b>" +
-             sub + u"</b></a></h3>";
+        const Text& sub = table.at(run.indice_kw, c);
+        list += fill(uR"(<h3><a href="{1}{2}{3}{4}"><b>{5}</b></a></h3>)", keyword, separator,
+                     rspaces(run.choices, sub), run.plan.extension, sub);
         ++c;
-    } while (!run.tabla_kw.at(run.indice_kw, c).empty());
-    return s;
+    } while (!table.at(run.indice_kw, c).empty());
+    return list;
 }
 
 Text TP1_content(Run& run, int k) {
-    const Text keyword = run.tabla_kw.at(k);
+    const Text keyword = run.project.tabla_kw.at(k);
     Text t;
     if (std::optional<Text> tied = tied_text(run, keyword)) {
         t = std::move(*tied); // as it was typed
-        if (run.form.Check15.value()) t = recalcular(run, t, keyword);
+        if (run.choices.fit_tied_texts()) t = recalcular(run, t, keyword);
     } else {
-        t = recalcular(run, run.box(chosen_box(run, k)), keyword);
+        t = recalcular(run, run.boxes.box(chosen_box(run.boxes, k)), keyword);
     }
-    status(run, u"Optimizing First-Level Page");
-    if (run.form.Check6.value()) t = highLight(run, t);
-    Text s = u"<p>" + t + u"<p>" + list_comment(run, run.lista_kw);
+    run.report.status(u"Optimizing First-Level Page");
+    if (run.choices.highlight_keywords()) t = highLight(run.project, run.settings, t);
+    Text s = fill(u"<p>{1}<p>{2}", t, list_comment(run.choices, run.lista_kw));
     replace_all(s, u". ", u".<p>"); // in the comment, too
     return s;
 }
 
-Text TP1_hiddenform(Run& run) {
-    if (!run.form.Check3.value()) return {};
-    return hidden_list(run) + hidden_field(run.tabla_kw.at(0), run.box(0));
+Text TP1_hiddenform(const Run& run) {
+    if (!run.choices.hidden_blocks()) return {};
+    return hidden_list(run.choices, run.lista_kw) +
+           hidden_field(run.project.tabla_kw.at(0), run.boxes.box(0));
 }
 
-Text TP1_elresto(Run& run) {
-    Text s = custom_box(run) + u"<br><br><hr width=50%><font size=1>";
-    if (!trim_view(run.proyecto.designer_url).empty())
-        s += run.settings.rotulo_webmaster + u" " + run.proyecto.designer_url + u"<br>";
-    if (!trim_view(run.proyecto.designer_name).empty()) s += u"By " + run.proyecto.designer_name + u"<br>";
+Text TP1_elresto(const Run& run) {
+    const Proyecto& p = run.project.proyecto;
+    Text s = custom_box(run.choices) + u"<br><br><hr width=50%><font size=1>";
+    if (!trim_view(p.designer_url).empty())
+        s += fill(u"{1} {2}<br>", run.settings.rotulo_webmaster, p.designer_url);
+    if (!trim_view(p.designer_name).empty()) s += fill(u"By {1}<br>", p.designer_name);
     return s + u"</font><br><br>";
 }
 
 void write_first_level_image(Run& run, bool letter, TextView before) {
-    if (!run.form.Check2.value()) return;
-    const Text& keyword = run.tabla_kw.at(run.indice_kw);
-    Text stem = keyword;
+    if (!run.choices.pictures_wanted()) return;
+    Text stem = run.keyword();
     if (letter) {
         int number = xrnum(25);
         stem += u" " + letra(number);
     }
-    const Text alt = Trim(keyword + u" " + run.lista_kw);
-    run.writeline(Text(before) + imagen(run, run.fase, alt, run.main_folder,
-                                        preparar_texto(LCase(rspaces(run.form, stem)))));
+    const Text alt = Trim(run.keyword() + u" " + run.lista_kw);
+    stem = preparar_texto(LCase(rspaces(run.choices, stem)));
+    run.page.writeline({before, imagen(run, run.fase, alt, run.plan.main_folder, stem)});
 }
 
 } // namespace twk

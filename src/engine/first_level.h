@@ -11,25 +11,23 @@ struct Run;
 void first_level_pages(Run& run);
 
 /// The list of all first-level pages.
-Text TP1_linktoprimary(Run& run);
+Text TP1_linktoprimary(const Run& run);
 
 /// Links to the second-level pages of the keyword under way.
-Text TP1_linktosecondary(Run& run);
+Text TP1_linktosecondary(const Run& run);
 
 /// The content box fitted to keyword `k`: the tied one, or the one that its densities choose, or one by
 /// chance.
 Text TP1_content(Run& run, int k);
 
-/// The hidden keyword block, empty with Check3 off.
-Text TP1_hiddenform(Run& run);
+/// The hidden keyword block, empty when none is wanted.
+Text TP1_hiddenform(const Run& run);
 
 /// The closing block: the user's own HTML and the webmaster's lines.
-Text TP1_elresto(Run& run);
+Text TP1_elresto(const Run& run);
 
-/// Keywords joined by " , " from the first row on, each with the separator in front.
-Text joined_keywords(const Run& run);
-
-/// Under Check2: the picture of a first-level page. `letter` varies the name of a page's second picture.
+/// Where pictures are wanted: that of a first-level page. `letter` varies the name of a page's second
+/// picture.
 void write_first_level_image(Run& run, bool letter = false, TextView before = {});
 
 } // namespace twk

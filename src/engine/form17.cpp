@@ -5,8 +5,8 @@
 #include "platform/desktop.h"
 #include "platform/faults.h"
 #include "platform/files.h"
-#include "shell/form2.h"
-#include "shell/module1.h"
+#include "platform/module1.h"
+#include "platform/subscript.h"
 
 #include <algorithm>
 
@@ -16,10 +16,6 @@ namespace {
 
 constexpr int screen_number = 17;
 constexpr TextView list_ending = u".fnm";
-
-Text project_name() {
-    return Trim(screen<Form2>().txt_name[0].text());
-}
 
 /// Names and hosts as a list file: a name a line, everything else a comment.
 void write_list(const Form17& form, const Text& path) {
@@ -32,7 +28,7 @@ void write_list(const Form17& form, const Text& path) {
     out->writeline(u"#");
     out->writeline(u"# Random-Generated Pages List");
     out->writeline(u"# Generated " + ahora());
-    out->writeline(u"# Project: " + project_name());
+    out->writeline(u"# Project: " + form.project_name);
     out->writeline(u"#");
     for (int i = 0; i < form.List1.list_count(); ++i) {
         out->writeline(form.List1.list(i));
@@ -91,8 +87,7 @@ void load_list(Form17& form, const std::vector<Text>& saved) {
         MsgBox(u"The file you're trying to load has less files than the number you're trying to generate.\n"
                u"New files will be created.");
         for (int i = 0; i < highest && form.List1.list_count() <= highest; ++i)
-            if (const Text& old = saved[static_cast<std::size_t>(i)]; !has_entry(form.List1, old))
-                form.List1.add_item(old);
+            if (const Text& old = at(saved, i); !has_entry(form.List1, old)) form.List1.add_item(old);
     }
     in->Close();
 }
@@ -162,7 +157,7 @@ void Form17::Command4_Click() {
     CommonDialog1.init_dir = app_path();
     CommonDialog1.filter = u"*.fnm";
     CommonDialog1.dialog_title = u"Save list";
-    CommonDialog1.file_name = project_name() + Text(list_ending);
+    CommonDialog1.file_name = project_name + Text(list_ending);
     module1().nombre_fnm = CommonDialog1.file_name; // kept, even when the dialog is cancelled
     try {
         CommonDialog1.show_save();

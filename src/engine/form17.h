@@ -14,7 +14,7 @@ class Form17 {
 
     Label Label46; ///< how many pages there will be
     Label Label1{u"To modify a file name click it in the side box and type your modifications in the above "
-                 u"text-box, then click in the \"Update\" button."};
+                 uR"(text-box, then click in the "Update" button.)"};
     ListBox List1; ///< file names
     ListBox List2; ///< their hosts
     Label Label2{u"HOST:"};
@@ -50,6 +50,8 @@ class Form17 {
                            u"repeats in many of them."};
     CommandButton Command11{u"Close"};
     CommonDialog CommonDialog1;
+
+    Text project_name; ///< trimmed; set by the run that shows the screen
 
     void enumerate(ScreenMap& map);
     void Form_Load();

@@ -1,88 +1,75 @@
 // SPDX-License-Identifier: MIT
 #include "engine/fragments.h"
 
+#include "engine/open_page.h"
+#include "engine/page_choices.h"
 #include "engine/page_head.h"
-#include "engine/run.h"
-#include "inputs/form7.h"
+#include "engine/plan.h"
+#include "engine/project.h"
 
 namespace twk {
 
-const Text& main_host(const Run&) {
-    return screen<Form7>().Text2.text();
+Text font_line(const PageChoices& choices) {
+    return fill(uR"(<font color="{1}"face ="{2}" size=3>)", choices.font_colour(), choices.font_face());
 }
 
-Text font_line(const Run& run) {
-    return u"<font color=\"" + run.form.Text4.text() + u"\"face =\"" + run.form.combo1.text() + u"\" size=3>";
+Text small_font_line(const PageChoices& choices) {
+    return fill(uR"(<font color="{1}"size="3">)", choices.font_colour());
 }
 
-Text small_font_line(const Run& run) {
-    return u"<font color=\"" + run.form.Text4.text() + u"\"size=\"3\">";
+Text captions_text(const GatewaySettings& settings, const Proyecto& proyecto, TextView join) {
+    return fill(u"{1}: {2}{7}{3}: {4}{7}{5}: {6}", settings.rotulo_subject, proyecto.Title,
+                settings.rotulo_description, proyecto.Description, settings.rotulo_category,
+                proyecto.category, join);
 }
 
-Text captions_text(const Run& run, TextView join) {
-    const GatewaySettings& s = run.settings;
-    return s.rotulo_subject + u": " + run.proyecto.Title + Text(join) + s.rotulo_description + u": " +
-           run.proyecto.Description + Text(join) + s.rotulo_category + u": " + run.proyecto.category;
+Text captions(const GatewaySettings& settings, const Proyecto& proyecto) {
+    return fill(u"<h3>{1}</h3><br>", captions_text(settings, proyecto));
 }
 
-Text captions(const Run& run) {
-    return u"<h3>" + captions_text(run) + u"</h3><br>";
+Text heading_pair(const Proyecto& proyecto, TextView keyword) {
+    return fill(u"<h1>{1} > {2}</h1></a>", keyword, proyecto.site_name);
 }
 
-Text heading_pair(const Run& run, TextView keyword) {
-    return u"<h1>" + Text(keyword) + u" > " + run.proyecto.site_name + u"</h1></a>";
+Text phrase_line(const GatewaySettings& settings, TextView keyword) {
+    return fill(u"{1} <h2><u>{2}</u></h2><br>", settings.frases[0], keyword);
 }
 
-Text phrase_line(const Run& run, TextView keyword) {
-    return run.settings.frases[0] + u" <h2><u>" + Text(keyword) + u"</u></h2><br>";
+Text link_line(const PageChoices& choices, const Plan& plan, TextView heading) {
+    return fill(uR"(<{1}><a href="{2}/{3}">{4}</a></{1}>)", heading, choices.main_host(),
+                plan.archivo_sitemap, choices.settings().frases[4]);
 }
 
-Text link_line(const Run& run, TextView heading) {
-    return u"<" + Text(heading) + u"><a href=\"" + main_host(run) + u"/" + run.archivo_sitemap + u"\">" +
-           run.settings.frases[4] + u"</a></" + Text(heading) + u">";
-}
-
-Text hidden_list(const Run& run) {
-    return u"<font color=\"" + run.form.Text4.text() + u"\"size=\"0\"><br><br>" + run.lista_kw + u"</font>";
-}
-
-Text split_sentences(TextView text) {
-    return Replace(text, u". ", u". <p>");
-}
-
-const Text& split_box(Run& run, int b) {
-    std::optional<Text>& kept = run.contenidos_partidos[static_cast<std::size_t>(b)];
-    if (!kept) kept = split_sentences(run.box(b));
-    return *kept;
+Text hidden_list(const PageChoices& choices, TextView list) {
+    return fill(uR"(<font color="{1}"size="0"><br><br>{2}</font>)", choices.font_colour(), list);
 }
 
 Text hidden_field(TextView name, TextView content) {
-    return u"<input type=hidden name=\"" + Text(name) + u"\" content=\"" + Text(content) + u"\">";
+    return fill(uR"(<input type=hidden name="{1}" content="{2}">)", name, content);
 }
 
-Text custom_box(const Run& run) {
-    const Text& own = run.form.Text2.text();
-    return trim_view(own).empty() ? Text() : u"<br>" + own + u"<br>";
+Text custom_box(const PageChoices& choices) {
+    const Text& own = choices.own_html();
+    return trim_view(own).empty() ? Text() : fill(u"<br>{1}<br>", own);
 }
 
-void write_custom_box(Run& run) {
-    if (const Text line = custom_box(run); !line.empty()) run.writeline(line);
+void write_custom_box(OpenPage& page, const PageChoices& choices) {
+    if (const Text line = custom_box(choices); !line.empty()) page.writeline(line);
 }
 
-void write_background_cell(Run& run, TextView attributes) {
-    const Form6& form = run.form;
-    if (form.Option1.value())
-        run.writeline(u"<td " + Text(attributes) + u" bgcolor=\"" + form.Text1.text() + u"\">");
-    else if (form.Option2.value())
-        run.writeline(u"<td " + Text(attributes) + u" background=\"" + form.Text3.text() + u"\">");
+void write_background_cell(OpenPage& page, const PageChoices& choices, TextView attributes) {
+    if (choices.coloured())
+        page.writeline(uR"(<td {1} bgcolor="{2}">)", attributes, choices.background_colour());
+    else if (choices.pictured())
+        page.writeline(uR"(<td {1} background="{2}">)", attributes, choices.background_image());
 }
 
-Text redirect_script(Run& run) {
-    return u"<script language=JavaScript> window.navigate('" + target(run) + u"')</script>";
+Text redirect_script(const PageChoices& choices) {
+    return fill(u"<script language=JavaScript> window.navigate('{1}')</script>", target(choices));
 }
 
-Text list_comment(const Run& run, TextView list) {
-    return u"<!--" + main_host(run) + u"/ " + Text(list) + u"-->";
+Text list_comment(const PageChoices& choices, TextView list) {
+    return fill(u"<!--{1}/ {2}-->", choices.main_host(), list);
 }
 
 } // namespace twk

@@ -6,37 +6,38 @@
 /// Lines that several page kinds and layouts share, so that each layout reads as a list of them.
 namespace twk {
 
-struct Run;
+class PageChoices;
+struct GatewaySettings;
+struct OpenPage;
+struct Plan;
+struct Proyecto;
 
-/// Address of the main gateway directory, as Step 4 shows it.
-const Text& main_host(const Run& run);
+Text font_line(const PageChoices& choices);       ///< face, colour and size 3
+Text small_font_line(const PageChoices& choices); ///< colour and size 3
 
-Text font_line(const Run& run);       ///< face, colour and size 3
-Text small_font_line(const Run& run); ///< colour and size 3
 /// Subject, description and category with their captions, between `join`s: the heart of every caption line.
-Text captions_text(const Run& run, TextView join = u"<br>");
-Text captions(const Run& run); ///< the same as a heading
-Text heading_pair(const Run& run, TextView keyword);
-Text phrase_line(const Run& run, TextView keyword);
-Text link_line(const Run& run, TextView heading); ///< to the hallway page, between <heading> and </heading>
-Text hidden_list(const Run& run);                 ///< the keyword list in letters of size 0
+Text captions_text(const GatewaySettings& settings, const Proyecto& proyecto, TextView join = u"<br>");
+/// The same as a heading.
+Text captions(const GatewaySettings& settings, const Proyecto& proyecto);
+Text heading_pair(const Proyecto& proyecto, TextView keyword);
+Text phrase_line(const GatewaySettings& settings, TextView keyword);
+/// The link to the hallway page, between <heading> and </heading>.
+Text link_line(const PageChoices& choices, const Plan& plan, TextView heading);
+/// The keyword list in letters of size 0.
+Text hidden_list(const PageChoices& choices, TextView list);
 Text hidden_field(TextView name, TextView content);
-/// A text with every sentence in a paragraph of its own.
-Text split_sentences(TextView text);
-/// A content box like that, made when it is first asked for: many pages draw the same box.
-const Text& split_box(Run& run, int b);
 /// The user's own HTML between line breaks; empty when there is none.
-Text custom_box(const Run& run);
+Text custom_box(const PageChoices& choices);
 /// Writes that line when there is one.
-void write_custom_box(Run& run);
+void write_custom_box(OpenPage& page, const PageChoices& choices);
 
 /// "<td ...>" of a coloured or pictured cell with the given attributes. Written only when a background is
 /// chosen.
-void write_background_cell(Run& run, TextView attributes);
+void write_background_cell(OpenPage& page, const PageChoices& choices, TextView attributes);
 
-Text redirect_script(Run& run); ///< draws an address
+Text redirect_script(const PageChoices& choices); ///< draws an address
 
-/// Opening of a URL comment's text: the main directory, a blank and the keyword list.
-Text list_comment(const Run& run, TextView list);
+/// A comment of the main directory, a blank and the keyword list.
+Text list_comment(const PageChoices& choices, TextView list);
 
 } // namespace twk

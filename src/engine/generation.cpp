@@ -3,37 +3,20 @@
 
 #include "engine/first_level.h"
 #include "engine/hallway.h"
-#include "engine/output_tree.h"
 #include "engine/page_names.h"
 #include "engine/random_pages.h"
 #include "engine/run.h"
-#include "engine/run_preparation.h"
 #include "engine/second_level.h"
 #include "engine/site_map.h"
 #include "engine/text_toolkit.h"
 #include "platform/chance.h"
 #include "platform/desktop.h"
-#include "platform/faults.h"
 #include "platform/memory.h"
-#include "platform/numbers.h"
-#include "reports/form12.h"
-#include "settings/settings_file.h"
-#include "shell/form2.h"
 #include "store/stores.h"
 
 namespace twk {
 
 namespace {
-
-const Text& project_name() {
-    return screen<Form2>().txt_name[0].text();
-}
-
-/// The number of random pages must be even.
-void make_even(ComboBox& how_many) {
-    const double pages = Val(how_many.text());
-    if (pages / 2 != Round(pages / 2) && pages > 0) how_many.text = to_text(CInt(Int(pages - 1)));
-}
 
 bool confirmed() {
     return MsgBox(u"This action may take several minutes depending on your computers' speed \n"
@@ -43,23 +26,39 @@ bool confirmed() {
                   Buttons::yes_no, u"Create Pages?") == Answer::yes;
 }
 
-void prepare_report(const Run& run) {
-    Form12& report = screen<Form12>();
-    report.ProgressBar1.set_value(CDbl(u"0,0001"));
-    for (ListBox* list : {&report.List1, &report.List2, &report.List3}) list->clear();
-    screens().show<Form12>();
-    DoEvents();
-    report.reporte2(run.total_sub);
-    report.Reporte(run.tabla_kw, run.n_keywords);
+/// Reads once what names the files; false, after a message, when pages would have no extension.
+bool read_file_names(Plan& plan, const PageChoices& choices) {
+    plan.extension = choices.extension();
+    plan.separador = choices.word_separator();
+    plan.archivo_sitemap = LCase(u"sitemap" + plan.extension);
+    if (Len(trim_view(choices.extension())) >= 2) return true;
+    MsgBox(u"You need to enter a file extension.");
+    return false;
 }
 
-void finish_report(const Run& run) {
-    Form12& report = screen<Form12>();
-    report.reporte2_3(run.n_keywords);
-    report.reporte_nivel2(run.cuenta1, run.cuenta2);
-    report.reporte_nivel3(run.cuenta2, run.cuenta3);
-    report.ProgressBar1.set_value(100);
-    DoEvents();
+/// Fills the list of pictures; false, after a message, when there are too few.
+bool list_pictures(PageChoices& choices) {
+    const Text folder = beside_program(u"Images");
+    choices.set_pictures({});
+    std::vector<Text> pictures;
+    for (const TextView pattern : {u"*.gif", u"*.jpg"})
+        for (const Text& name : choices.files_in(folder, pattern))
+            pictures.push_back(folder + Text(path_separator) + name);
+    choices.set_pictures(pictures);
+    if (pictures.size() >= 3) return true;
+    MsgBox(folder + u" Must have more than 3 images (*.gif or *.jpg)");
+    return false;
+}
+
+void rebuild_output(Run& run) {
+    run.mensaje_error =
+        u"There was an error trying to create or delete the directory for this project:  " +
+        run.choices.project_name() +
+        u"\nThis is set in the Project Properties (step 1).\nCheck the directory name, if it was not created. "
+        u"Also, check if it's empty.";
+    find_folders(run.plan, run.page, run.choices);
+    rebuild_output_tree(run.plan, run.page);
+    run.mensaje_error.clear();
 }
 
 void run_phases(Run& run) {
@@ -87,103 +86,49 @@ void run_phases(Run& run) {
     run.fase = 5;
 }
 
-void open_local_site_map(const Run& run) {
-    const Text sep(path_separator);
+void open_local_site_map(const Plan& plan) {
     try {
-        desktop().start(ruta_corta(run.project_folder + sep + u"sitemap-do-not-upload.htm"));
+        desktop().start(
+            ruta_corta(plan.project_folder + Text(path_separator) + u"sitemap-do-not-upload.htm"));
     } catch (const RuntimeFault&) { // the pages are there, whether they can be shown or not
     }
 }
 
-/// A name that leads elsewhere gets no settings file; the run will stop at its folder.
-void save_own_settings(Form6& form) {
-    try {
-        const Fence named(beside_program(u"Projects"), project_name());
-    } catch (const RuntimeFault&) {
-        MsgBox(u"File wasn't saved.");
-        return;
-    }
-    guardar_dat(form, beside_program(project_name() + u".dat"));
-}
-
 void run_all(Run& run) {
-    Form6& form = run.form;
-    save_own_settings(form);
-    make_even(form.Combo2);
     chance().Randomize();
-    run.extension = form.Combo10.text();
-    run.separador = form.Combo6.text();
-    run.archivo_sitemap = LCase(u"sitemap" + run.extension);
-    if (Len(trim_view(form.Combo10.text())) < 2) {
-        MsgBox(u"You need to enter a file extension.");
-        return;
-    }
-    if (!confirmed()) return;
-    form.informe_activo = true;
-
+    if (!read_file_names(run.plan, run.choices) || !confirmed()) return;
+    run.report.switch_on();
     run.mensaje_error =
         u"there was an error preparing project properties (keywords, content boxes, hosts, targets, etc.)";
-    run.base_datos = open_hive();
-    read_project(run);
-    read_keywords(run);
-    collect_terms(run);
-    build_page_names(run);
-    distribute_pages(run);
-    if (form.Check9.value() && !offer_page_names(run)) return;
-    prepare_report(run);
-    measure_boxes(run);
-    rebuild_output_tree(run);
-    if (!list_pictures(run)) return;
+    run.project.base_datos = open_hive();
+    read_project(run.project, run.choices);
+    read_keywords(run.project, run.choices);
+    collect_terms(run.project);
+    build_page_names(run.plan, run.project, run.choices);
+    distribute_pages(run.plan, run.choices);
+    if (run.choices.offer_page_names() && !offer_page_names(run.plan, run.choices)) return;
+    run.report.begin(run.project);
+    measure_boxes(run.boxes, run.project, run.choices);
+    rebuild_output(run);
+    if (!list_pictures(run.choices)) return;
     run_phases(run);
-    finish_report(run);
-    screen<Form12>().Command2.enabled = true;
-    open_local_site_map(run);
+    run.report.finish(run.project.n_keywords, {run.cuenta1, run.cuenta2, run.cuenta3});
+    open_local_site_map(run.plan);
     run.finished = true;
 }
 
-/// One run at a time, from whichever screen: a second one would erase the pages under the first.
-class UnderWay {
-  public:
-    explicit UnderWay(bool& flag) : flag_(flag) { flag = true; }
-    ~UnderWay() { flag_ = false; }
-    UnderWay(const UnderWay&) = delete;
-    UnderWay& operator=(const UnderWay&) = delete;
-
-  private:
-    bool& flag_;
-};
-
 } // namespace
 
-void generation_run(Form6& form) {
-    static bool running = false;
-    if (running) return;
-    const UnderWay under_way(running);
+void generation_run(Run& run) {
     keep_freed_memory();
-    form.run = std::make_unique<Run>(form);
-    Run& run = *form.run;
     try {
         run_all(run);
     } catch (RuntimeFault& fault) {
-        run.salida.reset();
-        run.origen.reset(); // a page that was never replaced stands empty
+        run.page.abandon();
         fault.stage = run.mensaje_error;
-        fault.page = run.pagina_actual;
+        fault.page = run.page.pagina_actual;
         throw;
     }
-}
-
-int template_index(const Run& run) {
-    int index = 0;
-    for (const OptionButton& option : run.form.Template) {
-        if (option.value()) break;
-        ++index;
-    }
-    return index;
-}
-
-void status(Run&, const Text& text) {
-    screen<Form12>().Label2.caption = text;
 }
 
 } // namespace twk

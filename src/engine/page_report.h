@@ -7,8 +7,8 @@ namespace twk {
 
 struct Run;
 
-/// Hands a finished page to the report: path, text, and the strings of its kind. The next report index of the
-/// kind goes up by one. `url` is told to nobody else.
-void analizar_pagina(Run& run, const Text& path, const Text& url);
+/// Hands a finished page to the report: path, text, where it links to and, for a random page, whether it
+/// redirects. The next report index of its kind goes up by one.
+void analizar_pagina(Run& run, const Text& path, const Text& redirects = {});
 
 } // namespace twk

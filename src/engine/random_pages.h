@@ -1,11 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/text.h"
+#include "engine/random_content.h"
 
 namespace twk {
 
+struct GatewaySettings;
 struct Run;
+
+/// The random pages as they are written: what they draw from, the destination and the page under way.
+struct RandomPhase {
+    Run& run;
+    ContentPool pool;
+    Text carpeta{};  ///< folder of the destination
+    Text url_host{}; ///< empty at destination 0
+    Text url_pagina{};
+    bool es_js = false; ///< the page redirects
+};
 
 /// Phase 3: the random pages of every destination, with index page and cross-links.
 void random_pages(Run& run);
@@ -22,20 +33,20 @@ Text tp3_linktotarget(Run& run);
 
 /// The links to the hallway page and to a first-level page, and the second of them alone. Fault 1001 when no
 /// keyword behind the first can be drawn.
-Text tp3_cajadekeywords(Run& run);
-Text first_level_link(Run& run);
+Text tp3_cajadekeywords(const Run& run);
+Text first_level_link(const Run& run);
 
 /// The hidden field, or an empty text.
-Text tp3_hiddenform(Run& run);
+Text tp3_hiddenform(const Run& run);
 
 /// Two search links.
-Text tp3_linktogoogle(const Run& run);
-Text google_search_link(const Run& run);
-Text google_related_link(const Run& run);
+Text tp3_linktogoogle(const GatewaySettings& settings);
+Text google_search_link(const GatewaySettings& settings);
+Text google_related_link(const GatewaySettings& settings);
 
-/// The picture of a random page under Check2.
-void write_random_image(Run& run);
-/// The search links under Check7.
+/// The picture of a random page, where pictures are wanted.
+void write_random_image(RandomPhase& phase);
+/// The search links, where they are wanted.
 void write_google_links(Run& run);
 
 } // namespace twk

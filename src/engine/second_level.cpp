@@ -4,21 +4,17 @@
 #include "engine/decorations.h"
 #include "engine/density.h"
 #include "engine/fragments.h"
-#include "engine/generation.h"
-#include "engine/page_file.h"
+#include "engine/layouts.h"
 #include "engine/page_head.h"
 #include "engine/page_report.h"
 #include "engine/run.h"
 #include "engine/surplus.h"
-#include "engine/templates.h"
 #include "engine/text_toolkit.h"
 #include "platform/chance.h"
 #include "platform/desktop.h"
-#include "platform/faults.h"
 #include "platform/name_index.h"
 #include "platform/numbers.h"
-#include "reports/form12.h"
-#include "shell/form2.h"
+#include "platform/subscript.h"
 
 namespace twk {
 
@@ -27,82 +23,83 @@ namespace {
 /// So many occurrences stay, whatever the settings say.
 constexpr int kept_occurrences = 15;
 
-void write_title(Run& run, const Text& sub) {
+/// Leaves the subkeyword as the count of its words does, for all that follows on the page.
+void write_title(Run& run, Text& sub) {
     const GatewaySettings& s = run.settings;
-    Text contado = sub;
+    const Proyecto& p = run.project.proyecto;
+    const bool alone = contar_palabras(sub) >= s.palabras_minimas;
     Text title = sub;
-    if (contar_palabras(contado) < s.palabras_minimas) // names the site twice as a rule
-        title = cortar_palabras(sub + u" " + run.proyecto.site_name + u" " + run.proyecto.category,
-                                s.palabras_extracto) +
-                u" " + run.proyecto.site_name;
-    run.writeline(u"<html><head><title>" + title + u"</title>");
+    if (!alone) // names the site twice as a rule
+        title = cortar_palabras(sub + u" " + p.site_name + u" " + p.category, s.palabras_extracto) + u" " +
+                p.site_name;
+    run.page.writeline(u"<html><head><title>{1}</title>", title);
 }
 
-void write_page(Run& run, const Text& keyword) {
+void write_page(Run& run, const Text& keyword, const Text& subkeyword) {
     const NameIndex::SteadyFolders steady;
-    const Text sub = run.subkw_actual;
-    run.nombre_relativo = rspaces(run.form, keyword) + run.separador + rspaces(run.form, sub) + run.extension;
-    run.enlace_padre = keyword + run.extension; // the keyword's blanks stay
-    const Text path = run.main_folder + Text(path_separator) + run.nombre_relativo;
-    open_page(run, path);
-    write_title(run, sub);
-    meta(run, sub, Mid(run.lista_kw, 4));
-    run.writeline(u"");
-    switch (template_index(run)) {
-    case 0: second_level_no_table(run); break;
-    case 1: second_level_table1(run); break;
-    case 2:
-    case 3: second_level_table23(run); break;
-    default: break; // no template chosen: a page without a middle
+    OpenPage& page = run.page;
+    SecondLevelPage sub{run, subkeyword};
+    sub.nombre_relativo = rspaces(run.choices, keyword) + run.plan.separador +
+                          rspaces(run.choices, subkeyword) + run.plan.extension;
+    run.enlace_padre = keyword + run.plan.extension; // the keyword's blanks stay
+    const Text path = run.plan.in_main_folder(sub.nombre_relativo);
+    page.open(path);
+    write_title(run, sub.subkw_actual);
+    meta(page, run.choices, run.project, sub.subkw_actual, Mid(run.lista_kw, 4));
+    page.writeline(u"");
+    switch (run.choices.layout()) {
+    case Layout::no_table: second_level_no_table(sub); break;
+    case Layout::table_1: second_level_table1(sub); break;
+    case Layout::table_2:
+    case Layout::table_3: second_level_table23(sub); break;
+    case Layout::none: break; // a page without a middle
     }
-    run.writeline(u"<br><br><hr width=30%>");
-    run.writeline(u"");
-    run.writeline(u"</body></html>");
-    close_page(run, path);
-    const Text main_name = Mid(run.main_folder, Len(run.project_folder) + 2);
-    analizar_pagina(run, path,
-                    screen<Form2>().txt_name[0].text() + u"\\" + main_name + u"\\" + run.nombre_relativo);
+    page.writeline(u"<br><br><hr width=30%>");
+    page.writeline(u"");
+    page.writeline(u"</body></html>");
+    page.close();
+    analizar_pagina(run, path);
+}
+
+/// The subkeywords of the keyword under way, to the first empty column.
+template <class Visit> void each_subkeyword(const Run& run, Visit visit) {
+    const KeywordTable& table = run.project.tabla_kw;
+    for (int c = 1; c < max_columns && !table.at(run.indice_kw, c).empty(); ++c)
+        visit(table.at(run.indice_kw, c));
 }
 
 /// Column of the keyword and of every subkeyword, each with the separator in front.
 Text list_of_keyword(const Run& run) {
-    Text list;
-    int c = 0;
-    do list += u" , " + run.tabla_kw.at(run.indice_kw, c++);
-    while (c < max_columns && !run.tabla_kw.at(run.indice_kw, c).empty());
+    Text list = u" , " + run.keyword();
+    each_subkeyword(run, [&list](const Text& sub) { list += u" , " + sub; });
     return list;
 }
 
 /// The box for the hidden block; drawn again while it is empty, as all boxes past the last are.
-int hidden_box(Run& run, std::int16_t boxes) {
-    const auto empty = [&](int b) { return b >= max_boxes || run.box(b).empty(); };
+int hidden_box(const Boxes& boxes, int bound) {
+    const auto empty = [&](int b) { return b >= max_boxes || boxes.box(b).empty(); };
     bool any = !empty(0);
-    for (int b = 1; b < boxes && !any; ++b) any = !empty(b);
+    for (int b = 1; b < bound && !any; ++b) any = !empty(b);
     if (!any) throw RuntimeFault(fault_project_lacks, u"All content boxes that a page could draw are empty.");
     int b = 0;
-    do b = static_cast<int>(Int(chance().Rnd() * boxes));
+    do b = static_cast<int>(Int(chance().Rnd() * bound));
     while (empty(b));
     return b;
 }
 
-/// A split box, ready to get sentences.
-const SpacedText& spaced_box(Run& run, int b) {
-    std::unique_ptr<const SpacedText>& kept = run.contenidos_espaciados[static_cast<std::size_t>(b)];
-    if (!kept) kept = std::make_unique<SpacedText>(split_box(run, b));
-    return *kept;
-}
-
 /// Box `a`, a short one with the keyword list and box `b` behind it, and the sentences for the subkeyword.
-Text with_sentences(Run& run, int a, int b, bool split) {
-    const Text& sub = run.subkw_actual;
-    const Text& first = run.box(a);
+Text with_sentences(SecondLevelPage& page, int a, int b, bool split) {
+    const PageChoices& choices = page.run.choices;
+    Boxes& boxes = page.run.boxes;
+    const Text& sub = page.subkw_actual;
+    const Text& first = boxes.box(a);
     const bool is_short = Len(first) < 300;
     if (split && !is_short) { // a short one keeps its sentences together
-        const SpacedText& spaced = spaced_box(run, a);
-        return sub.empty() ? spaced.texto : Ajustar_KW(run, spaced, sub, 3);
+        const SpacedText& spaced = boxes.spaced(a);
+        return sub.empty() ? spaced.texto : Ajustar_KW(choices, spaced, sub, 3);
     }
-    Text text = is_short ? first + u"<p>" + run.lista_kw + u"<p>" + run.box(b) : first;
-    return sub.empty() ? text : Ajustar_KW(run, text, sub, 3);
+    Text text = is_short ? fill(u"{1}<p>{2}<p>{3}", first, page.run.lista_kw, boxes.box(b)) : first;
+    return sub.empty() ? text : Ajustar_KW(choices, text, sub, 3);
 }
 
 } // namespace
@@ -112,69 +109,71 @@ void second_level_pages(Run& run) {
     run.indice_kw = 0;
     do {
         run.lista_kw = list_of_keyword(run);
-        for (int c = 1; c < max_columns && !run.tabla_kw.at(run.indice_kw, c).empty(); ++c) {
-            run.subkw_actual = run.tabla_kw.at(run.indice_kw, c);
-            write_page(run, run.tabla_kw.at(run.indice_kw));
-        }
+        each_subkeyword(run, [&run](const Text& sub) { write_page(run, run.keyword(), sub); });
         ++run.indice_kw;
-    } while (!run.tabla_kw.at(run.indice_kw).empty());
-    ProgressBar& progress = screen<Form12>().ProgressBar1;
-    progress.set_value(progress.value() + 30);
+    } while (!run.keyword().empty());
+    run.report.set_progress(run.report.progress() + 30);
 }
 
-Text second_level_url_comment(const Run& run) {
-    return u"<!-- url " + main_host(run) + u"/" + run.nombre_relativo + u"-->";
+Text second_level_url_comment(const SecondLevelPage& sub) {
+    return fill(u"<!-- url {1}/{2}-->", sub.run.choices.main_host(), sub.nombre_relativo);
 }
 
 void write_link_stack(Run& run, TextView heading, bool always) {
-    const Text& k = run.tabla_kw.at(run.indice_kw);
-    const Text file = rspaces(run.form, k);
-    run.writeline(u"<u><i><h1><a href=\"" + file + run.extension + u"\"><b>" + k +
-                  u"</b></h1><font color=\"" + run.form.Text4.text() + u"\"size=3>" + run.settings.frases[3] +
-                  u":</a></i></u></font>");
-    if (!always && !run.form.Check12.value()) return;
-    for (int c = 1; c < max_columns && !run.tabla_kw.at(run.indice_kw, c).empty(); ++c) {
-        const Text& sub = run.tabla_kw.at(run.indice_kw, c);
-        run.writeline(u"<" + Text(heading) + u"><a href=\"" + file + run.form.Combo6.text() +
-                      rspaces(run.form, sub) + run.extension + u"\"><b>" + sub + u"</b></a></" +
-                      Text(heading) + u">");
-    }
+    const PageChoices& choices = run.choices;
+    const Text& k = run.keyword();
+    const Text file = rspaces(choices, k);
+    const Text& extension = run.plan.extension;
+    run.page.writeline(uR"(<u><i><h1><a href="{1}{2}"><b>{3}</b></h1><font color="{4}"size=3>)"
+                       uR"({5}:</a></i></u></font>)",
+                       file, extension, k, choices.font_colour(), run.settings.frases[3]);
+    if (!always && !choices.link_siblings()) return;
+    each_subkeyword(run, [&](const Text& sub) {
+        run.page.writeline(uR"(<{1}><a href="{2}{3}{4}{5}"><b>{6}</b></a></{1}>)", heading, file,
+                           choices.word_separator(), rspaces(choices, sub), extension, sub);
+    });
 }
 
-void write_content_block(Run& run, bool split_sentences, bool count_file) {
-    const Text k = run.tabla_kw.at(run.indice_kw);
-    const int a = xrnum2(run.ultima_caja);
-    const int b = xrnum2(run.ultima_caja);
-    Text& text = run.texto_pagina;
-    text = with_sentences(run, a, b, split_sentences);
-    text = Ajustar_KW(run, text, k, 2);
-    status(run, u"Updating Second-Level Page");
+void write_content_block(SecondLevelPage& sub, bool split_sentences, bool count_file) {
+    Run& run = sub.run;
+    const GatewaySettings& s = run.settings;
+    const Text k = run.keyword();
+    const int a = xrnum2(run.boxes.ultima_caja);
+    const int b = xrnum2(run.boxes.ultima_caja);
+    Text texto_pagina = with_sentences(sub, a, b, split_sentences);
+    texto_pagina = Ajustar_KW(run.choices, texto_pagina, k, 2);
+    run.report.status(u"Updating Second-Level Page");
     DoEvents();
-    const std::int16_t n = contar_kw(text, run.subkw_actual); // the subkeyword is lower case from here on
-    if (!run.subkw_actual.empty() && n >= run.settings.max_repeticiones && run.form.Check8.value())
-        replace_last(text, run.subkw_actual, run.settings.kw_sustituto, n - kept_occurrences);
-    status(run, u"Updating Second-Level Page");
+    // The subkeyword is lower case from here on.
+    const std::int16_t n = contar_kw(texto_pagina, sub.subkw_actual);
+    if (!sub.subkw_actual.empty() && n >= s.max_repeticiones && run.choices.limit_repetitions())
+        replace_last(texto_pagina, sub.subkw_actual, s.kw_sustituto, n - kept_occurrences);
+    run.report.status(u"Updating Second-Level Page");
     DoEvents();
     if (count_file) ++run.cuenta_archivos;
-    limit_keywords(run, text, kept_occurrences); // the caption speaks of random pages here, too
-    replace_all(text, u". ", run.lista_kw);      // the sentence ends go
-    if (run.form.Check6.value()) text = highLight(run, text);
-    run.writeline({u"<table border = 1 width=75% cellpadding=4><tr><td align=center><p>", text,
-                   u"</p></td></tr></table><br>"});
+    // The caption speaks of random pages here, too.
+    limit_keywords(run.project, s, run.report, texto_pagina, kept_occurrences);
+    replace_all(texto_pagina, u". ", run.lista_kw); // the sentence ends go
+    if (run.choices.highlight_keywords()) texto_pagina = highLight(run.project, s, texto_pagina);
+    run.page.writeline(u"<table border = 1 width=75% cellpadding=4><tr><td align=center><p>"
+                       u"{1}</p></td></tr></table><br>",
+                       texto_pagina);
 }
 
-void write_second_level_end(Run& run, std::int16_t boxes) {
-    if (run.form.Check4.value() && percent_draw() < 30) {
-        copy_flash_movie(run, run.main_folder);
-        write_flash_object(run, Replace(run.lista_kw, u",", u""));
+void write_second_level_end(Run& run, int boxes) {
+    const PageChoices& choices = run.choices;
+    if (choices.animations() && percent_draw() < 30) {
+        copy_flash_movie(run.page, run.plan.main_folder);
+        write_flash_object(run.page, Replace(run.lista_kw, u",", u""));
     }
-    if (run.form.Check3.value()) {
-        run.writeline(hidden_list(run));
-        const int b = hidden_box(run, boxes);
+    if (choices.hidden_blocks()) {
+        run.page.writeline(hidden_list(choices, run.lista_kw));
+        const int b = hidden_box(run.boxes, boxes);
         // The keyword of the box's number; a box beyond the keywords has none.
-        run.writeline(hidden_field(b < run.tabla_kw.rows() ? run.tabla_kw.at(b) : Text(), run.box(b)));
+        const KeywordTable& table = run.project.tabla_kw;
+        run.page.writeline(hidden_field(b < table.rows() ? table.at(b) : Text(), run.boxes.box(b)));
     }
-    run.writeline(link_line(run, u"h3"));
+    run.page.writeline(link_line(choices, run.plan, u"h3"));
 }
 
 } // namespace twk

@@ -2,10 +2,10 @@
 #include "engine/synonyms.h"
 
 #include "engine/counting/scan.h"
-#include "engine/run.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
+#include "platform/files.h"
 #include "platform/numbers.h"
 #include "store/database.h"
 #include "store/stores.h"
@@ -92,32 +92,29 @@ double share() {
 
 } // namespace
 
-/// The dictionary as the run read it last.
-struct KnownSynonyms {
+/// The dictionary as it was read last.
+struct Synonyms::Known {
     Database store;
     Database::RowState state;
     Dictionary dictionary;
 };
 
-namespace {
+Synonyms::Synonyms() = default;
+Synonyms::~Synonyms() = default;
 
-/// The dictionary of the run, read again when a row has changed.
-Dictionary& dictionary_of(Run& run) {
-    if (run.synonyms && file_exists(beside_program(u"synonyms.mdb"))) {
-        if (run.synonyms->store.row_state() == run.synonyms->state) return run.synonyms->dictionary;
-    }
-    auto read = std::make_shared<KnownSynonyms>();
+Synonyms::Known& Synonyms::known() {
+    if (known_ && file_exists(beside_program(u"synonyms.mdb")) && known_->store.row_state() == known_->state)
+        return *known_;
+    auto read = std::make_unique<Known>();
     read->store = open_synonyms();
     read->state = read->store.row_state();
     read->dictionary = read_dictionary(read->store);
-    run.synonyms = std::move(read);
-    return run.synonyms->dictionary;
+    known_ = std::move(read);
+    return *known_;
 }
 
-} // namespace
-
-Text sinonimo(Run& run, const Text& texto) {
-    Dictionary& dictionary = dictionary_of(run);
+Text Synonyms::sinonimo(const Text& texto) {
+    Dictionary& dictionary = known().dictionary;
     Text t = texto;
     space_tags(t);
     const auto n = static_cast<int>(count_units(t, [](char16_t c) { return c == u' '; }));

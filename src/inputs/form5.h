@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/run.h"
+#include "engine/boxes.h"
+#include "engine/keyword_table.h"
 #include "platform/addresses.h"
 #include "platform/screens.h"
 #include "store/database.h"

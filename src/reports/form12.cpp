@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "reports/form12.h"
 
-#include "engine/density.h"
 #include "engine/counting/keyword_counts.h"
-#include "engine/run.h"
+#include "engine/density.h"
+#include "engine/keyword_table.h"
 #include "engine/text_toolkit.h"
 #include "inputs/form3.h"
 #include "inputs/form7.h"
@@ -92,7 +92,7 @@ void Form12::Reporte(const KeywordTable& tabla, int keywords) {
 }
 
 const KeywordSet& Form12::keyword_set() {
-    if (!counted_ || !counted_->same(xKeyWords)) counted_ = std::make_shared<KeywordSet>(xKeyWords);
+    if (!counted_ || !counted_->same(xKeyWords)) counted_.emplace(xKeyWords);
     return *counted_;
 }
 
@@ -215,7 +215,7 @@ Text Form12::report_text(const PageAnalysis& page, int list) const {
     line(u"FileSize: " + page.kb + u" Kb.");
     const int kind = static_cast<int>(Val(page.kind));
     line(u"Page Type: " + Text(kinds[kind >= 1 && kind <= 4 ? kind : 0]));
-    if (list == 2) line(u"Links to First-Level Page: " + rspaces(screen<Form6>(), page.links_to));
+    if (list == 2) line(u"Links to First-Level Page: " + rspaces(screen<Form6>().choices, page.links_to));
     if (list == 3) {
         line(u"JavaScript Redirection to Target Site?: " + page.redirect);
         line(u"");

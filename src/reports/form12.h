@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/counting/keyword_counts.h"
 #include "platform/screens.h"
 
 #include <cstdint>
-#include <memory>
+#include <optional>
 #include <vector>
 
 namespace twk {
 
-class KeywordSet;
 class KeywordTable;
 
 /// What one keyword is in one page; texts as the report shows them, empty where they could not be computed.
@@ -97,7 +97,7 @@ class Form12 {
     void fill_list(ListBox& list, int first, int end, int width);
     Text report_text(const PageAnalysis& page, int list) const;
 
-    std::shared_ptr<const KeywordSet> counted_; ///< the keywords, to be counted together
+    std::optional<KeywordSet> counted_; ///< the keywords, to be counted together
 };
 
 } // namespace twk

@@ -86,8 +86,43 @@ void Form6::Slider1_Change() {
     }
 }
 
+namespace {
+
+/// The number of random pages must be even.
+void make_even(ComboBox& how_many) {
+    const double pages = Val(how_many.text());
+    if (pages / 2 != Round(pages / 2) && pages > 0) how_many.text = to_text(CInt(Int(pages - 1)));
+}
+
+/// A name that leads elsewhere gets no settings file; the run will stop at its folder.
+void save_own_settings(Form6& form) {
+    try {
+        const Fence named(beside_program(u"Projects"), project_name());
+    } catch (const RuntimeFault&) {
+        MsgBox(u"File wasn't saved.");
+        return;
+    }
+    guardar_dat(form, beside_program(project_name() + u".dat"));
+}
+
+/// One run at a time: a second one would erase the pages under the first.
+class UnderWay {
+  public:
+    UnderWay() { module1().run_under_way = true; }
+    ~UnderWay() { module1().run_under_way = false; }
+    UnderWay(const UnderWay&) = delete;
+    UnderWay& operator=(const UnderWay&) = delete;
+};
+
+} // namespace
+
 void Form6::Command1_Click() {
-    generation_run(*this);
+    if (module1().run_under_way) return;
+    const UnderWay under_way;
+    run = std::make_unique<Run>(choices, report);
+    save_own_settings(*this);
+    make_even(Combo2);
+    generation_run(*run);
 }
 
 void Form6::Command2_Click(int index) {

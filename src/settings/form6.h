@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/gateway_settings.h"
 #include "platform/screens.h"
-#include "settings/gateway_settings.h"
+#include "reports/shown_report.h"
+#include "settings/step_choices.h"
 
 #include <array>
 #include <memory>
@@ -130,13 +132,16 @@ class Form6 {
     bool informe_activo = false; ///< reports are made; nothing turns it off again
     Text plantilla_sitemap;      ///< the user's own hallway page
     GatewaySettings settings;
-    std::unique_ptr<Run> run; ///< state of the run under way or of the last one
+    StepChoices choices{*this}; ///< what the run asks
+    ShownReport report{*this};  ///< and what it tells
+    std::unique_ptr<Run> run;   ///< state of the run under way or of the last one
 
     void enumerate(ScreenMap& map);
     void Form_Load();
     void Form_Unload();
     void Slider1_Change();
-    void Command1_Click(); ///< the run
+    /// The run, settings saved first. While one writes, from whichever screen, another click does nothing.
+    void Command1_Click();
     void Command2_Click(int index);
     void Command3_Click();
     void Command4_Click();

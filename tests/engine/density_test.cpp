@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "engine/density.h"
-#include "engine/run.h"
 #include "platform/chance.h"
 #include "platform/faults.h"
-#include "settings/form6.h"
 #include "shell/module1.h"
 #include "support/faults.h"
-#include "support/temp_app.h"
+#include "support/lone_run.h"
 
 #include <gtest/gtest.h>
 
@@ -27,26 +25,21 @@ Text numbered(int first, int last) {
 }
 
 /// A run of one keyword with one sentence, "See <link> now", before the word "and".
-class DensityAdjustment : public testing::Test {
+class DensityAdjustment : public testing::Test, public test::LoneRun {
   protected:
     DensityAdjustment() {
         module1().url_principal = u"http://main";
         form.settings.palabras_ancla[9] = u" And ";
         form.settings.frases_link[3] = u"See *LINK* now";
-        run.tabla_kw.resize(1);
-        run.tabla_kw.cell(0) = u"rose";
-        run.n_keywords = 1;
+        set_keywords({u"rose"});
         form.Combo9.text = u"3";
     }
 
     /// The adjusted form of a text that the test does not need afterwards.
-    std::string adjusted(Text text, std::int16_t per_cent, const Text& keyword = u"rose") {
-        return utf8(Ajustar_KW(run, text, keyword, per_cent));
+    std::string adjusted(Text text, int per_cent, const Text& keyword = u"rose") {
+        return utf8(Ajustar_KW(form.choices, text, keyword, per_cent));
     }
 
-    test::TempApp app;
-    Form6 form;
-    twk::Run run{form};
     const Text sentence = u"See <a href=\"http://main\">rose</a> now";
 };
 
@@ -58,14 +51,14 @@ TEST_F(DensityAdjustment, writes_boundary_pieces_twice_and_drops_the_tail) {
 
 TEST_F(DensityAdjustment, gives_nothing_for_no_text_no_density_or_one_over_fifty) {
     Text untouched = u"a<p>b";
-    EXPECT_EQ(utf8(Ajustar_KW(run, untouched, u"rose", 0)), "");
+    EXPECT_EQ(utf8(Ajustar_KW(form.choices, untouched, u"rose", 0)), "");
     EXPECT_EQ(utf8(untouched), "a<p>b");
     EXPECT_EQ(adjusted(u"   ", 3), "");
     EXPECT_EQ(adjusted(u"<p> <br>", 3), "");
     EXPECT_EQ(adjusted(numbered(0, 99), 60), "");
     EXPECT_EQ(adjusted(numbered(0, 9), 3), ""); // less than one sentence due
     Text spaced = numbered(0, 99) + u"<p>";
-    EXPECT_EQ(utf8(Ajustar_KW(run, spaced, u"rose", 51)), "");
+    EXPECT_EQ(utf8(Ajustar_KW(form.choices, spaced, u"rose", 51)), "");
     EXPECT_EQ(utf8(spaced), utf8(numbered(0, 99) + u" <p> "));
 }
 
@@ -130,7 +123,7 @@ TEST_F(DensityAdjustment, holds_words_times_density_in_sixteen_bits) {
     EXPECT_EQ(fault_of([&] { adjusted(text, 50); }), fault_overflow);
     // So are the occurrences, and their share of the words.
     const auto with_letter = [&](Text letters) {
-        return fault_of([&] { Ajustar_KW(run, letters, u"a", 3); });
+        return fault_of([&] { Ajustar_KW(form.choices, letters, u"a", 3); });
     };
     EXPECT_EQ(with_letter(Text(40000, u'a') + u" one two"), fault_overflow);
     EXPECT_EQ(with_letter(Text(400, u'a')), fault_overflow);
@@ -174,24 +167,26 @@ TEST_F(DensityAdjustment, replaces_one_surplus_keyword_at_the_end_or_cuts_fifty_
 
 TEST_F(DensityAdjustment, grows_a_short_text_five_times_at_most) {
     form.settings.min_palabras = 30;
-    run.ultima_caja = 0;
-    run.contenidos[0] = numbered(0, 9);
+    run.boxes.ultima_caja = 0;
+    run.boxes.contenidos[0] = numbered(0, 9);
     Text text = u"a b";
     const Text ten = u" " + numbered(0, 9);
-    EXPECT_EQ(utf8(pocas_palabras(run, text)), utf8(u"a b" + ten + ten + u" " + numbered(0, 8)));
+    EXPECT_EQ(utf8(pocas_palabras(run.boxes, form.settings, text)),
+              utf8(u"a b" + ten + ten + u" " + numbered(0, 8)));
     form.settings.min_palabras = 5;
     text = u"a b";
-    EXPECT_EQ(utf8(pocas_palabras(run, text)), utf8(u"a b " + numbered(0, 3))); // one word over
+    EXPECT_EQ(utf8(pocas_palabras(run.boxes, form.settings, text)),
+              utf8(u"a b " + numbered(0, 3))); // one word over
     text = u"a b";
-    run.contenidos[0] = u"<p> <p> <p> <p> <p> x y z"; // tags use up what is needed
-    EXPECT_EQ(utf8(pocas_palabras(run, text)).find('x'), std::string::npos);
+    run.boxes.contenidos[0] = u"<p> <p> <p> <p> <p> x y z"; // tags use up what is needed
+    EXPECT_EQ(utf8(pocas_palabras(run.boxes, form.settings, text)).find('x'), std::string::npos);
 
-    run.contenidos[0] = u"";
+    run.boxes.contenidos[0] = u"";
     chance().fix_seed(3);
     Chance same;
     same.fix_seed(3);
     text = u"a";
-    EXPECT_EQ(utf8(pocas_palabras(run, text)), "a");
+    EXPECT_EQ(utf8(pocas_palabras(run.boxes, form.settings, text)), "a");
     for (int i = 0; i < 5; ++i) same.Rnd();
     EXPECT_EQ(chance().Rnd(), same.Rnd());
 }
@@ -206,13 +201,14 @@ TEST_F(DensityAdjustment, moves_only_long_texts_which_must_have_five_hundred_pie
 
 TEST_F(DensityAdjustment, makes_file_names) {
     form.Combo6.text = u"-";
-    EXPECT_EQ(utf8(rspaces(form, u"A\u00F1o Nuevo!")), "ano-nuevo");
-    EXPECT_EQ(utf8(rspaces(form, u"\u00C7\u20AC\u00A3\u0152 \u00C4\u00D6\u00DC \u00E0\u00C8\u00D9")),
+    EXPECT_EQ(utf8(rspaces(form.choices, u"A\u00F1o Nuevo!")), "ano-nuevo");
+    EXPECT_EQ(utf8(rspaces(form.choices, u"\u00C7\u20AC\u00A3\u0152 \u00C4\u00D6\u00DC \u00E0\u00C8\u00D9")),
               "cepc-aou-aeu");
-    EXPECT_EQ(utf8(rspaces(form, u"a?!#$%()@=\u00BF\u00A1:\"*'[]{+\u00AC<>b}")), "ab}");
-    EXPECT_EQ(utf8(rspaces(form, u"\u00D1 c,d/e\\f.g")), "\u00F1-c,d/e\\f.g"); // the capital stays itself
-    form.Combo6.text = u"*_"; // part of a separator may go again
-    EXPECT_EQ(utf8(rspaces(form, u"a b")), "a_b");
+    EXPECT_EQ(utf8(rspaces(form.choices, u"a?!#$%()@=\u00BF\u00A1:\"*'[]{+\u00AC<>b}")), "ab}");
+    EXPECT_EQ(utf8(rspaces(form.choices, u"\u00D1 c,d/e\\f.g")),
+              "\u00F1-c,d/e\\f.g"); // the capital stays itself
+    form.Combo6.text = u"*_";       // part of a separator may go again
+    EXPECT_EQ(utf8(rspaces(form.choices, u"a b")), "a_b");
 }
 
 } // namespace

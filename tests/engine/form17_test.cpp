@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "engine/form17.h"
-#include "shell/form2.h"
 #include "shell/module1.h"
 #include "support/temp_app.h"
 
@@ -12,7 +11,7 @@ namespace {
 class RandomNames : public testing::Test {
   protected:
     RandomNames() : form(screen<Form17>()) {
-        screen<Form2>().txt_name[0].text = u"shed";
+        form.project_name = u"shed";
         for (int i = 0; i < 4; ++i) {
             form.List1.add_item(names[i]);
             form.List2.add_item(u"http://h" + Text(1, static_cast<char16_t>(u'0' + i)));

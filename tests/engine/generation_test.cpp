@@ -81,11 +81,12 @@ TEST_F(GenerationRun, step_6_names_the_pages_and_its_cancel_leaves_the_old_ones)
     EXPECT_TRUE(app.exists(project.folder(u"old.htm")));
     const twk::Run& run = project.run();
     EXPECT_FALSE(run.finished);
-    EXPECT_EQ(run.terminos, (std::vector<Text>{u"cedar roof", u"Small Garden Shed", u"Garden Shed ",
-                                               u"Tool Rack ", u"folding workbench", u"workbench ", u""}));
-    EXPECT_EQ(run.tabla_kw.at(0, 0), u"Garden Shed"); // not measured yet
-    EXPECT_EQ(run.tabla_kw.at(1, 1), u"OakShed");     // stands in for subkeywords, and is no term
-    EXPECT_EQ(run.tabla_kw.at(3, 1), u"OakShed");     // in the empty row behind the last, too
+    EXPECT_EQ(run.project.terminos,
+              (std::vector<Text>{u"cedar roof", u"Small Garden Shed", u"Garden Shed ", u"Tool Rack ",
+                                 u"folding workbench", u"workbench ", u""}));
+    EXPECT_EQ(run.project.tabla_kw.at(0, 0), u"Garden Shed"); // not measured yet
+    EXPECT_EQ(run.project.tabla_kw.at(1, 1), u"OakShed");     // stands in for subkeywords, and is no term
+    EXPECT_EQ(run.project.tabla_kw.at(3, 1), u"OakShed");     // in the empty row behind the last, too
 }
 
 TEST_F(GenerationRun, too_few_pictures_leave_an_empty_tree) {
@@ -164,10 +165,10 @@ TEST_F(GenerationRun, boxes_have_the_densities_of_one_count_after_the_other) {
     const twk::Run& run = project.run();
     int found = 0;
     for (std::size_t b = 0; b < content.boxes.size(); ++b)
-        for (int k = 0; k < run.n_keywords; ++k) {
-            Text keyword = run.tabla_kw.at(k);
-            const double wanted = densidad(run.contenidos[b], keyword);
-            EXPECT_EQ(run.densidades[b].at(static_cast<std::size_t>(k)), wanted) << b << ' ' << k;
+        for (int k = 0; k < run.project.n_keywords; ++k) {
+            Text keyword = run.project.tabla_kw.at(k);
+            const double wanted = densidad(run.boxes.contenidos[b], keyword);
+            EXPECT_EQ(run.boxes.densidades[b].at(static_cast<std::size_t>(k)), wanted) << b << ' ' << k;
             found += wanted > 0 ? 1 : 0;
         }
     EXPECT_GT(found, 5);

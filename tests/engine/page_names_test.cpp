@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "engine/page_names.h"
-#include "engine/run.h"
 #include "inputs/form7.h"
 #include "support/faults.h"
-#include "support/temp_app.h"
+#include "support/lone_run.h"
 
 #include <gtest/gtest.h>
 
 namespace twk {
 namespace {
 
-class PageNames : public testing::Test {
+class PageNames : public testing::Test, public test::LoneRun {
   protected:
     PageNames() {
         form.Combo6.text = u"_";
@@ -21,27 +20,27 @@ class PageNames : public testing::Test {
     }
 
     void terms(std::vector<Text> all) {
-        run.n_terminos = static_cast<std::int16_t>(all.size());
-        run.terminos = std::move(all);
+        run.project.n_terminos = static_cast<std::int16_t>(all.size());
+        run.project.terminos = std::move(all);
     }
     std::vector<std::string> built(const char16_t* pages, const char16_t* share = u"0") {
         form.Combo2.text = Text(pages);
         form.Combo3.text = Text(share);
-        build_page_names(run);
+        build_page_names(run.plan, run.project, form.choices);
         std::vector<std::string> names;
-        for (const Text& name : run.nombres) names.push_back(to_utf8(name));
+        for (const Text& name : run.plan.nombres) names.push_back(to_utf8(name));
         return names;
     }
     /// Names of the plan once `names` are spread over `secondary` hosts beside the main one.
     std::vector<std::string> spread(std::vector<Text> names, const char16_t* pages, int secondary) {
         form.Combo2.text = Text(pages);
-        run.n_nombres = static_cast<std::int16_t>(names.size());
-        run.nombres = std::move(names);
+        run.plan.n_nombres = static_cast<std::int16_t>(names.size());
+        run.plan.nombres = std::move(names);
         ListBox& hosts = screen<Form7>().List1;
         for (int i = 1; i <= secondary; ++i) hosts.add_item(u"http://host" + from_utf8(std::to_string(i)));
-        distribute_pages(run);
+        distribute_pages(run.plan, form.choices);
         std::vector<std::string> planned;
-        for (const PlannedPage& page : run.paginas)
+        for (const PlannedPage& page : run.plan.paginas)
             planned.push_back(to_utf8(page.name + (page.host.empty() ? u"" : u" @ ") + page.host));
         return planned;
     }
@@ -52,10 +51,6 @@ class PageNames : public testing::Test {
         return static_cast<std::size_t>(std::count_if(
             names.begin(), names.end(), [](const auto& name) { return name.ends_with("_js"); }));
     }
-
-    test::TempApp app;
-    Form6 form;
-    twk::Run run{form};
 };
 
 TEST_F(PageNames, pair_every_term_with_every_term_and_take_every_second_from_the_far_end) {
@@ -66,7 +61,7 @@ TEST_F(PageNames, pair_every_term_with_every_term_and_take_every_second_from_the
     // One more than there are pairs: they start over. An odd count loses none.
     EXPECT_EQ(built(u"4"), (std::vector<std::string>{"red_shed_red_shed_a", "rack_rack_b", "rack_red_shed_a",
                                                      "red_shed_rack_b", "red_shed_red_shed_a"}));
-    EXPECT_EQ(run.n_nombres, 5);
+    EXPECT_EQ(run.plan.n_nombres, 5);
 }
 
 TEST_F(PageNames, letter_behind_z_sends_the_second_term_back) {
@@ -107,11 +102,11 @@ TEST_F(PageNames, hosts_share_the_pages_and_the_remainder_gets_none) {
     EXPECT_EQ(spread(names, u"5", 1),
               (std::vector<std::string>{"x @ http://main", "x1 @ http://main", "x @ http://host1",
                                         "x3 @ http://host1", "", "", ""}));
-    run.paginas.clear();
+    run.plan.paginas.clear();
     spread(std::vector<Text>(21, u"z"), u"20", 1); // two hosts beside the main one by now
-    EXPECT_EQ(run.paginas_host, 6);
-    EXPECT_EQ(run.paginas[17].host, u"http://host1");
-    EXPECT_TRUE(run.paginas[18].name.empty());
+    EXPECT_EQ(run.plan.paginas_host, 6);
+    EXPECT_EQ(run.plan.paginas[17].host, u"http://host1");
+    EXPECT_TRUE(run.plan.paginas[18].name.empty());
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "engine/run.h"
 #include "engine/synonyms.h"
 #include "engine/text_toolkit.h"
 #include "platform/numbers.h"
@@ -61,11 +60,10 @@ class Synonyms : public testing::Test {
             all.push_back({r.Fields(u"keyword").text(), r.Fields(u"synonyms").text()});
         return all;
     }
-    Text expanded(const Text& text) { return sinonimo(run, text); }
+    Text expanded(const Text& text) { return synonyms.sinonimo(text); }
 
     test::TempApp app;
-    Form6 form;
-    twk::Run run{form};
+    twk::Synonyms synonyms;
 };
 
 TEST_F(Synonyms, work_both_ways_and_take_the_dictionary_s_case) {

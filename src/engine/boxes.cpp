@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "engine/boxes.h"
+
+#include "engine/page_choices.h"
+#include "engine/project.h"
+#include "engine/text_toolkit.h"
+#include "platform/numbers.h"
+#include "platform/subscript.h"
+
+namespace twk {
+
+const Text& Boxes::box(int index) const {
+    return at(contenidos, index);
+}
+
+const Text& Boxes::split(int index) {
+    std::optional<Text>& kept = at(split_, index);
+    if (!kept) kept = split_sentences(box(index));
+    return *kept;
+}
+
+const SpacedText& Boxes::spaced(int index) {
+    std::unique_ptr<const SpacedText>& kept = at(spaced_, index);
+    if (!kept) kept = std::make_unique<SpacedText>(split(index));
+    return *kept;
+}
+
+Text split_sentences(TextView text) {
+    return Replace(text, u". ", u". <p>");
+}
+
+namespace {
+
+/// `densidad` of every keyword in a text that stands as a count of words leaves it, with so many words.
+std::vector<std::int16_t> densities(Project& project, const Text& t, std::int16_t words) {
+    std::vector<std::int16_t> all;
+    all.reserve(static_cast<std::size_t>(project.n_keywords));
+    const KeywordSet& set = project.keyword_set();
+    Text counted = t;
+    KeywordCounts counts(set, counted);
+    // A count would take these away, and make other words of the text.
+    const bool together =
+        !trim_view(t).empty() && !contains(t, keyword_joint) && !contains(t, highlight_opening);
+    for (int k = 0; k < project.n_keywords; ++k) {
+        Text& keyword = project.tabla_kw.cell(k);
+        all.push_back(together && set.known(k) ? CInt(por_ciento(counts.contar(k, keyword), words))
+                                               : CInt(densidad(t, keyword)));
+    }
+    return all;
+}
+
+} // namespace
+
+void measure_boxes(Boxes& boxes, Project& project, const PageChoices& choices) {
+    int i = 0;
+    for (Recordset rows = project.base_datos.OpenRecordset(u"select * from content where pid = " +
+                                                           to_text(choices.project_key()));
+         !rows.eof(); rows.MoveNext(), ++i) {
+        Text& kept = at(boxes.contenidos, i);
+        Text raw = rows.Fields(u"content").text();
+        Text t = limpiar_html(raw);
+        const std::int16_t words = contar_palabras(t); // spaces the tags of what is kept
+        at(boxes.palabras_caja, i) = words;
+        at(boxes.densidades, i) = densities(project, t, words);
+        kept = std::move(t);
+    }
+    boxes.ultima_caja = static_cast<std::int16_t>(i - 1);
+}
+
+} // namespace twk

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "reports/shown_report.h"
+
+#include "engine/project.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "reports/form12.h"
+#include "settings/form6.h"
+
+namespace twk {
+
+void ShownReport::switch_on() {
+    form_.informe_activo = true;
+}
+
+void ShownReport::begin(const Project& project) {
+    Form12& report = screen<Form12>();
+    report.ProgressBar1.set_value(CDbl(u"0,0001"));
+    for (ListBox* list : {&report.List1, &report.List2, &report.List3}) list->clear();
+    screens().show<Form12>();
+    DoEvents();
+    report.reporte2(project.total_sub);
+    report.Reporte(project.tabla_kw, project.n_keywords);
+}
+
+void ShownReport::status(const Text& text) {
+    screen<Form12>().Label2.caption = text;
+}
+
+double ShownReport::progress() const {
+    return screen<Form12>().ProgressBar1.value();
+}
+
+void ShownReport::set_progress(double per_cent) {
+    screen<Form12>().ProgressBar1.set_value(per_cent);
+}
+
+void ShownReport::analyse(const WrittenPage& page, std::int16_t index) {
+    if (form_.informe_activo)
+        screen<Form12>().reporte2_2(page.path, page.text, index, page.kind, page.links_to, page.redirects,
+                                    u"");
+}
+
+void ShownReport::finish(int first_level_pages, const PageCounts& counts) {
+    Form12& report = screen<Form12>();
+    report.reporte2_3(first_level_pages);
+    report.reporte_nivel2(counts.first_level, counts.second_level);
+    report.reporte_nivel3(counts.second_level, counts.random);
+    report.ProgressBar1.set_value(100);
+    DoEvents();
+    screen<Form12>().Command2.enabled = true;
+}
+
+} // namespace twk

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/run_report.h"
+
+namespace twk {
+
+class Form6;
+
+/// The report of a run in `Form12`, which is loaded when it is told of something.
+class ShownReport : public RunReport {
+  public:
+    explicit ShownReport(Form6& form) : form_(form) {}
+
+    void switch_on() override;
+    void begin(const Project& project) override;
+    void status(const Text& text) override;
+    double progress() const override;
+    void set_progress(double per_cent) override;
+    void analyse(const WrittenPage& page, std::int16_t index) override;
+    void finish(int first_level_pages, const PageCounts& counts) override;
+
+  private:
+    Form6& form_; ///< knows whether reports are made
+};
+
+} // namespace twk
