@@ -31,7 +31,7 @@ void write_title(Run& run, Text& keyword) {
 }
 
 void write_page(Run& run) {
-    const NameIndex::SteadyFolders steady;
+    const NameIndex::SoleWriter alone;
     Text keyword = run.keyword();
     const Text path = run.plan.in_main_folder(rspaces(run.choices, keyword) + run.plan.extension);
     OpenPage& page = run.page;

@@ -68,7 +68,7 @@ void write_title(Run& run) {
 }
 
 void write_page(RandomPhase& phase, int destination, int n, int c) {
-    const NameIndex::SteadyFolders steady;
+    const NameIndex::SoleWriter alone;
     Run& run = phase.run;
     OpenPage& page = run.page;
     const Text path = phase.carpeta + Text(path_separator) + take_name(phase, destination, n, c);

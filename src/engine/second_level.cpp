@@ -36,7 +36,7 @@ void write_title(Run& run, Text& sub) {
 }
 
 void write_page(Run& run, const Text& keyword, const Text& subkeyword) {
-    const NameIndex::SteadyFolders steady;
+    const NameIndex::SoleWriter alone;
     OpenPage& page = run.page;
     SecondLevelPage sub{run, subkeyword};
     sub.nombre_relativo = rspaces(run.choices, keyword) + run.plan.separador +

@@ -48,7 +48,7 @@ Text preparar_texto(Text& texto) {
     replace_all(texto, u")", u") ");
     replace_all(texto, u"<", u" <");
     replace_all(texto, u">", u"> ");
-    replace_all(texto, u"\"", u"");
+    replace_all(texto, uR"(")", u"");
     Text limpio = texto;
     quitar_dobles(limpio);
     return Trim(limpio);

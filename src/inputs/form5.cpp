@@ -7,6 +7,7 @@
 #include "inputs/form7.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
+#include "platform/subscript.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
 #include "store/stores.h"
@@ -23,12 +24,6 @@ constexpr int full_list = 99;
 constexpr int few_words = 100;
 /// Name that the font dialog starts from each time; its other values stay as the last one left them.
 constexpr TextView list_font = u"MS Sans Serif";
-
-/// Fault 9 outside the table.
-Text& cell(std::array<Text, max_boxes>& table, int index) {
-    if (index < 0 || index >= max_boxes) throw RuntimeFault(fault_subscript);
-    return table[static_cast<std::size_t>(index)];
-}
 
 const Text& project_name() {
     return screen<Form2>().txt_name[0].text();
@@ -109,8 +104,8 @@ void Form5::refrescar_cajas() {
              base_datos_.OpenRecordset(u"select * from content where pid = " + to_text(module1().pid_actual));
          !row.eof(); row.MoveNext(), ++n) {
         const Text text = row.Fields(u"content").text();
-        cell(caja_texto, n) = text;
-        cell(caja_cid, n) = row.Fields(u"cid").text();
+        at(caja_texto, n) = text;
+        at(caja_cid, n) = row.Fields(u"cid").text();
         List1.add_item(to_text(n + 1) + u". " + Trim(Left(text, 70)) + u" ... ");
     }
     rt1.text = u"";
@@ -118,7 +113,7 @@ void Form5::refrescar_cajas() {
 
 void Form5::List1_Click() {
     if (List1.list_index() < 0) return;
-    rt1.text = Replace(cell(caja_texto, List1.list_index()), vbCrLf, u" ");
+    rt1.text = Replace(at(caja_texto, List1.list_index()), vbCrLf, u" ");
     // The box as selected: what the critic changes in the editor counts as unsaved.
     RTAux = rt1.text();
     criticar();
@@ -162,7 +157,7 @@ void Form5::Command5_Click() {
     base_datos_ = open_hive();
     // After a No above there is no box to write to: a subscript fault, and nothing is saved.
     Recordset row =
-        base_datos_.OpenRecordset(u"select * from content WHERE cid = " + cell(caja_cid, List1.list_index()));
+        base_datos_.OpenRecordset(u"select * from content WHERE cid = " + at(caja_cid, List1.list_index()));
     row.Edit();
     write_content(row);
     rt1.text = u"";
@@ -184,7 +179,7 @@ void Form5::Command3_Click() {
     const int count = List1.list_count();
     for (int i = 0; i < count; ++i) {
         if (!List1.selected(i)) continue;
-        const Text cid = cell(caja_cid, i);
+        const Text cid = at(caja_cid, i);
         const Text where = u"from ties where cid = " + cid + u" and pid  = " + to_text(pid_form);
         if (!base_datos_.OpenRecordset(u"select * " + where).eof()) base_datos_.Execute(u"delete " + where);
         base_datos_.Execute(u"delete from content where cid = " + cid);
@@ -243,7 +238,7 @@ void Form5::cmdtie_Click() {
         MsgBox(u"You have to select any content or keyword");
         return;
     }
-    const Text cid = cell(caja_cid, List1.list_index());
+    const Text cid = at(caja_cid, List1.list_index());
     const Text& chosen = lstkeyword.list(lstkeyword.list_index());
     const Text keyid = Trim(Left(chosen, InStr(chosen, u"-") - 1));
     base_datos_ = open_hive();

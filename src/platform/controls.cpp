@@ -3,6 +3,7 @@
 
 #include "platform/desktop.h"
 #include "platform/files.h"
+#include "platform/subscript.h"
 
 #include <algorithm>
 #include <string_view>
@@ -139,10 +140,7 @@ void Grid::clear() {
 }
 
 void Grid::set_cell(int at_row, int column, Text text) {
-    if (at_row < 1 || at_row > static_cast<int>(rows.size()) || column < 0 ||
-        column >= static_cast<int>(header.size()))
-        throw RuntimeFault(fault_subscript);
-    rows[static_cast<std::size_t>(at_row - 1)][static_cast<std::size_t>(column)] = std::move(text);
+    at(at(rows, at_row - 1), column) = std::move(text);
     observer(Prop::cells);
 }
 

@@ -18,7 +18,7 @@ namespace {
 struct Folder {
     timespec changed{};
     ino_t inode = 0;
-    int checked = 0;    ///< number of the steady time in which it was found unchanged
+    int checked = 0;    ///< number of the sole writer beside which it was found unchanged
     bool stale = false; ///< changed by the program since it was stamped
     std::unordered_map<std::string, std::string> names; ///< lower case to the name on disk
 };
@@ -30,8 +30,8 @@ std::unordered_map<std::string, Folder>& folders() {
     return all;
 }
 
-int steady_depth = 0;
-int steady_number = 0;
+int sole_writers = 0;
+int sole_writer_number = 0;
 
 std::string folded(const std::string& name) {
     return to_utf8(LCase(from_utf8(name)));
@@ -63,15 +63,15 @@ bool stamp(const std::string& folder, Folder& kept) {
 /// The kept names of a folder, read again when it has changed; null when it cannot be read.
 const Folder* names_in(const std::string& folder) {
     const auto kept = folders().find(folder);
-    if (steady_depth > 0 && kept != folders().end() && kept->second.checked == steady_number)
+    if (sole_writers > 0 && kept != folders().end() && kept->second.checked == sole_writer_number)
         return &kept->second;
     Folder now;
     if (!stamp(folder, now)) return nullptr;
-    now.checked = steady_number;
+    now.checked = sole_writer_number;
     if (kept != folders().end() && kept->second.inode == now.inode &&
         kept->second.changed.tv_sec == now.changed.tv_sec &&
         kept->second.changed.tv_nsec == now.changed.tv_nsec) {
-        kept->second.checked = steady_number;
+        kept->second.checked = sole_writer_number;
         return &kept->second;
     }
     DIR* const open = ::opendir(folder.c_str());
@@ -82,9 +82,9 @@ const Folder* names_in(const std::string& folder) {
     return &(folders()[folder] = std::move(now));
 }
 
-/// The program has changed the folder itself. Its time is taken at once, or at the end of the steady time.
+/// The program has changed the folder itself. Its time is taken at once, or when the sole writer ends.
 void changed_here(const std::string& folder, Folder& kept) {
-    if (steady_depth > 0)
+    if (sole_writers > 0)
         kept.stale = true;
     else
         stamp(folder, kept);
@@ -92,18 +92,18 @@ void changed_here(const std::string& folder, Folder& kept) {
 
 } // namespace
 
-NameIndex::SteadyFolders::SteadyFolders() {
-    if (++steady_depth == 1) ++steady_number;
+NameIndex::SoleWriter::SoleWriter() {
+    if (++sole_writers == 1) ++sole_writer_number;
 }
 
-NameIndex::SteadyFolders::~SteadyFolders() {
-    if (--steady_depth > 0) return;
+NameIndex::SoleWriter::~SoleWriter() {
+    if (--sole_writers > 0) return;
     for (auto& [folder, kept] : folders())
         if (std::exchange(kept.stale, false)) stamp(folder, kept);
 }
 
 bool NameIndex::is_missing(const std::string& path) {
-    if (steady_depth == 0 || path.find('/') == std::string::npos) return false;
+    if (sole_writers == 0 || path.find('/') == std::string::npos) return false;
     const Folder* const names = names_in(folder_of(path));
     return names != nullptr && !names->names.contains(folded(name_of(path)));
 }

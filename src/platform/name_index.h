@@ -15,21 +15,21 @@ std::string find(const std::string& path);
 void entry_added(const std::string& path);
 void entry_removed(const std::string& path);
 
-/// Whether what is kept tells that there is no entry of that name, in whatever case. Only while folders are
-/// steady; false where it is not known.
+/// Whether what is kept tells that there is no entry of that name, in whatever case. Only beside a sole
+/// writer; false where it is not known.
 bool is_missing(const std::string& path);
 
 /// Drops all that is kept.
 void forget();
 
-/// While one lives, the folders that are looked at count as changed by this program alone: each is checked
+/// While one lives, this program counts as the only one that changes the folders it looks at: each is checked
 /// once, and the kept names tell what is there. For the short time in which one page is made.
-class SteadyFolders {
+class SoleWriter {
   public:
-    SteadyFolders();
-    ~SteadyFolders();
-    SteadyFolders(const SteadyFolders&) = delete;
-    SteadyFolders& operator=(const SteadyFolders&) = delete;
+    SoleWriter();
+    ~SoleWriter();
+    SoleWriter(const SoleWriter&) = delete;
+    SoleWriter& operator=(const SoleWriter&) = delete;
 };
 
 /// The path with another last name.

@@ -70,7 +70,7 @@ TextView Cutter::text() {
     const TextView text = html_.substr(from, at_ - from);
     // A reference to a character begins with "&" and a letter or "#".
     for (std::size_t i = 0; ampersands_ && (i = position(text, u"&", i)) != TextView::npos; ++i)
-        if (i + 1 == text.size() || !is_blank(text[i + 1])) throw Unknown();
+        if (i + 1 == text.size() || !is_blank(text[i + 1])) throw NotPlain();
     return text;
 }
 
@@ -85,7 +85,7 @@ std::optional<Tag> Cutter::tag() {
         tag.end = true;
         ++at_;
     }
-    if (!is_letter(unit())) throw Unknown();
+    if (!is_letter(unit())) throw NotPlain();
     tag.element = element();
     skip_attributes();
     return tag;
@@ -95,25 +95,25 @@ void Cutter::skip_to_end_of(TextView name, bool script) {
     const std::size_t from = at_;
     for (;; ++at_) {
         at_ = position(html_, u"</", at_);
-        if (at_ == TextView::npos) throw Unknown();
+        if (at_ == TextView::npos) throw NotPlain();
         const TextView found = html_.substr(at_ + 2, name.size());
         const char16_t behind = unit(name.size() + 2);
         if (is_name(found, name) && (is_blank(behind) || behind == u'>' || behind == u'/')) break;
     }
-    if (script && html_.substr(from, at_ - from).find(u"<!--") != TextView::npos) throw Unknown();
+    if (script && html_.substr(from, at_ - from).find(u"<!--") != TextView::npos) throw NotPlain();
     at_ += name.size() + 2;
     skip_attributes();
 }
 
 void Cutter::skip_comment() {
-    if (html_.substr(at_, 3) != u"!--") throw Unknown();
+    if (html_.substr(at_, 3) != u"!--") throw NotPlain();
     at_ += 3;
     const std::size_t end = position(html_, u"-->", at_);
-    if (end == TextView::npos || unit() == u'>' || end == at_) throw Unknown();
+    if (end == TextView::npos || unit() == u'>' || end == at_) throw NotPlain();
     const TextView comment = html_.substr(at_, end - at_);
     // "--!>" ends a comment, too; a dash before the end makes it the parser's business.
     if (comment.starts_with(u"->") || comment.ends_with(u"-") || comment.find(u"--!") != TextView::npos)
-        throw Unknown();
+        throw NotPlain();
     at_ = end + 3;
 }
 
@@ -126,7 +126,7 @@ Element Cutter::element() {
         if (known.name.front() == first && is_name(name, known.name)) return {known.kind, known.number};
     // What is no name of HTML is an inline element like any other.
     if (!std::all_of(name.begin(), name.end(), is_letter_or_digit)) return {Kind::marks, 0};
-    throw Unknown();
+    throw NotPlain();
 }
 
 void Cutter::skip_blanks() {
@@ -136,7 +136,7 @@ void Cutter::skip_blanks() {
 void Cutter::skip_attributes() {
     for (;;) {
         while (is_blank(unit()) || unit() == u'/') ++at_;
-        if (at_end()) throw Unknown();
+        if (at_end()) throw NotPlain();
         if (unit() == u'>') break;
         ++at_; // a name may begin with "="
         while (!at_end() && !is_blank(unit()) && unit() != u'/' && unit() != u'>' && unit() != u'=') ++at_;
@@ -146,7 +146,7 @@ void Cutter::skip_attributes() {
         skip_blanks();
         if (const char16_t quote = unit(); quote == u'"' || quote == u'\'') {
             at_ = html_.find(quote, at_ + 1);
-            if (at_ == TextView::npos) throw Unknown();
+            if (at_ == TextView::npos) throw NotPlain();
             ++at_;
         } else {
             while (!at_end() && !is_blank(unit()) && unit() != u'>') ++at_;

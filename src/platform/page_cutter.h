@@ -43,14 +43,14 @@ struct Tag {
     bool end = false;
 };
 
-/// The page is none of those that are known here.
-struct Unknown {};
+/// The page holds what the pages of this program do not hold, or not in this place.
+struct NotPlain {};
 
 inline bool is_blank(char16_t c) {
     return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r' || c == u'\f';
 }
 
-/// Cuts a page into text and tags; comments fall away. Whatever is not certain throws `Unknown`.
+/// Cuts a page into text and tags; comments fall away. Whatever is not certain throws `NotPlain`.
 class Cutter {
   public:
     explicit Cutter(TextView html) : html_(html), ampersands_(contains(html, u"&")) {}

@@ -102,7 +102,7 @@ class Walk {
     /// The next tag, with nothing but blanks and comments before it.
     Tag bare_tag() {
         for (;;) {
-            if (!only_blanks(cutter_.text()) || cutter_.at_end()) throw Unknown();
+            if (!only_blanks(cutter_.text()) || cutter_.at_end()) throw NotPlain();
             if (const std::optional<Tag> tag = cutter_.tag()) return *tag;
         }
     }
@@ -110,19 +110,19 @@ class Walk {
     void read_head() {
         for (int number = 0; number < 2; ++number) { // html, then head
             const Tag tag = bare_tag();
-            if (tag.end || tag.element != Element{Kind::page, number}) throw Unknown();
+            if (tag.end || tag.element != Element{Kind::page, number}) throw NotPlain();
         }
         for (;;) {
             const Tag tag = bare_tag();
             if (tag.element == Element{Kind::page, 1} && tag.end) break;
-            if (tag.end) throw Unknown();
+            if (tag.end) throw NotPlain();
             if (tag.element.kind == Kind::title)
                 cutter_.skip_to_end_of(u"title", false);
             else if (tag.element.kind != Kind::meta)
-                throw Unknown();
+                throw NotPlain();
         }
         const Tag tag = bare_tag();
-        if (tag.end || tag.element != Element{Kind::page, 2}) throw Unknown();
+        if (tag.end || tag.element != Element{Kind::page, 2}) throw NotPlain();
     }
 
     // The open elements that count
@@ -190,7 +190,7 @@ class Walk {
     void take_text(TextView text) {
         if (text.empty()) return;
         if (mode_ != Mode::body && mode_ != Mode::cell && !only_blanks(text))
-            throw Unknown(); // goes before the table
+            throw NotPlain(); // goes before the table
         lines_.words(text);
         if (inside_ == Inside::nothing) inside_ = Inside::uncertain; // an element may have been opened again
     }
@@ -242,14 +242,14 @@ class Walk {
         case Kind::body_part:
         case Kind::row:
         case Kind::cell: break; // outside a table they are nothing
-        default: throw Unknown();
+        default: throw NotPlain();
         }
     }
 
     void start_heading(Element element) {
         close_paragraph();
         if (current() == Kind::heading) {
-            if (inside_ == Inside::uncertain) throw Unknown();
+            if (inside_ == Inside::uncertain) throw NotPlain();
             if (inside_ == Inside::nothing) pop();
         }
         push(element);
@@ -296,9 +296,9 @@ class Walk {
         case Kind::row:
         case Kind::cell: break; // nothing of them is open
         case Kind::page:
-            if (element.number == 1) throw Unknown();
+            if (element.number == 1) throw NotPlain();
             break; // what follows belongs to the body all the same
-        default: throw Unknown();
+        default: throw NotPlain();
         }
     }
 
@@ -324,16 +324,16 @@ class Walk {
             mode_ = Mode::body_part;
             return in_body_part(tag);
         case Kind::table:
-            if (!tag.end) throw Unknown();
+            if (!tag.end) throw NotPlain();
             pop_through(is(Kind::table));
             return reset_mode();
         case Kind::script:
-            if (tag.end) throw Unknown();
+            if (tag.end) throw NotPlain();
             return cutter_.skip_to_end_of(u"script", true);
         case Kind::page:
             if (tag.end && tag.element.number != 1) return;
-            throw Unknown();
-        default: throw Unknown();
+            throw NotPlain();
+        default: throw NotPlain();
         }
     }
 
@@ -389,7 +389,7 @@ class Walk {
         if (tag.end && of_table) {
             if (!in_table_scope(is(tag.element))) return;
         } else if (tag.end && kind == Kind::page) {
-            if (tag.element.number == 1) throw Unknown();
+            if (tag.element.number == 1) throw NotPlain();
             return;
         } else if (tag.end || (kind != Kind::cell && kind != Kind::body_part && kind != Kind::row)) {
             return in_body(tag);
@@ -426,7 +426,7 @@ std::optional<Text> plain_page_text(TextView html) {
     if (!is_plain(html)) return std::nullopt;
     try {
         return Walk(html).whole();
-    } catch (const Unknown&) {
+    } catch (const NotPlain&) {
         return std::nullopt;
     }
 }

@@ -13,6 +13,7 @@
 #include "platform/files.h"
 #include "platform/html.h"
 #include "platform/numbers.h"
+#include "platform/subscript.h"
 #include "settings/form6.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
@@ -88,7 +89,7 @@ void Form12::Reporte(const KeywordTable& tabla, int keywords) {
     informe.clear();
     informe.resize(static_cast<std::size_t>(CLng(pages)) + 1);
     xKeyWords.resize(static_cast<std::size_t>(n_kw));
-    for (int k = 0; k < n_kw; ++k) xKeyWords[static_cast<std::size_t>(k)] = tabla.at(k);
+    for (int k = 0; k < n_kw; ++k) at(xKeyWords, k) = tabla.at(k);
 }
 
 const KeywordSet& Form12::keyword_set() {
@@ -145,8 +146,8 @@ void Form12::reporte2_2(const Text& path, const Text& page, std::int16_t& index,
         desktop().show_html(wb1, page);
         DoEvents();
     });
-    if (index < 0 || static_cast<std::size_t>(index) >= informe.size()) return;
-    PageAnalysis& entry = informe[static_cast<std::size_t>(index)];
+    if (index < 0 || std::cmp_greater_equal(index, informe.size())) return;
+    PageAnalysis& entry = at(informe, index);
     entry = {};
     entry.keywords.resize(static_cast<std::size_t>(n_kw));
     entry.path = path;
@@ -165,7 +166,7 @@ void Form12::reporte2_2(const Text& path, const Text& page, std::int16_t& index,
 void Form12::fill_list(ListBox& list, int first, int end, int width) {
     list.clear();
     for (int i = first; i < end && i < static_cast<int>(informe.size()); ++i)
-        list.add_item(Right(informe[static_cast<std::size_t>(i)].file, width));
+        list.add_item(Right(at(informe, i).file, width));
 }
 
 void Form12::reporte2_3(int first_level_pages) {
@@ -199,8 +200,7 @@ void Form12::List_Click(int list) {
 void Form12::Show_reporte(int position, int list) {
     Command3.enabled = true;
     const int index = position + (list == 2 ? inicio2 : list == 3 ? inicio3 : 0);
-    if (index < 0 || static_cast<std::size_t>(index) >= informe.size()) throw RuntimeFault(fault_subscript);
-    const PageAnalysis& page = informe[static_cast<std::size_t>(index)];
+    const PageAnalysis& page = at(informe, index);
     desktop().navigate(wb1, page.path);
     RichTextBox1.text = report_text(page, list);
 }

@@ -7,6 +7,7 @@
 #include "platform/faults.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
+#include "platform/subscript.h"
 #include "settings/form6.h"
 #include "settings/key_table.h"
 #include "shell/module1.h"
@@ -60,11 +61,6 @@ std::vector<TextView> list_pieces(TextView value) {
     return split_views(value, u";");
 }
 
-template <class Array> auto& entry(Array& array, std::size_t index) {
-    if (index >= array.size()) throw RuntimeFault(fault_subscript);
-    return array[index];
-}
-
 /// Text of a list's entry: quotes delimit, blanks around do not count.
 Text entry_text(TextView piece) {
     return Trim(Replace(piece, u"\"", u" "));
@@ -106,11 +102,11 @@ void cargar_valor(GatewaySettings& settings, Text linea, int indice) {
         // Entries of an earlier load behind the last piece stay.
         for (std::size_t i = 0; i < pieces.size(); ++i) {
             if (indice == 1) {
-                entry(settings.numeros_6a, i) = CInt(entry_text(pieces[i]));
+                at(settings.numeros_6a, i) = CInt(entry_text(pieces[i]));
                 continue;
             }
             auto& list = indice == 2 ? settings.palabras_ancla : settings.frases_link;
-            entry(list, i) = Replace(without_quotes(trim_view(pieces[i])), u"  ", u" ");
+            at(list, i) = Replace(without_quotes(trim_view(pieces[i])), u"  ", u" ");
         }
         return;
     }
@@ -124,8 +120,7 @@ void cargar_valor(GatewaySettings& settings, Text linea, int indice) {
 
 void cargar_frase(GatewaySettings& settings, Text linea, int indice) {
     valor1(linea);
-    entry(settings.frases, static_cast<std::size_t>(indice)) =
-        Replace(without_quotes(trim_view(linea)), stored_quote, u"\"");
+    at(settings.frases, indice) = Replace(without_quotes(trim_view(linea)), stored_quote, u"\"");
 }
 
 namespace {
@@ -251,7 +246,7 @@ Text text_value(Form6& form, const Key& key) {
     if (const auto* combo = std::get_if<ComboBox Form6::*>(&key.target)) return (form.**combo).text();
     const int indice = std::get<int>(key.target);
     if (key.load == Load::last_unit) return option_value(form, key.key);
-    if (key.load == Load::phrase) return form.settings.frases[static_cast<std::size_t>(indice)];
+    if (key.load == Load::phrase) return at(form.settings.frases, indice);
     return *record_text(form.settings, indice);
 }
 

@@ -144,8 +144,10 @@ const std::vector<Text>& StepChoices::pictures() const {
 
 Layout StepChoices::layout() const {
     int index = 0;
-    while (index < static_cast<int>(Layout::none) && !form_.Template[static_cast<std::size_t>(index)].value())
+    for (const OptionButton& option : form_.Template) {
+        if (option.value()) break;
         ++index;
+    }
     return static_cast<Layout>(index);
 }
 

@@ -25,7 +25,7 @@ const std::vector<MenuEntry>& mdi1::menu() {
         {"c", u"&About", u"", ""},
         {"c1", u"About", u"", "c", true},
         {"c2", u"Disclaimer", u"Ctrl+D", "c", true},
-        {"c9", u"-", u"", "c"}, // two separators in a row, as designed
+        {"c9", u"-", u"", "c"}, // two separators in a row are meant
         {"c5", u"-", u"", "c"},
         {"c3", u"TWK WebSite", u"Ctrl+W", "c", true},
         {"win", u"&Windows", u"", ""},

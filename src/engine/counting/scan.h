@@ -10,7 +10,7 @@
 namespace twk {
 
 /// Opening of a keyword highlight; the counts do not see it.
-inline constexpr TextView highlight_opening = u"<span style=\"background-color: #FFFF97\">";
+inline constexpr TextView highlight_opening = uR"(<span style="background-color: #FFFF97">)";
 
 /// Stands for a blank inside a keyword while it is counted; a count turns it to a blank.
 inline constexpr TextView keyword_joint = u"$$$";
