@@ -22,11 +22,10 @@ Text& KeywordTable::cell(int row, int column) {
     return cells[static_cast<std::size_t>(column)];
 }
 
-std::vector<Text> Project::keywords() const {
-    std::vector<Text> all;
-    all.reserve(static_cast<std::size_t>(n_keywords));
-    for (int k = 0; k < n_keywords; ++k) all.push_back(tabla_kw.at(k));
-    return all;
+const std::vector<Text>& Project::keywords() {
+    keywords_.resize(static_cast<std::size_t>(n_keywords));
+    for (int k = 0; k < n_keywords; ++k) at(keywords_, k) = tabla_kw.at(k); // seldom another one
+    return keywords_;
 }
 
 const KeywordSet& Project::keyword_set() {

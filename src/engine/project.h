@@ -30,8 +30,8 @@ struct Project {
     std::vector<Text> terminos; ///< 0 to total_terminos; keywords keep a trailing blank
     std::int16_t n_terminos = 0;
 
-    /// Column 0 of the table, as far as there are keywords.
-    std::vector<Text> keywords() const;
+    /// Column 0 of the table, as far as there are keywords and as it is now.
+    const std::vector<Text>& keywords();
     /// The keywords, to be counted together; made when first asked for.
     const KeywordSet& keyword_set();
     /// Keywords joined by " , " from the first row on, each with the separator in front.
@@ -40,6 +40,7 @@ struct Project {
     KeywordMarks marks;
 
   private:
+    std::vector<Text> keywords_;
     std::optional<KeywordSet> keyword_set_;
 };
 
