@@ -8,7 +8,7 @@
 
 namespace twk {
 
-/// Numbers of the faults.
+/// Numbers of the faults that the platform and the store throw.
 enum Fault : int {
     fault_argument = 5,
     fault_overflow = 6,
@@ -37,9 +37,8 @@ enum Fault : int {
     fault_timed_out = 35761,
 };
 
-/// A run-time fault: what an operation of the platform or the store cannot do, an index outside its list, or
-/// what a run finds its project to lack. Caught by the few routines that trap faults and by the dispatcher of
-/// events.
+/// A run-time fault: thrown by the platform and the store alone, caught by the few routines that trap faults
+/// and by the dispatcher of events.
 class RuntimeFault : public std::exception {
   public:
     RuntimeFault(int number, Text text);

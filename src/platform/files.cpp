@@ -218,6 +218,12 @@ Text TextStream::readline() {
     return line;
 }
 
+Text TextStream::ReadAll() {
+    Text rest = content_.substr(at_);
+    at_ = content_.size();
+    return rest;
+}
+
 bool TextStream::AtEndOfStream() const {
     return at_ >= content_.size();
 }
@@ -357,6 +363,11 @@ bool dir_exists(const Text& path) {
 }
 bool file_exists(const Text& path) {
     return is_kind(path, S_IFREG);
+}
+
+Text Dir(const Text& path) {
+    if (!file_exists(path)) return {};
+    return file_part(from_utf8(disk_path(path)));
 }
 
 void MkDir(const Text& path) {

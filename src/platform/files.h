@@ -34,6 +34,8 @@ class TextStream {
 
     /// The next line without its end. Fault 62 at the end of the file.
     Text readline();
+    /// All that has not been read yet.
+    Text ReadAll();
     bool AtEndOfStream() const;
 
     void write(TextView text);
@@ -98,9 +100,11 @@ class ReplacedFile {
     bool missing_;
 };
 
-/// Whether there is a folder or a file of that name.
+/// Whether there is a folder (`Dir` with the directory attribute) or a file of that name.
 bool dir_exists(const Text& path);
 bool file_exists(const Text& path);
+/// Name of the file when there is one, empty otherwise.
+Text Dir(const Text& path);
 /// Fault 75 when it is there already, 76 when its parent is not.
 void MkDir(const Text& path);
 /// An empty folder; otherwise fault 75.

@@ -6,7 +6,7 @@
 #include <vector>
 
 /// Text as the whole program holds it: 16-bit units; lengths and positions count units, and positions start
-/// at 1. What an operation does at the edges stands with it.
+/// at 1. The operations bear the names under which they are known, with exactly their known rules.
 namespace twk {
 
 using Text = std::u16string;
@@ -52,6 +52,9 @@ inline char16_t lower(char16_t unit) {
     if (unit >= 0x80) return lower_beyond_ascii(unit);
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
 }
+
+/// Units in reverse order.
+Text StrReverse(TextView text);
 
 bool contains(TextView text, TextView find);
 /// Equality without regard to case.

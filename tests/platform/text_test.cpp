@@ -62,6 +62,7 @@ TEST(Case, FollowsAllLettersAndTrimTakesBlanksOnly) {
     EXPECT_FALSE(same_text(u"elan", u"élan"));
     EXPECT_EQ(Trim(u"  \t a \r\n "), u"\t a \r\n");
     EXPECT_EQ(Trim(u"   "), u"");
+    EXPECT_EQ(StrReverse(u"abc"), u"cba");
 }
 
 TEST(Utf8, GoesBothWaysAndMarksWhatIsNone) {
