@@ -20,6 +20,7 @@
 #include "platform/desktop.h"
 #include "platform/html.h"
 #include "reports/form12.h"
+#include "settings/form6.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
 #include "store/store_setup.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "engine/run.h"
+#include "engine/keyword_table.h"
 #include "inputs/form7.h"
 #include "reports/form12.h"
+#include "settings/form6.h"
 #include "shell/form2.h"
 #include "support/faults.h"
 #include "support/temp_app.h"

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/run.h"
+#include "settings/form6.h"
 #include "support/temp_app.h"
 
 #include <vector>
