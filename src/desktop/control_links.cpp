@@ -19,7 +19,9 @@
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTableWidget>
+#include <QTextCursor>
 #include <QTextDocument>
+#include <type_traits>
 
 namespace twk {
 
@@ -36,12 +38,19 @@ Text edited_text(const QPlainTextEdit& editor) {
     return from_qt(text);
 }
 
+/// One insertion, however long the text already is. It is no change that the user could take back.
+void put_in_front(QPlainTextEdit& editor, const QString& piece) {
+    QTextCursor front(editor.document());
+    front.insertText(piece);
+}
+
 template <class Box> bool link_editor(const ControlLink<Box>& link, QPlainTextEdit& editor) {
     editor.setReadOnly(editor.isReadOnly() || link.control.read_only);
     watch_control(link, {Prop::text}, [&editor, &box = link.control](Prop changed) {
-        if (changed != Prop::text) return;
         const QSignalBlocker quiet(editor);
-        editor.setPlainText(to_qt(box.text()));
+        if (changed == Prop::text) editor.setPlainText(to_qt(box.text()));
+        if constexpr (std::is_same_v<Box, TextBox>)
+            if (changed == Prop::front) put_in_front(editor, to_qt(box.text.newest()));
     });
     QObject::connect(&editor, &QPlainTextEdit::textChanged, &link.binding, [link, &editor] {
         if (link.binding.screen() == nullptr) return;
@@ -58,7 +67,7 @@ bool link_line(const ControlLink<TextBox>& link, QLineEdit& line) {
     line.setMaxLength(longest);
     line.setReadOnly(line.isReadOnly() || link.control.read_only);
     watch_control(link, {Prop::text}, [&line, &box = link.control](Prop changed) {
-        if (changed == Prop::text) line.setText(to_qt(box.text()));
+        if (changed == Prop::text || changed == Prop::front) line.setText(to_qt(box.text()));
     });
     QObject::connect(&line, &QLineEdit::textEdited, &link.binding, [link](const QString& text) {
         if (link.binding.screen() == nullptr) return;

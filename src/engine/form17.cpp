@@ -40,7 +40,7 @@ void write_list(const Form17& form, const Text& path) {
         u"the keywords.");
     out->writeline(u"#");
     out->Close();
-    fso.MoveOver(aux, path);
+    fso.ReplaceFile(aux, path);
 }
 
 bool has_entry(const ListBox& list, const Text& entry) {

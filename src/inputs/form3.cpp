@@ -154,6 +154,11 @@ void Form3::agregar_keyword(TextView word) {
     Command2_Click();
 }
 
+void Form3::list_keyword(const Text& word) {
+    List1.add_item(word);
+    show_counts();
+}
+
 void Form3::Command2_Click() {
     if (Len(Text1.text()) < 3) {
         MsgBox(u"Keyword too short"); // shown while importing too
@@ -225,15 +230,13 @@ void Form3::Command21_Click() {
 }
 
 void Form3::Command7_Click() {
-    for (int i = 0; i < List1.list_count();) {
-        const bool selected = List1.selected(i);
-        if (selected) {
-            const Text word = List1.list(i);
-            if (!delete_keyword(word)) return; // those before it stay deleted
-            unlist_keyword(i);                 // the list closes up: the next entry stands at the same place
-        }
+    // Events run between the words: what was not selected when this began, or is no longer, stays.
+    for (const Text& word : List1.selected_entries()) {
+        if (List1.selected_place(word) < 0) continue;
+        if (!delete_keyword(word)) return; // those before it stay deleted
+        if (const int place = List1.selected_place(word); place >= 0) unlist_keyword(place);
         DoEvents();
-        if (!selected) ++i;
+        if (!screens().is_loaded(*this)) return;
     }
     show_counts();
 }
@@ -350,17 +353,19 @@ void Form3::Command22_Click() {
 }
 
 void Form3::Command10_Click() {
-    for (int i = 0; i < List2.list_count();) {
-        const bool selected = List2.selected(i);
-        if (selected) {
-            // Without a selected keyword the list still shows the subkeywords of the one selected last.
-            const std::int16_t found = find_keyid(List1.text());
-            base_datos_.Execute(u"delete from elements where element = '" + Trim(List2.list(i)) +
-                                u"' and catid = " + to_text(found != 0 ? found : keyid));
-            List2.remove_item(i);
-        }
+    const std::vector<Text> chosen = List2.selected_entries();
+    if (chosen.empty()) return show_counts();
+    // Without a selected keyword the list still shows the subkeywords of the one selected last.
+    const std::int16_t found = find_keyid(List1.text());
+    const Text of_keyword = u"' and catid = " + to_text(found != 0 ? found : keyid);
+    for (const Text& word : chosen) {
+        // Events run between the words, and the list may show another keyword's by now.
+        const int place = List2.selected_place(word);
+        if (place < 0) continue;
+        base_datos_.Execute(u"delete from elements where element = '" + Trim(word) + of_keyword);
+        List2.remove_item(place);
         DoEvents();
-        if (!selected) ++i;
+        if (!screens().is_loaded(*this)) return;
     }
     show_counts();
 }

@@ -129,6 +129,8 @@ class Form3 {
 
     /// Adds a keyword as if typed.
     void agregar_keyword(TextView word);
+    /// Lists a keyword that another screen has stored.
+    void list_keyword(const Text& word);
 
     std::int16_t pid_form = 0; ///< key of the project as read at load
     std::int16_t keyid = 0;    ///< key of the keyword selected last
@@ -166,8 +168,9 @@ class Form3 {
 
     void export_list();
     void export_keyword(TextStream& out, int number, const Text& word);
-    void import_list(const Text& path);
-    void import_general(const Text& path);
+    void import_chosen();
+    void let_events_run();
+    void import_general(const Text& path, const Text& separator);
     void import_exported(const Text& path);
     void import_line(const Text& line, std::int16_t& current);
 

@@ -11,6 +11,7 @@
 #include "shell/module1.h"
 
 #include <unordered_set>
+#include <utility>
 
 namespace twk {
 
@@ -42,7 +43,8 @@ class EntryIndex {
 
     bool contains(const Text& entry) {
         // Anything may have happened to the list since the last look: events run between words.
-        if (list_.list_count() < seen_) {
+        if (list_.edits() != edits_) {
+            edits_ = list_.edits();
             entries_.clear();
             seen_ = 0;
         }
@@ -54,6 +56,21 @@ class EntryIndex {
     const ListBox& list_;
     std::unordered_set<Text> entries_;
     int seen_ = 0;
+    std::uint64_t edits_ = 0;
+};
+
+/// The silent switch, on while an import runs, and afterwards as it was: one import may be started while
+/// another lets events run.
+class Silence {
+  public:
+    explicit Silence(std::int16_t& silent) : silent_(silent), before_(std::exchange(silent, 1)) {}
+    ~Silence() { silent_ = before_; }
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+
+  private:
+    std::int16_t& silent_;
+    std::int16_t before_;
 };
 
 } // namespace
@@ -88,7 +105,7 @@ void Form3::export_list() {
         if (!trim_view(List1.list(i)).empty()) export_keyword(*out, i + 1, List1.list(i));
     write_end(*out);
     out->Close();
-    fso.MoveOver(path + u"aux", path);
+    fso.ReplaceFile(path + u"aux", path);
 }
 
 void Form3::export_keyword(TextStream& out, int number, const Text& word) {
@@ -136,20 +153,14 @@ void Form3::Command19_Click() {
 // Import
 
 void Form3::Command20_Click() {
+    const Silence silence(silent);
     try {
-        silent = 1;
         open_store();
         if (File2.list_index() < 0) {
             MsgBox(u"You must select a file to import");
-            silent = 0;
             return;
         }
-        Frame4.visible = true;
-        DoEvents();
-        const BulkWrite many(base_datos_);
-        import_list(Dir2.list(Dir2.list_index()) + Text(path_separator) + File2.list(File2.list_index()));
-        clear_selection(List1);
-        clear_selection(List2);
+        import_chosen();
         Frame4.visible = false;
         MsgBox(u"Import Finished succesfull"); // also when every word was refused
     } catch (const RuntimeFault&) {
@@ -157,39 +168,50 @@ void Form3::Command20_Click() {
         Frame4.visible = false;
         MsgBox(u"Import unSuccesfull");
     }
-    silent = 0;
 }
 
-void Form3::import_list(const Text& path) {
-    if (op_imp[1].value())
-        import_general(path);
+/// Durable when it returns. What was chosen is taken before events run, which may choose anew.
+void Form3::import_chosen() {
+    const Text path = File2.path() + Text(path_separator) + File2.list(File2.list_index());
+    const bool general = op_imp[1].value();
+    const Text separator = Trim(Cmb_separator.text());
+    Frame4.visible = true;
+    let_events_run();
+    const BulkWrite many(base_datos_);
+    if (general)
+        import_general(path, separator);
     else
         import_exported(path);
+    clear_selection(List1);
+    clear_selection(List2);
 }
 
-void Form3::import_general(const Text& path) {
-    const Text separator = Trim(Cmb_separator.text());
+/// Fault 51 when the screen has been closed meanwhile: the import ends there.
+void Form3::let_events_run() {
+    DoEvents();
+    if (!screens().is_loaded(*this)) throw RuntimeFault(fault_internal, u"The screen has been closed");
+}
+
+void Form3::import_general(const Text& path, const Text& separator) {
     EntryIndex here(List1);
+    const auto take = [&](const Text& word) {
+        if (!here.contains(word)) agregar_keyword(word);
+        let_events_run();
+    };
     Text gathered;
     const TextStreamPtr in = FileSystemObject().OpenTextFile(path, OpenMode::reading);
     while (!in->AtEndOfStream()) {
         const Text line = in->readline();
         const Text word = Trim(line);
         if (word.empty()) continue;
-        if (separator != u"Enter") {
+        if (separator == u"Enter")
+            take(word);
+        else
             gathered += line + u" " + separator + u" "; // a line end separates too
-            continue;
-        }
-        if (!here.contains(word)) agregar_keyword(word);
-        DoEvents();
     }
     in->Close();
-    for (const TextView piece : split_views(gathered, separator)) {
-        const Text word = Trim(piece);
-        if (word.empty()) continue;
-        if (!here.contains(word)) agregar_keyword(word);
-        DoEvents();
-    }
+    for (const TextView piece : split_views(gathered, separator))
+        if (const Text word = Trim(piece); !word.empty()) take(word);
 }
 
 void Form3::import_exported(const Text& path) {

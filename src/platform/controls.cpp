@@ -39,12 +39,45 @@ Text parent_of(const Text& path) {
 
 } // namespace
 
+const Text& BoxText::operator()() const {
+    if (in_front_.empty()) return value_;
+    std::size_t size = value_.size();
+    for (const Text& piece : in_front_) size += piece.size();
+    Text whole;
+    whole.reserve(size);
+    for (auto piece = in_front_.rbegin(); piece != in_front_.rend(); ++piece) whole += *piece;
+    in_front_.clear();
+    value_ = std::move(whole += value_);
+    return value_;
+}
+
+BoxText& BoxText::operator=(Text value) {
+    from_user(std::move(value));
+    observer_(Prop::text);
+    return *this;
+}
+
+void BoxText::from_user(Text value) {
+    in_front_.clear();
+    value_ = std::move(value);
+}
+
+void BoxText::put_in_front(Text piece) {
+    in_front_.push_back(std::move(piece));
+    observer_(Prop::front);
+}
+
+const Text& BoxText::newest() const {
+    return in_front_.empty() ? nothing : in_front_.back();
+}
+
 const Text& ListBox::list(int index) const {
     return entry(entries_, index);
 }
 
 void ListBox::set_list(int index, Text entry) {
     entries_[place(entries_, index)] = std::move(entry);
+    ++edits_;
     observer(Prop::list);
 }
 
@@ -58,6 +91,7 @@ void ListBox::remove_item(int index) {
     const std::size_t at = place(entries_, index);
     entries_.erase(entries_.begin() + offset(at));
     marks_.erase(marks_.begin() + offset(at));
+    ++edits_;
     if (list_index() == index)
         list_index.from_user(-1);
     else if (list_index() > index)
@@ -68,6 +102,7 @@ void ListBox::remove_item(int index) {
 void ListBox::clear() {
     entries_.clear();
     marks_.clear();
+    ++edits_;
     list_index.from_user(-1);
     observer(Prop::list);
 }
@@ -93,6 +128,19 @@ void ListBox::set_selected(int index, bool on) {
 int ListBox::sel_count() const {
     if (!multi_select && !tick_marks) return list_index() >= 0 ? 1 : 0;
     return static_cast<int>(std::count(marks_.begin(), marks_.end(), true));
+}
+
+std::vector<Text> ListBox::selected_entries() const {
+    std::vector<Text> chosen;
+    for (int i = 0; i < list_count(); ++i)
+        if (selected(i)) chosen.push_back(list(i));
+    return chosen;
+}
+
+int ListBox::selected_place(const Text& entry) const {
+    for (int i = 0; i < list_count(); ++i)
+        if (selected(i) && list(i) == entry) return i;
+    return -1;
 }
 
 void ListBox::select_from_user(int current, const std::vector<int>& marked) {

@@ -14,6 +14,7 @@ namespace twk {
 
 enum class Prop {
     text,
+    front, ///< a piece has been put in front of a box's text (`BoxText`)
     caption,
     enabled,
     visible,
@@ -64,6 +65,30 @@ template <class T> class Property {
     T value_;
 };
 
+/// The text of a box, used as any property. A log grows at its front, newest entry first: what is put there
+/// is joined with the rest when the whole is read, so that thousands of entries cost no more than their
+/// length.
+class BoxText {
+  public:
+    BoxText(const Observer& observer, Text initial) : observer_(observer), value_(std::move(initial)) {}
+    BoxText(const BoxText&) = delete;
+    BoxText& operator=(const BoxText& other) { return *this = other(); }
+
+    const Text& operator()() const;
+    BoxText& operator=(Text value);
+    /// What the front end writes when the user has changed the box: nobody is told.
+    void from_user(Text value);
+    /// The observer is told of `Prop::front` alone and finds the piece in `newest`.
+    void put_in_front(Text piece);
+    /// The piece put in front last; empty when the whole has been read or written since.
+    const Text& newest() const;
+
+  private:
+    const Observer& observer_;
+    mutable Text value_;
+    mutable std::vector<Text> in_front_; ///< not yet joined, the newest at the end
+};
+
 struct Label {
     explicit Label(Text text = {}) : caption(observer, Prop::caption, std::move(text)) {}
     Observer observer;
@@ -91,9 +116,9 @@ struct CommandButton {
 };
 
 struct TextBox {
-    explicit TextBox(Text initial = {}) : text(observer, Prop::text, std::move(initial)) {}
+    explicit TextBox(Text initial = {}) : text(observer, std::move(initial)) {}
     Observer observer;
-    Property<Text> text;
+    BoxText text;
     Property<bool> enabled{observer, Prop::enabled, true};
     Property<bool> visible{observer, Prop::visible, true};
     bool read_only = false;
@@ -158,10 +183,16 @@ struct ListBox {
     /// The current entry, empty when there is none.
     const Text& text() const { return list(list_index()); }
     const std::vector<Text>& entries() const { return entries_; }
+    /// Moves with every change of the entries but one more at the end.
+    std::uint64_t edits() const { return edits_; }
 
     bool selected(int index) const;
     void set_selected(int index, bool on);
     int sel_count() const;
+    /// Texts of the selected entries.
+    std::vector<Text> selected_entries() const;
+    /// Place of the first selected entry of that text, -1 when there is none.
+    int selected_place(const Text& entry) const;
     /// Marks and current entry as the user has set them: nobody is told.
     void select_from_user(int current, const std::vector<int>& marked);
     void set_focus() { observer(Prop::focus); }
@@ -169,6 +200,7 @@ struct ListBox {
   private:
     std::vector<Text> entries_;
     std::vector<bool> marks_;
+    std::uint64_t edits_ = 0;
 };
 
 /// A drop-down with a text that the user can type over.
@@ -239,7 +271,8 @@ struct PictureBox {
     Property<bool> visible{observer, Prop::visible, true};
 };
 
-/// The files of a folder that match a pattern ("*.gif"), by name without regard to case.
+/// The files of a folder that match a pattern ("*.gif") or one of several ("*.htm;*.html"), by name without
+/// regard to case.
 struct FileListBox {
     explicit FileListBox(Text initial = u"*.*") : pattern_(std::move(initial)) {}
     Observer observer;

@@ -21,6 +21,9 @@ namespace {
 
 constexpr std::size_t usual_page = 32 * 1024; ///< units, so that a page seldom outgrows its first room
 
+/// Where none of them is set even root is kept out.
+constexpr mode_t any_write = S_IWUSR | S_IWGRP | S_IWOTH;
+
 struct Failure {
     int number;
     TextView text;
@@ -116,6 +119,11 @@ int replace_content(int file, std::string_view bytes) {
 int open_to_write(const std::string& name, const Text& path) {
     const int file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
     if (file < 0) fail(errno == ENOENT ? ENOTDIR : errno, path);
+    struct stat info {};
+    if (::fstat(file, &info) == 0 && (info.st_mode & any_write) == 0) {
+        ::close(file);
+        fail(EACCES, path);
+    }
     return file;
 }
 
@@ -189,6 +197,13 @@ template <class Wanted> std::vector<Text> listed(const Text& folder, Wanted want
     }
     sort_names(names);
     return names;
+}
+
+/// Gives a file the owner, group and mode of another; false when that is not allowed.
+bool take_owner_and_mode(const std::string& name, const struct stat& own, const struct stat& other) {
+    const bool same = own.st_uid == other.st_uid && own.st_gid == other.st_gid;
+    if (!same && ::chown(name.c_str(), other.st_uid, other.st_gid) != 0) return false;
+    return ::chmod(name.c_str(), other.st_mode & 07777) == 0;
 }
 
 void remove_file(const std::string& name, const Text& path) {
@@ -281,7 +296,8 @@ TextStreamPtr FileSystemObject::OpenTextFile(const Text& path, OpenMode mode, bo
     if (!there && !create) fail(ENOENT, path);
     if (mode == OpenMode::reading) {
         if (!there) write_bytes(path, {});
-        return std::make_shared<TextStream>(path, mode, kind, there ? read_text_file(path) : Text(), -1);
+        const std::string bytes = there ? read_bytes(path) : std::string();
+        return std::make_shared<TextStream>(path, mode, kind_of_bytes(bytes, kind), decode_text(bytes), -1);
     }
     const int file = open_to_write(name, path);
     if (!there) NameIndex::entry_added(name);
@@ -314,6 +330,22 @@ void FileSystemObject::MoveOver(const Text& from, const Text& to) {
     // A file that stood there under the same name in another case gives way, now that the new one is there.
     if (place != wanted && ::access(place.c_str(), F_OK) == 0) remove_file(place, to);
     NameIndex::entry_added(wanted);
+}
+
+void FileSystemObject::ReplaceFile(const Text& from, const Text& to) {
+    const std::string place = disk_path(to);
+    struct stat old {};
+    if (::stat(place.c_str(), &old) != 0) return MoveOver(from, to);
+    if (is_protected(to)) fail(EACCES, to);
+    const Text target = fs::is_symlink(place) ? real_path(to) : to;
+    const std::string sibling = disk_path(from);
+    struct stat fresh {};
+    if (::stat(sibling.c_str(), &fresh) != 0) fail(errno, from);
+    const bool movable = S_ISREG(old.st_mode) && fresh.st_dev == old.st_dev;
+    if (movable && take_owner_and_mode(sibling, fresh, old)) return MoveOver(from, target);
+    // Another user's file, or one on another disk than its link, gets the new content where it stands.
+    write_bytes(target, read_bytes(from));
+    DeleteFile(from);
 }
 
 void FileSystemObject::DeleteFolder(const Text& path) {
@@ -382,6 +414,25 @@ void RmDir(const Text& path) {
     NameIndex::entry_removed(name);
 }
 
+bool is_protected(const Text& path) {
+    const std::string name = disk_path(path);
+    struct stat info {};
+    if (::stat(name.c_str(), &info) != 0) return false;
+    return (info.st_mode & any_write) == 0 || ::access(name.c_str(), W_OK) != 0;
+}
+
+Text real_path(const Text& path) {
+    std::error_code error;
+    const fs::path real = fs::canonical(disk_path(path), error);
+    if (error) fail(error.value(), path);
+    return from_utf8(real.string());
+}
+
+bool lies_in(const Text& path, const Text& folder) {
+    const Text real = real_path(folder);
+    return real_path(path).starts_with(real.ends_with(u'/') ? real : real + u'/');
+}
+
 std::int64_t FileLen(const Text& path) {
     struct stat info {};
     if (::stat(disk_path(path).c_str(), &info) != 0) fail(errno, path);
@@ -389,22 +440,34 @@ std::int64_t FileLen(const Text& path) {
 }
 
 bool matches_pattern(TextView name, TextView pattern) {
-    if (pattern.empty()) return name.empty();
-    if (pattern.front() == u'*') {
-        for (std::size_t skip = 0; skip <= name.size(); ++skip)
-            if (matches_pattern(name.substr(skip), pattern.substr(1))) return true;
-        return false;
+    std::size_t at = 0, in = 0;
+    // Where the last star stands, and up to where it has taken the name. Whatever an earlier star took is
+    // settled by then, so that it is enough to let the last one take more.
+    std::size_t star = TextView::npos, taken = 0;
+    while (in < name.size()) {
+        if (at < pattern.size() && pattern[at] == u'*') {
+            star = at++;
+            taken = in;
+        } else if (at < pattern.size() && (pattern[at] == u'?' || lower(pattern[at]) == lower(name[in]))) {
+            ++at;
+            ++in;
+        } else if (star != TextView::npos) {
+            at = star + 1;
+            in = ++taken;
+        } else {
+            return false;
+        }
     }
-    if (name.empty()) return false;
-    if (pattern.front() != u'?' && lower(pattern.front()) != lower(name.front())) return false;
-    return matches_pattern(name.substr(1), pattern.substr(1));
+    return pattern.find_first_not_of(u'*', at) == TextView::npos;
 }
 
 std::vector<Text> list_files(const Text& folder, TextView pattern) {
+    const std::vector<TextView> patterns = split_views(pattern, u";");
     return listed(folder, [&](const fs::directory_entry& entry) {
         std::error_code error;
-        return entry.is_regular_file(error) &&
-               matches_pattern(from_utf8(entry.path().filename().string()), pattern);
+        const Text name = from_utf8(entry.path().filename().string());
+        const auto matched = [&](TextView each) { return matches_pattern(name, trim_view(each)); };
+        return entry.is_regular_file(error) && std::any_of(patterns.begin(), patterns.end(), matched);
     });
 }
 

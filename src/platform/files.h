@@ -16,9 +16,13 @@
 /// not be touched, 76 no such folder, 61 disk full, 57 any other failure of reading or writing.
 namespace twk {
 
-/// How a text with characters beyond ASCII is written: pages get the UTF-8 mark in front, lists and settings
-/// do not. All-ASCII text is written plain either way.
-enum class TextKind { list, page };
+/// How a text is written. All-ASCII text is plain unless it is `marked`.
+enum class TextKind {
+    list,    ///< UTF-8 without the mark
+    page,    ///< UTF-8 with the mark in front when it holds more than ASCII
+    marked,  ///< UTF-8 with the mark, ASCII too
+    windows, ///< Windows-1252; as a page when a character has no place in it
+};
 
 enum class OpenMode { reading = 1, writing = 2, appending = 8 };
 
@@ -48,6 +52,9 @@ class TextStream {
     Text close_and_read();
 
     const Text& path() const { return path_; }
+    /// Of a reading stream: how the file is written, so that what replaces it can be written alike. A file
+    /// that is all ASCII, and not marked, is of the kind that it was opened as.
+    TextKind kind() const { return kind_; }
     /// Bytes of the file once a writing stream is closed.
     std::int64_t size() const { return size_; }
 
@@ -78,6 +85,9 @@ class FileSystemObject {
     /// The file takes the other name; what stood there is gone. The name bears the case given here. Whenever
     /// the program ends, one of the two stands under the name, whole.
     void MoveOver(const Text& from, const Text& to);
+    /// The same for a file of the user's, which keeps its mode, owner and group; a symbolic link stays one,
+    /// and what it leads to is replaced. Fault 70 when that is protected.
+    void ReplaceFile(const Text& from, const Text& to);
     /// With all that is in it; symbolic links are removed, never followed.
     void DeleteFolder(const Text& path);
 };
@@ -109,11 +119,18 @@ Text Dir(const Text& path);
 void MkDir(const Text& path);
 /// An empty folder; otherwise fault 75.
 void RmDir(const Text& path);
+/// Whether the file may not be written: by its mode, whoever asks. Nothing there is not protected.
+bool is_protected(const Text& path);
+/// The path with all links followed. Fault 53 when it leads nowhere.
+Text real_path(const Text& path);
+/// Whether the path, its links followed, lies in the folder or in one below. Fault 53 when either is missing.
+bool lies_in(const Text& path, const Text& folder);
 /// Length in bytes.
 std::int64_t FileLen(const Text& path);
 
 /// Names in a folder by name without regard to case ("_" before the letters). "*.htm" matches whole names
-/// without regard to case, "*.*" wants a point in the name. A folder that is not there is fault 76.
+/// without regard to case, "*.*" wants a point in the name; ";" stands between patterns of which one has to
+/// match. A folder that is not there is fault 76.
 std::vector<Text> list_files(const Text& folder, TextView pattern);
 std::vector<Text> list_folders(const Text& folder);
 bool matches_pattern(TextView name, TextView pattern);
@@ -121,6 +138,8 @@ bool matches_pattern(TextView name, TextView pattern);
 /// Whole text of a file, decoded as a reading stream does.
 Text read_text_file(const Text& path);
 std::string encode_text(TextView text, TextKind kind);
+/// Kind of a file's bytes; `plain` for ASCII without the mark.
+TextKind kind_of_bytes(std::string_view bytes, TextKind plain);
 Text decode_text(std::string_view bytes);
 
 /// The path as it stands on disk, names found without regard to case; where nothing is found, as given.

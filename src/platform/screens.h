@@ -99,6 +99,12 @@ class Screens {
         return load<S>();
     }
     template <class S> bool is_loaded() const { return find(typeid(S)) != nullptr; }
+    /// Whether this very instance is loaded: a screen that was closed while its own event waited, and perhaps
+    /// opened anew, is not.
+    template <class S> bool is_loaded(const S& form) const {
+        const Screen* const loaded = find(typeid(S));
+        return loaded != nullptr && loaded->instance.get() == static_cast<const void*>(&form);
+    }
     /// The registry's record of a screen, loading it if need be.
     template <class S> Screen& record() {
         get<S>();

@@ -320,10 +320,11 @@ void guardar_dat(Form6& form, const Text& nombre) {
     TextStreamPtr out;
     try {
         fso.OpenTextFile(path, OpenMode::reading, true)->Close(); // proves the name usable
+        if (is_protected(path)) throw RuntimeFault(fault_file_permission);
         out = fso.OpenTextFile(sibling, OpenMode::appending, true);
         write_settings(form, *out);
         out->Close();
-        fso.MoveOver(sibling, path);
+        fso.ReplaceFile(sibling, path);
     } catch (const RuntimeFault&) {
         close_partly_written(out.get());
         MsgBox(u"File wasn't saved.");

@@ -29,27 +29,29 @@ void Form19::Form_Load() {
 }
 
 void Form19::tomar_web() {
+    // A word may take minutes. Meanwhile the user may close the screen, which ends the lookups, or start
+    // others, which have a mode and words of their own.
+    const int mode = modo_asistente;
+    std::vector<Text> words;
+    if (mode == 2)
+        for (const auto& row : tabla_asistente) words.push_back(row.empty() ? Text() : row.front());
+    else if (mode == 1)
+        words = screen<Form3>().List1.entries();
     desktop().navigate(wb1, u"about:blank");
-    // A word may take minutes, and the user may close the screen meanwhile: the lookups end with it.
-    if (modo_asistente == 2) {
-        for (row_ = 0; row_ < static_cast<int>(tabla_asistente.size()); ++row_) {
-            const auto& row = tabla_asistente[static_cast<std::size_t>(row_)];
-            buscar_termino(row.empty() ? Text() : row.front());
-            if (!screens().is_loaded<Form19>()) return;
-        }
-    } else if (modo_asistente == 1) {
-        List1.clear();
-        for (index_ = 0; index_ < screen<Form3>().List1.list_count(); ++index_) {
-            const Text entry = screen<Form3>().List1.list(index_);
-            if (!trim_view(entry).empty()) buscar_termino(entry);
-            if (!screens().is_loaded<Form19>()) return;
-        }
+    if (mode == 1) List1.clear();
+    for (const Text& word : words) {
+        look_up(word, mode);
+        if (!screens().is_loaded(*this)) return;
     }
     Frame2.visible = false;
     screens().record<Form19>().caption = u"Keyword Wizard";
 }
 
 void Form19::buscar_termino(const Text& term) {
+    look_up(term, modo_asistente);
+}
+
+void Form19::look_up(const Text& term, int mode) {
     screens().record<Form19>().caption = u"Keyword Wizard";
     const Text wanted = Trim(term);
     if (wanted.empty()) return;
@@ -57,13 +59,14 @@ void Form19::buscar_termino(const Text& term) {
                                 Replace(wanted, u" ", u"%20"));
     DoEvents();
     esperar(10);
-    if (!screens().is_loaded<Form19>()) return;
-    const ListBox& keywords = screen<Form3>().List1;
+    if (!screens().is_loaded(*this)) return;
     screens().record<Form19>().caption =
-        u"Searching over the net: " + (modo_asistente == 1 ? keywords.list(index_) : keywords.text());
+        u"Searching over the net: " + (mode == 1 ? term : screen<Form3>().List1.text());
     if (!wait_for_browser()) return;
-    for (const Link& link : desktop().links(wb1))
-        if (contains(link.address, term_key)) take_suggestion(link.address, wanted);
+    const std::vector<Link> links = desktop().links(wb1);
+    if (!screens().is_loaded(*this)) return;
+    for (const Link& link : links)
+        if (contains(link.address, term_key)) take_suggestion(link.address, wanted, mode);
 }
 
 /// Waits for the page; false when the user does not want to wait any longer.
@@ -79,20 +82,23 @@ bool Form19::wait_for_browser() {
         esperar(5);
         ++rounds;
     }
-    return screens().is_loaded<Form19>();
+    return screens().is_loaded(*this);
 }
 
 /// The service shows each suggestion as a link whose query repeats the term.
-void Form19::take_suggestion(const Text& address, const Text& term) {
+void Form19::take_suggestion(const Text& address, const Text& term, int mode) {
     const Text behind = Mid(address, InStr(address, term_key) + Len(term_key));
     Text suggestion = Left(behind, InStr(behind, u"&mkt") - 1);
     for (const TextView code : {u"%20", u"%2E", u"%2F"}) replace_all(suggestion, code, u" ");
     quitar_dobles(suggestion);
     if (is_known(suggestion)) return;
     suggestion = Trim(suggestion);
-    if (modo_asistente == 2) {
-        if (row_ >= 0 && row_ < static_cast<int>(tabla_asistente.size()))
-            tabla_asistente[static_cast<std::size_t>(row_)].push_back(suggestion);
+    if (mode == 2) {
+        for (auto& row : tabla_asistente)
+            if (!row.empty() && trim_view(row.front()) == term) {
+                row.push_back(suggestion);
+                break;
+            }
         List1.add_item(u"-SK-" + term);
         List1.add_item(suggestion);
         return;
@@ -110,6 +116,8 @@ bool Form19::is_known(const Text& suggestion) const {
 }
 
 void Form19::Command5_Click() {
+    if (List1.list_count() == 0) return;
+    Form3& step2 = screen<Form3>(); // before the first word is stored: it lists what the store has
     for (int i = 0; i < List1.list_count(); ++i) {
         const Text word = Trim(List1.list(i));
         if (word.empty() || !List1.selected(i) || Len(word) <= 3) continue;
@@ -119,7 +127,7 @@ void Form19::Command5_Click() {
         Database base_datos = open_hive();
         base_datos.Execute(u"insert into keywords ( pid , keyword ) values ( " +
                            to_text(module1().pid_actual) + u" , '" + word + u"' ) ");
-        screen<Form3>().List1.add_item(word);
+        step2.list_keyword(word);
     }
 }
 

@@ -38,7 +38,7 @@ class Form19 {
     void Command5_Click();
     void Command11_Click();
 
-    /// Runs the lookups of the current mode.
+    /// Runs the lookups of the current mode, for the words that are there when it is called.
     void tomar_web();
     /// One lookup. A suggestion without "&mkt" behind its term is fault 5.
     void buscar_termino(const Text& term);
@@ -48,12 +48,10 @@ class Form19 {
     std::vector<std::vector<Text>> tabla_asistente;
 
   private:
+    void look_up(const Text& term, int mode);
     bool wait_for_browser();
-    void take_suggestion(const Text& address, const Text& term);
+    void take_suggestion(const Text& address, const Text& term, int mode);
     bool is_known(const Text& suggestion) const;
-
-    int index_ = -1; ///< entry of Step 2's list that is looked up
-    int row_ = -1;   ///< row of `tabla_asistente`, likewise
 };
 
 } // namespace twk

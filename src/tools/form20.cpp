@@ -84,6 +84,7 @@ void Form20::Command14_Click() {
 }
 
 void Form20::Command13_Click() {
+    Form3& step2 = screen<Form3>(); // before the first word is stored: it lists what the store has
     Database base_datos = open_hive();
     const Text pid = to_text(module1().pid_actual);
     for (int i = 0; i < List1.list_count(); ++i) {
@@ -99,7 +100,7 @@ void Form20::Command13_Click() {
             continue;
         base_datos.Execute(u"insert into keywords ( pid , keyword ) values ( " + pid + u" , '" + word +
                            u"' ) ");
-        screen<Form3>().List1.add_item(word);
+        step2.list_keyword(word);
     }
 }
 

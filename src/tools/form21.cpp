@@ -19,7 +19,7 @@ void Form21::cmdrefresh_Click() {
     out->writeline(Text1.text());
     out->Close();
     made->Close();
-    fso.MoveOver(path + u"aux", path);
+    fso.ReplaceFile(path + u"aux", path);
     desktop().navigate(WebBrowser1, path);
 }
 

@@ -8,13 +8,15 @@
 #include "platform/numbers.h"
 #include "store/stores.h"
 
+#include <utility>
+
 namespace twk {
 
 namespace {
 
 constexpr int grid_rows = 100; ///< the header among them
 
-/// Pages keep their mark when they hold more than ASCII, other files stay without.
+/// How a file that was all ASCII is written once it holds more; any other stays as it was.
 TextKind kind_of(const Text& path) {
     const Text name = LCase(path);
     return name.ends_with(u".htm") || name.ends_with(u".html") ? TextKind::page : TextKind::list;
@@ -81,8 +83,8 @@ void Form23::list_files_to_treat() {
 }
 
 /// The newest entry stands at the top.
-void Form23::log(const Text& entry) {
-    Text5.text = entry + Text5.text();
+void Form23::log(Text entry) {
+    Text5.text.put_in_front(std::move(entry));
 }
 
 void Form23::cmdFindAll_Click() {
@@ -97,45 +99,56 @@ void Form23::cmdFindAll_Click() {
 
 void Form23::treat_files() {
     list_files_to_treat();
+    Pass pass{archivos, Dir2.path(), Text3.text(), Text4.text(), !Check3.value(), {}};
     Frame1[results].visible = true;
     ProgressBar1.set_value(0.01);
     Text5.text = u"Find started at " + ahora();
-    const int last = static_cast<int>(archivos.size()) - 1;
+    const int last = static_cast<int>(pass.files.size()) - 1;
     for (int i = 0; i <= last; ++i) {
-        const Text path = archivos[static_cast<std::size_t>(i)];
-        const int lines = treat_file(path);
+        const Text& path = pass.files[static_cast<std::size_t>(i)];
+        const int lines = pass.replacing ? replace_in(pass, path) : treat_file(pass, path);
         ProgressBar1.set_value(progress(last, i)); // a single file is treated, then the division fails
-        log(path + (Check3.value() ? u" - Founded in " : u" - Replaced in ") + to_text(lines) +
+        log(path + (pass.replacing ? u" - Replaced in " : u" - Founded in ") + to_text(lines) +
             u" lines\r\n");
         DoEvents();
-        if (!screens().is_loaded<Form23>()) return; // closed meanwhile
+        if (!screens().is_loaded(*this)) return; // closed meanwhile
     }
     log(to_text(last) + u" Files processed\r\n\r\n"); // one less than there are
     log(u"Process Finished at " + ahora() + u"\r\n");
     ProgressBar1.set_value(100);
 }
 
+/// A link stays one: the file that it leads to is treated, once in a pass. Fault 70 when that is protected,
+/// 75 when it does not lie in the folder.
+int Form23::replace_in(Pass& pass, const Text& path) {
+    const Text target = file_exists(path) ? real_path(path) : path;
+    if (const auto done = pass.replaced.find(target); done != pass.replaced.end()) return done->second;
+    if (is_protected(target)) throw RuntimeFault(fault_file_permission);
+    if (file_exists(target) && !lies_in(target, pass.folder)) throw RuntimeFault(fault_path_access);
+    const int lines = treat_file(pass, target);
+    pass.replaced.emplace(target, lines);
+    return lines;
+}
+
 /// Returns the number of lines with the find text. When replacing, only these lines are written: a file loses
 /// all others, and one without any ends up empty. A failure at the end leaves the text in the
 /// "_temp" file.
-int Form23::treat_file(const Text& path) {
-    const bool replacing = !Check3.value();
-    const Text& find = Text3.text();
+int Form23::treat_file(const Pass& pass, const Text& path) {
     FileSystemObject fso;
-    const TextStreamPtr in = fso.OpenTextFile(path, OpenMode::reading, true);
+    const TextStreamPtr in = fso.OpenTextFile(path, OpenMode::reading, true, kind_of(path));
     TextStreamPtr out;
-    if (replacing) out = fso.OpenTextFile(path + u"_temp", OpenMode::writing, true, kind_of(path));
+    if (pass.replacing) out = fso.OpenTextFile(path + u"_temp", OpenMode::writing, true, in->kind());
     int lines = 0;
     while (!in->AtEndOfStream()) {
         const Text line = in->readline();
-        if (find.empty() || !contains(line, find)) continue;
+        if (pass.find.empty() || !contains(line, pass.find)) continue;
         ++lines;
-        if (replacing) out->writeline(Replace(line, find, Text4.text()));
+        if (pass.replacing) out->writeline(Replace(line, pass.find, pass.replace));
     }
     in->Close();
-    if (replacing) {
+    if (pass.replacing) {
         out->Close();
-        fso.MoveOver(path + u"_temp", path);
+        fso.ReplaceFile(path + u"_temp", path);
     }
     return lines;
 }

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <map>
 #include <vector>
 
 namespace twk {
@@ -81,10 +82,19 @@ class Form23 {
     std::vector<Text> archivos; ///< full paths of the files that the criteria selected
 
   private:
+    /// What a pass was started with. It lets other events run, which may list other files, type other texts,
+    /// and start a pass of their own.
+    struct Pass {
+        std::vector<Text> files;
+        Text folder, find, replace;
+        bool replacing = false;
+        std::map<Text, int> replaced; ///< files that are done, with their lines: a link may name one again
+    };
     void list_files_to_treat();
     void treat_files();
-    int treat_file(const Text& path);
-    void log(const Text& entry);
+    static int treat_file(const Pass& pass, const Text& path);
+    static int replace_in(Pass& pass, const Text& path);
+    void log(Text entry);
 
     Database base_datos_;
 };

@@ -39,7 +39,7 @@ bool Form20::running() const {
 
 /// The newest entry stands at the top.
 void Form20::log(const Text& entry) {
-    Text1.text = entry + u"\r\n\r\n" + Text1.text();
+    Text1.text.put_in_front(entry + u"\r\n\r\n");
 }
 
 void Form20::Command7_Click() {

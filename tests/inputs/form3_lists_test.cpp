@@ -6,6 +6,8 @@
 namespace twk {
 namespace {
 
+namespace fs = std::filesystem;
+
 class KeywordLists : public test::StepTwo {
   protected:
     void import(const Text& file, bool general = false, const Text& separator = u"Enter") {
@@ -41,6 +43,16 @@ TEST_F(KeywordLists, export_what_the_screen_lists) {
             " 1.= roses\r\n 2.= tulips\r\n Subkeyword 1.= Amber\r\n Subkeyword 2.= red\r\n 4.= lilies\r\n"
             "\r\n#\r\n# It's important to Visit periodically http://www.tarnwick.example!\r\n#\r\n");
     EXPECT_FALSE(app.exists(u"garden.expaux"));
+    // Saved again under a link: it stays one, and the file keeps its mode.
+    fs::permissions(app.folder() / "garden.exp", fs::perms(0600));
+    fs::create_symlink("garden.exp", app.folder() / "link.exp");
+    form().List1.clear();
+    app.desktop.save_files = {app.path(u"link.exp")};
+    app.desktop.expect(u"File has been saved");
+    click("Command4");
+    EXPECT_TRUE(fs::is_symlink(app.folder() / "link.exp"));
+    EXPECT_EQ(fs::status(app.folder() / "garden.exp").permissions(), fs::perms(0600));
+    EXPECT_EQ(app.read(u"garden.exp").find("roses"), std::string::npos);
 }
 
 TEST_F(KeywordLists, say_when_nothing_was_saved) {
@@ -126,6 +138,12 @@ TEST_F(KeywordLists, come_in_from_any_file_by_line_or_separator) {
     store_keyword(u"roses");
     app.desktop.always(u"Import Finished succesfull", Answer::ok);
     app.write(u"words.txt", "tulips\r\n\r\n  ferns  \r\nroses\r\nROSES\r\n");
+    MkDir(app.path(u"sub"));
+    app.write(u"sub/words.txt", "stray\n");
+    form().Dir2.refresh();
+    form().Dir2.list_index = 0;
+    while (!form().Dir2.list(form().Dir2.list_index()).ends_with(u"/sub"))
+        form().Dir2.list_index = form().Dir2.list_index() + 1; // merely pointed at: its files are not shown
     import(u"words.txt", true);
     EXPECT_EQ(keywords(), "roses|tulips|ferns"); // equal words are dropped in silence
     app.write(u"words.txt", "mossy, ivy vine ,roses\nlilies\n,,\n");
@@ -140,6 +158,25 @@ TEST_F(KeywordLists, come_in_from_any_file_by_line_or_separator) {
     EXPECT_EQ(app.desktop.messages.size(), 3U);
     EXPECT_EQ(form().List1.list_count(), 6);
     EXPECT_EQ(form().silent, 0);
+}
+
+TEST_F(KeywordLists, see_what_changes_while_they_come_in) {
+    app.desktop.always(u"Import Finished succesfull", Answer::ok);
+    app.write(u"words.txt", "tulips\nferns\ntulips\nivy vine\n");
+    app.desktop.on_events = [this] {
+        if (keywords() != "tulips") return;
+        app.run(u"update keywords set keyword = 'lilies' where pid = 1");
+        form().List1.set_list(0, u"lilies");
+        form().op_imp[0].value = true;
+        import(u"words.txt", true); // of its own
+        EXPECT_EQ(form().silent, 1);
+    };
+    import(u"words.txt", true);
+    EXPECT_EQ(keywords(), "lilies|tulips|ferns|ivy vine");
+    EXPECT_EQ(form().silent, 0);
+    app.desktop.on_events = [] { screens().unload<Form3>(); };
+    app.desktop.expect(u"Import unSuccesfull");
+    import(u"words.txt", true);
 }
 
 TEST_F(KeywordLists, ask_for_a_file) {

@@ -98,6 +98,25 @@ TEST_F(Keywords, deletes_what_is_selected_until_the_user_cancels) {
     EXPECT_EQ(to_utf8(form().keyw.caption()), "1");
 }
 
+TEST_F(Keywords, are_deleted_as_selected_when_the_deleting_began) {
+    for (const TextView word : {u"roses", u"tulips", u"lilies"}) store_keyword(Text(word));
+    for (const TextView sub : {u"red", u"tall"}) store_subkeyword(1, Text(sub));
+    store_subkeyword(3, u"white");
+    form();
+    select_keyword(0);
+    select(form().List2, {0, 1});
+    app.desktop.on_events = [this] {
+        select_keyword(2); // the list shows another keyword's, and one of them is selected
+        select(form().List2, {0});
+    };
+    click("Command10");
+    EXPECT_EQ(stored_subkeywords(1) + "/" + stored_subkeywords(3), "tall/white");
+    app.desktop.expect(u"Are you sure");
+    select(form().List1, {0, 1});
+    click("Command7");
+    EXPECT_EQ(stored_keywords(), "tulips|lilies");
+}
+
 TEST_F(Keywords, adds_up_to_ninety_nine_subkeywords_to_the_one_selected_keyword) {
     store_keyword(u"roses");
     store_keyword(u"tulips");

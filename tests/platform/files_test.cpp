@@ -180,8 +180,20 @@ TEST(Listings, AreSortedAndMatchWholeNames) {
     EXPECT_EQ(list_files(app.path(u"p"), u"*.htm"), (std::vector<Text>{u"_x.htm", u"A.HTM", u"b.htm"}));
     EXPECT_EQ(list_files(app.path(u"p"), u"*.*").size(), 5U);
     EXPECT_EQ(list_files(app.path(u"p"), u"?.gif"), (std::vector<Text>{u"d.GIF"}));
+    EXPECT_EQ(list_files(app.path(u"p"), u"*.htm; *.GIF"),
+              (std::vector<Text>{u"_x.htm", u"A.HTM", u"b.htm", u"d.GIF"}));
     EXPECT_EQ(list_folders(app.path(u"p")), (std::vector<Text>{u"folder.htm"}));
     EXPECT_EQ(fault_of([&] { list_files(app.path(u"absent"), u"*"); }), fault_path_not_found);
+}
+
+TEST(Listings, MatchStarsInTimeThatAnyoneCanWaitFor) {
+    EXPECT_TRUE(matches_pattern(u"abcbcd", u"*bc?"));
+    EXPECT_TRUE(matches_pattern(u"abcbcd", u"A*b*D**"));
+    EXPECT_FALSE(matches_pattern(u"abcbcd", u"*bcb"));
+    EXPECT_FALSE(matches_pattern(u"", u"?"));
+    Text stars;
+    for (int i = 0; i < 40; ++i) stars += u"*a";
+    EXPECT_FALSE(matches_pattern(Text(200, u'a'), stars + u"b"));
 }
 
 TEST(Files, FaultsSayWhatIsWrong) {

@@ -184,6 +184,21 @@ TEST(Controls, TellTheirObserverOfWritesButNotOfTheUsersOwn) {
     EXPECT_EQ(combo.text(), u"");
 }
 
+TEST(Controls, BoxesGrowAtTheirFront) {
+    TextBox box(u"c");
+    std::vector<Text> told;
+    box.observer.watch(
+        [&](Prop which) { told.push_back(which == Prop::front ? box.text.newest() : u"all"); });
+    box.text.put_in_front(u"b");
+    box.text.put_in_front(u"a");
+    EXPECT_EQ(box.text(), u"abc");
+    EXPECT_EQ(box.text(), u"abc");
+    box.text.put_in_front(u"x");
+    box.text = u"y";
+    EXPECT_EQ(box.text(), u"y");
+    EXPECT_EQ(told, (std::vector<Text>{u"b", u"a", u"x", u"all"}));
+}
+
 TEST(CommonDialog, TakesOverTheChoiceAndFaultsOnCancelWhereAsked) {
     TestDesktop desktop;
     CommonDialog dialog;

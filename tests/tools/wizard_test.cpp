@@ -82,8 +82,25 @@ TEST_F(Wizard, adds_what_is_ticked) {
     screens().fire<Form19>("Command5", "Click");
     EXPECT_EQ(stored_keywords(), "roses|abcd|" + to_utf8(Trim(words(19))) + "|index");
     EXPECT_EQ(keywords(), stored_keywords());
+    EXPECT_EQ(to_utf8(form().keyw.caption()), "4");
     screens().fire<Form19>("Command4", "Click");
     EXPECT_FALSE(screens().is_loaded<Form19>());
+}
+
+TEST_F(Wizard, walks_the_words_it_was_started_with) {
+    store_keyword(u"roses");
+    store_keyword(u"tulips");
+    suggest(u"roses", {u"red%20roses&mkt=us"});
+    suggest(u"tulips", {u"late%20tulips&mkt=us"});
+    app.desktop.on_events = [this] {
+        app.desktop.on_events = nullptr;
+        click("cmd_wizard_sub"); // has no words
+        form().List1.clear();
+    };
+    click("cmd_wizard");
+    EXPECT_EQ(joined(wizard().List1.entries()),
+              "late tulips"); // the page of "roses" was left for a blank one
+    EXPECT_EQ(wizard().List1.sel_count(), 1);
 }
 
 TEST_F(Wizard, ends_its_lookups_when_it_is_closed) {
