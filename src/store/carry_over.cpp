@@ -4,6 +4,7 @@
 #include "store/store_file.h"
 
 #include <filesystem>
+#include <fstream>
 #include <system_error>
 
 namespace twk {
@@ -33,6 +34,8 @@ bool has_moved(sqlite3* db) {
 }
 
 bool write_sibling(sqlite3* from, const std::string& sibling, const std::string& key) {
+    // A connection that was opened to change a file makes no other one.
+    if (!std::ofstream(sibling)) return false;
     if (!run_own(from, "ATTACH " + quoted(sibling) + " AS sibling KEY " + quoted(key))) return false;
     const bool written =
         set_form(from, "sibling", CipherForm::common) && run_own(from, "SELECT sqlcipher_export('sibling')");
