@@ -44,11 +44,40 @@ void put_in_front(QPlainTextEdit& editor, const QString& piece) {
     front.insertText(piece);
 }
 
+/// Puts the program's text into an editor as one edit, so that what stood there comes back by Undo. What
+/// nobody can edit, and an empty editor that nothing was ever typed into, have nothing to give back.
+void put_text(QPlainTextEdit& editor, const Text& text) {
+    if (edited_text(editor) == text) return;
+    QTextDocument& document = *editor.document();
+    if (editor.isReadOnly() || (document.isEmpty() && !document.isUndoAvailable())) {
+        editor.setPlainText(to_qt(text));
+        return;
+    }
+    QTextCursor all(&document);
+    all.beginEditBlock();
+    all.select(QTextCursor::Document);
+    all.insertText(to_qt(text));
+    all.endEditBlock();
+    editor.moveCursor(QTextCursor::Start);
+}
+
+/// The same for a single line.
+void put_text(QLineEdit& line, const QString& text) {
+    if (line.text() == text) return;
+    if (line.isReadOnly() || (line.text().isEmpty() && !line.isUndoAvailable())) {
+        line.setText(text);
+        return;
+    }
+    const QSignalBlocker quiet(line);
+    line.selectAll();
+    line.insert(text);
+}
+
 template <class Box> bool link_editor(const ControlLink<Box>& link, QPlainTextEdit& editor) {
     editor.setReadOnly(editor.isReadOnly() || link.control.read_only);
     watch_control(link, {Prop::text}, [&editor, &box = link.control](Prop changed) {
         const QSignalBlocker quiet(editor);
-        if (changed == Prop::text) editor.setPlainText(to_qt(box.text()));
+        if (changed == Prop::text) put_text(editor, box.text());
         if constexpr (std::is_same_v<Box, TextBox>)
             if (changed == Prop::front) put_in_front(editor, to_qt(box.text.newest()));
     });
@@ -67,7 +96,7 @@ bool link_line(const ControlLink<TextBox>& link, QLineEdit& line) {
     line.setMaxLength(longest);
     line.setReadOnly(line.isReadOnly() || link.control.read_only);
     watch_control(link, {Prop::text}, [&line, &box = link.control](Prop changed) {
-        if (changed == Prop::text || changed == Prop::front) line.setText(to_qt(box.text()));
+        if (changed == Prop::text || changed == Prop::front) put_text(line, to_qt(box.text()));
     });
     QObject::connect(&line, &QLineEdit::textEdited, &link.binding, [link](const QString& text) {
         if (link.binding.screen() == nullptr) return;

@@ -2,6 +2,7 @@
 #include "desktop/main_window.h"
 
 #include "desktop/binder.h"
+#include "desktop/edit_menu.h"
 #include "desktop/qt_text.h"
 #include "desktop/screen_window.h"
 #include "shell/mdi1.h"
@@ -74,6 +75,8 @@ void MainWindow::bind_menu(Screen& shell) {
         action->setShortcut(QKeySequence(to_qt(each.shortcut)));
         connect(action, &QAction::triggered, this, [this, name] { choose(name); });
     }
+    auto* const edit = new EditMenu([this] { return front(); }, this);
+    menuBar()->insertMenu(tops.at("b")->menuAction(), edit);
     QMenu* const open_screens = tops.at("win");
     connect(open_screens, &QMenu::aboutToShow, this, [this, open_screens] { list_screens(*open_screens); });
 }
@@ -84,6 +87,10 @@ void MainWindow::choose(const std::string& entry) {
     screens().fire(*shell_, entry, "Click");
     menu_event_alone_ = false;
     ScreenBinding::after_event();
+}
+
+ScreenWindow* MainWindow::front() const {
+    return static_cast<ScreenWindow*>(area_->activeSubWindow()); // no other windows stand in the area
 }
 
 void MainWindow::list_screens(QMenu& menu) {

@@ -39,6 +39,7 @@ class MainWindow : public QMainWindow {
   private:
     void choose(const std::string& entry);
     void list_screens(QMenu& menu);
+    ScreenWindow* front() const;
     void bury();
 
     QMdiArea* area_;

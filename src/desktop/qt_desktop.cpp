@@ -65,6 +65,11 @@ Answer QtDesktop::MsgBox(const Message& message) {
     case Buttons::ok_cancel: box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel); break;
     case Buttons::yes_no: box.setStandardButtons(QMessageBox::Yes | QMessageBox::No); break;
     }
+    box.setInformativeText(to_qt(message.about));
+    if (message.critical) // a statement or a number to be copied from it
+        box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    if (message.destructive)
+        box.setDefaultButton(message.buttons == Buttons::yes_no ? QMessageBox::No : QMessageBox::Cancel);
     switch (box.exec()) {
     case QMessageBox::Yes: return Answer::yes;
     case QMessageBox::No: return Answer::no;
@@ -80,10 +85,26 @@ std::optional<Text> QtDesktop::ask_file(const FileQuestion& question, bool save)
                        name_filter(question.filter));
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    // The dialog would look for the name as typed; what counts is the name with its ending.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
     if (!question.file_name.empty() && !contains(question.file_name, u"*"))
         dialog.selectFile(to_qt(question.file_name));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-    return from_qt(dialog.selectedFiles().constFirst());
+    while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+        const Text chosen = from_qt(dialog.selectedFiles().constFirst());
+        if (!save || may_write(with_ending(chosen, question.ending), question.title)) return chosen;
+    }
+    return std::nullopt;
+}
+
+/// Whether nothing stands under that name, or the user lets it go.
+bool QtDesktop::may_write(const Text& path, const Text& title) {
+    if (!file_exists(path)) return true;
+    const Text name = path.substr(path.rfind(path_separator) + 1);
+    return MsgBox({.text = u"There is a file named " + name + u" already.\nDo you want to replace it?",
+                   .buttons = Buttons::yes_no,
+                   .title = title,
+                   .about = path,
+                   .destructive = true}) == Answer::yes;
 }
 
 std::optional<Text> QtDesktop::ask_open_file(const FileQuestion& question) {

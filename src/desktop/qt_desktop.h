@@ -53,6 +53,7 @@ class QtDesktop : public Desktop {
 
   private:
     std::optional<Text> ask_file(const FileQuestion& question, bool save);
+    bool may_write(const Text& path, const Text& title);
     BrowserView* view(const WebBrowser& browser) const;
 
     MainWindow window_;

@@ -77,8 +77,7 @@ void load_list(Form17& form, const std::vector<Text>& saved) {
     dialog.file_name = u"*.fnm";
     dialog.dialog_title = u"Open list";
     dialog.show_open();
-    Text path = dialog.file_name;
-    if (!contains(path, list_ending)) path += list_ending;
+    const Text path = with_ending(dialog.file_name, list_ending);
     FileSystemObject fso;
     TextStreamPtr in = fso.OpenTextFile(path, OpenMode::reading, !fso.FileExists(path));
     const int n = read_list(*in, path, saved, form.List1);
@@ -158,12 +157,11 @@ void Form17::Command4_Click() {
     CommonDialog1.filter = u"*.fnm";
     CommonDialog1.dialog_title = u"Save list";
     CommonDialog1.file_name = project_name + Text(list_ending);
+    CommonDialog1.default_ext = Text(list_ending);
     module1().nombre_fnm = CommonDialog1.file_name; // kept, even when the dialog is cancelled
     try {
         CommonDialog1.show_save();
-        Text path = CommonDialog1.file_name;
-        if (!contains(path, list_ending)) path += list_ending;
-        write_list(*this, path);
+        write_list(*this, CommonDialog1.file_name);
     } catch (const RuntimeFault&) { // ends quietly, a cancelled dialog being the usual fault
     }
 }

@@ -19,11 +19,14 @@ namespace twk {
 namespace {
 
 bool confirmed() {
-    return MsgBox(u"This action may take several minutes depending on your computers' speed \n"
-                  u"and the amount of pages you're trying to generate.\n"
-                  u"Make sure there are no open files in project's directories.\n"
-                  u"Are you sure you want to proceed?",
-                  Buttons::yes_no, u"Create Pages?") == Answer::yes;
+    return ask_before_loss(u"This action may take several minutes depending on your computers' speed \n"
+                           u"and the amount of pages you're trying to generate.\n"
+                           u"Make sure there are no open files in project's directories.\n"
+                           u"Are you sure you want to proceed?",
+                           Buttons::yes_no, u"Create Pages?",
+                           u"Erased first: all files in " +
+                               beside_program(u"Projects" + Text(path_separator) + project_name())) ==
+           Answer::yes;
 }
 
 /// Reads once what names the files; false, after a message, when pages would have no extension.

@@ -30,6 +30,7 @@ void Form5::criticar() {
     text = limpiar_html(text);
     quitar_dobles(text);
     rt1.text = text;
+    show_unsaved();
 
     const std::int16_t total = contar_palabras(text);
     Text report = u"CONTENT CRITIC: \r\n[Total word count]: " + to_text(total) + u"\r\n";

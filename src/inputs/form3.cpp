@@ -19,7 +19,6 @@ namespace {
 
 constexpr int screen_number = 3;
 constexpr int most_words = 20;
-constexpr int most_subkeywords = 99;
 /// Place of the entry to edit while none is found. An entry that stands at this very place counts as none.
 constexpr int no_index = 100;
 
@@ -48,12 +47,15 @@ void Form3::Form_Load() {
     llenar_proyectos();
     Dir2.set_path(app_path());
     File2.set_path(app_path());
-    if (module1().pid_actual != 0)
-        for (Recordset row =
-                 base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid_form));
-             !row.eof(); row.MoveNext())
-            List1.add_item(row.Fields(u"keyword").text());
+    if (module1().pid_actual != 0) list_keywords();
     show_counts();
+}
+
+void Form3::list_keywords() {
+    for (Recordset row =
+             base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid_form));
+         !row.eof(); row.MoveNext())
+        List1.add_item(row.Fields(u"keyword").text());
 }
 
 void Form3::Form_Unload() {
@@ -91,11 +93,13 @@ bool Form3::too_many_words() {
     return true;
 }
 
+Recordset Form3::element_rows(std::int16_t catid, const Text& word) {
+    return base_datos_.OpenRecordset(u"select * from elements where element = '" + word + u"' and catid = " +
+                                     to_text(catid));
+}
+
 bool Form3::has_element(std::int16_t catid, const Text& word) {
-    return !base_datos_
-                .OpenRecordset(u"select * from elements where element = '" + word + u"' and catid = " +
-                               to_text(catid))
-                .eof();
+    return !element_rows(catid, word).eof();
 }
 
 void Form3::insert_keyword(const Text& word) {
@@ -121,25 +125,31 @@ void Form3::Text1_Click() {
     clear_selection(List1);
 }
 
+/// Each failing step is stepped over by itself. A keyword that is not found leaves the key 0: nothing may be
+/// written to the one selected before.
 void Form3::List1_Click() {
-    try {
-        const Text word = List1.text();
-        if (word.empty() || List1.list_index() < 0) return;
+    const Text word = List1.text();
+    if (word.empty() || List1.list_index() < 0) return;
+    keyid = 0;
+    stepping_over([&] {
         take_last_key(base_datos_.OpenRecordset(u"select keywords.keyid as X2 , keywords.pid as X3 "
                                                 u" from keywords where keyword = '" +
                                                 word + u"' and pid = " + to_text(pid_form)),
                       u"X2", keyid);
-        Text1.text = word;
-        List2.clear();
-        for (Recordset row =
-                 base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(keyid));
-             !row.eof(); row.MoveNext())
-            List2.add_item(Trim(row.Fields(u"element").text()));
-        Text2.text = u"";
-        show_counts();
-    } catch (const RuntimeFault&) {
-        show_counts(); // stepped over: the right panel stays as far as it was filled
-    }
+    });
+    Text1.text = word;
+    stepping_over([&] { list_subkeywords(); });
+    Text2.text = u"";
+    show_counts();
+}
+
+/// Those of the keyword selected last.
+void Form3::list_subkeywords() {
+    List2.clear();
+    if (keyid == 0) return;
+    for (Recordset row = base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(keyid));
+         !row.eof(); row.MoveNext())
+        stepping_over([&] { List2.add_item(Trim(row.Fields(u"element").text())); });
 }
 
 void Form3::List2_Click() {
@@ -229,47 +239,6 @@ void Form3::Command21_Click() {
     show_counts();
 }
 
-void Form3::Command7_Click() {
-    // Events run between the words: what was not selected when this began, or is no longer, stays.
-    for (const Text& word : List1.selected_entries()) {
-        if (List1.selected_place(word) < 0) continue;
-        if (!delete_keyword(word)) return; // those before it stay deleted
-        if (const int place = List1.selected_place(word); place >= 0) unlist_keyword(place);
-        DoEvents();
-        if (!screens().is_loaded(*this)) return;
-    }
-    show_counts();
-}
-
-/// Deletes the keyword with its subkeywords and ties; false when the user does not want that.
-bool Form3::delete_keyword(const Text& word) {
-    const std::int16_t key = find_keyid(word);
-    const Text of_keyword = u"from elements where catid = " + to_text(key);
-    if (!base_datos_.OpenRecordset(u"select * " + of_keyword).eof()) {
-        if (MsgBox(u"Are you sure you want to delete this keyword?\rAll its subKeywords will be lost.",
-                   Buttons::ok_cancel, u"Delete Keyword?") == Answer::cancel)
-            return false;
-        base_datos_.Execute(u"delete " + of_keyword);
-    }
-    delete_ties_and_row(key, word);
-    return true;
-}
-
-void Form3::delete_ties_and_row(std::int16_t key, const Text& word) {
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from ties where keyid = " + to_text(key) +
-                                                   u" and pid = " + to_text(pid_form));
-         !row.eof(); row.MoveNext())
-        base_datos_.Execute(u"delete from ties where tieid = " + row.Fields(u"tieid").text());
-    base_datos_.Execute(u"delete from keywords where pid = " + to_text(pid_form) + u" and keyword = '" +
-                        word + u"' ");
-}
-
-void Form3::unlist_keyword(int index) {
-    List1.remove_item(index);
-    List2.clear();
-    show_counts();
-}
-
 // Subkeywords
 
 void Form3::Command3_Click() {
@@ -288,7 +257,7 @@ void Form3::Command3_Click() {
         MsgBox(u"You must select 1 Keyword (in the left panel)");
         return;
     }
-    if (List1.list_index() < 0) {
+    if (List1.list_index() < 0 || keyid == 0) { // key 0: nobody would read it
         MsgBox(u"You must select a Keyword (in the left panel) to adjudicate a SubKeyword");
         return;
     }
@@ -352,28 +321,12 @@ void Form3::Command22_Click() {
     show_counts();
 }
 
-void Form3::Command10_Click() {
-    const std::vector<Text> chosen = List2.selected_entries();
-    if (chosen.empty()) return show_counts();
-    // Without a selected keyword the list still shows the subkeywords of the one selected last.
-    const std::int16_t found = find_keyid(List1.text());
-    const Text of_keyword = u"' and catid = " + to_text(found != 0 ? found : keyid);
-    for (const Text& word : chosen) {
-        // Events run between the words, and the list may show another keyword's by now.
-        const int place = List2.selected_place(word);
-        if (place < 0) continue;
-        base_datos_.Execute(u"delete from elements where element = '" + Trim(word) + of_keyword);
-        List2.remove_item(place);
-        DoEvents();
-        if (!screens().is_loaded(*this)) return;
-    }
-    show_counts();
-}
-
 // To other screens
 
 void Form3::Command8_Click() {
-    if (List1.list_index() >= 0) screens().show<Form8>();
+    if (List1.list_index() < 0) return;
+    screen<Form8>().follow_selection();
+    screens().show<Form8>();
 }
 
 void Form3::Command6_Click() {

@@ -3,6 +3,7 @@
 
 #include "platform/files.h"
 #include "platform/screens.h"
+#include "platform/undo_stack.h"
 #include "store/database.h"
 
 #include <array>
@@ -18,6 +19,8 @@ class Form3 {
     static constexpr TextView title = u"Step 2 of 6 - Keywords";
     static constexpr int least_keywords = 3; ///< that Next lets pass, whatever its words say
     static constexpr TextView too_few_keywords = u"You must provide more than 3 keywords";
+
+    static constexpr int most_subkeywords = 99; ///< by hand; an import may bring more
 
     Form3();
 
@@ -132,6 +135,10 @@ class Form3 {
     /// Lists a keyword that another screen has stored.
     void list_keyword(const Text& word);
 
+    UndoStack deletions;
+    /// Brings back what the last Delete took, and reads the lists anew.
+    void undo_delete();
+
     std::int16_t pid_form = 0; ///< key of the project as read at load
     std::int16_t keyid = 0;    ///< key of the keyword selected last
     int status = 1;            ///< 1 at the start of a check, 2 once a check has refused
@@ -149,22 +156,37 @@ class Form3 {
     /// Key of the project's keyword of that name, 0 when there is none.
     std::int16_t find_keyid(const Text& word);
     bool too_many_words();
-    bool delete_keyword(const Text& word);
+    bool delete_keyword(const Text& word, UndoStack::Command& command);
+    void delete_subkeyword(const Text& word, std::int16_t catid, UndoStack::Command& command);
+    bool restore_keyword(const Text& word, const std::vector<StoredRow>& rows);
+    bool restore_subkeyword(const Text& word, std::int16_t catid, const std::vector<StoredRow>& rows);
+    /// Tells the message; false, for a deletion that cannot be taken back now.
+    static bool in_the_way(TextView message);
+    void list_keywords();
+    void list_subkeywords();
     void unlist_keyword(int index);
+    Recordset element_rows(std::int16_t catid, const Text& word);
     bool has_element(std::int16_t catid, const Text& word);
     /// Stores a keyword of the project and lists it.
     void insert_keyword(const Text& word);
     void insert_element(std::int16_t catid, const Text& word);
-    void delete_ties_and_row(std::int16_t key, const Text& word);
+    /// Gives the ties that went.
+    std::vector<StoredRow> delete_ties_and_row(std::int16_t key, const Text& word);
     static void clear_selection(ListBox& list);
 
     void llenar_proyectos();
-    void open_move(ListBox& from, ListBox& to, Label& label, TextView what, Frame& frame);
-    void move_as_keyword(const Text& word);
-    void move_as_subkeyword(const Text& word);
+    /// What a frame has been opened for.
+    struct Move {
+        Text word;
+        std::int16_t key = 0; ///< of the keyword, or of the subkeyword's keyword
+    };
+    void open_move(ListBox& from, ListBox& to, Label& label, TextView what, Frame& frame, Move& move);
+    void move_as_keyword(const Move& moved);
+    void move_as_subkeyword(const Move& moved);
     bool repeated_at(std::int16_t catid, TextView word);
-    bool move_subkeywords(std::int16_t from, const Text& destination);
-    void delete_moved_subkeyword(const Text& word);
+    bool move_subkeywords(std::int16_t from, std::int16_t destination);
+    void delete_moved_subkeyword(const Move& moved);
+    Move keyword_to_move_, subkeyword_to_move_;
 
     void export_list();
     void export_keyword(TextStream& out, int number, const Text& word);

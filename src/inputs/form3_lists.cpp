@@ -92,9 +92,9 @@ void Form3::export_list() {
     CommonDialog1.filter = u"Exported Files (*.exp)|*.exp";
     CommonDialog1.dialog_title = u"Save settings to .exp";
     CommonDialog1.file_name = screen<Form2>().txt_name[0].text() + u".exp";
+    CommonDialog1.default_ext = u".exp";
     CommonDialog1.show_save();
-    Text path = CommonDialog1.file_name;
-    if (!contains(path, u".exp")) path += u".exp";
+    const Text path = CommonDialog1.file_name;
     // An older export stays whole until the new one is complete beside it: opening it proves the name usable,
     // and it is never closed, which would empty it.
     FileSystemObject fso;

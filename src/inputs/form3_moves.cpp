@@ -12,19 +12,34 @@
 
 namespace twk {
 
+namespace {
+
+constexpr TextView no_destination = u"You must select a destination keyword from this frame";
+
+/// Takes the word out of the list, at the selected place when it stands there.
+void unlist(ListBox& list, const Text& word) {
+    int at = list.list_index();
+    if (Trim(list.text()) != Trim(word))
+        for (at = list.list_count() - 1; at >= 0 && Trim(list.list(at)) != Trim(word);) --at;
+    if (at >= 0) list.remove_item(at);
+}
+
+} // namespace
+
 void Form3::Command11_Click() {
-    open_move(List2, List3, Label5, u"SubKeyword", Frame1);
+    open_move(List2, List3, Label5, u"SubKeyword", Frame1, subkeyword_to_move_);
 }
 
 void Form3::Command12_Click() {
-    open_move(List1, List4, Label10, u"Keyword", Frame2);
+    open_move(List1, List4, Label10, u"Keyword", Frame2, keyword_to_move_);
 }
 
 /// Opens a frame for the entry selected in `from`, with all other keywords as destinations; without one,
 /// nothing happens.
-void Form3::open_move(ListBox& from, ListBox& to, Label& label, TextView what, Frame& frame) {
+void Form3::open_move(ListBox& from, ListBox& to, Label& label, TextView what, Frame& frame, Move& move) {
     const Text word = Trim(from.text());
     if (from.list_index() < 0 || word.empty()) return;
+    move = {&from == &List2 ? word : from.text(), keyid};
     to.clear();
     label.caption = Text(what) + u" '" + word + u"' ";
     if (&from == &List2) {
@@ -59,63 +74,67 @@ void Form3::Command17_Click() {
 
 void Form3::Command15_Click() {
     open_store();
-    const Text word = Trim(List2.text());
-    if (Len(word) < 3) {
+    // The frame moves what it was opened for, whatever has been selected since.
+    const Move moved = Frame1.visible() ? subkeyword_to_move_ : Move{Trim(List2.text()), keyid};
+    if (List2.list_index() < 0 || !repeated_at(moved.key, moved.word)) {
+        MsgBox(Text(no_destination));
+        return;
+    }
+    if (Len(moved.word) < 3) {
         MsgBox(u"Keywords must be longer than 3 characters!"); // three pass
         return;
     }
-    Text counted = word;
+    Text counted = moved.word;
     if (contar_palabras(counted) >= 21) {
         MsgBox(u"Can't add a +20 words Keyword Phrase");
         return;
     }
-    if (is_reserved(word)) {
+    if (is_reserved(moved.word)) {
         MsgBox(u"'Sitemap' and 'Index' are reserved words.");
         return;
     }
     if (Option1[0].value())
-        move_as_keyword(word);
+        move_as_keyword(moved);
     else if (Option1[1].value())
-        move_as_subkeyword(word);
+        move_as_subkeyword(moved);
 }
 
-void Form3::move_as_keyword(const Text& word) {
+void Form3::move_as_keyword(const Move& moved) {
     status = 1;
-    if (!keyword_rows(word).eof()) {
+    if (!keyword_rows(moved.word).eof()) {
         MsgBox(u"You can't define 2 equal keywords");
         status = 2;
     }
-    if (status == 1) insert_keyword(word);
+    if (status == 1) insert_keyword(moved.word);
     // A refused subkeyword goes as well: it is lost. Under another keyword it would have stayed.
-    delete_moved_subkeyword(word);
+    delete_moved_subkeyword(moved);
 }
 
-void Form3::move_as_subkeyword(const Text& word) {
-    const Text destination = List3.text();
-    if (List3.list_index() < 0 || destination.empty()) {
-        MsgBox(u"You must select a destination keyword from this frame");
+void Form3::move_as_subkeyword(const Move& moved) {
+    const std::int16_t key = List3.list_index() < 0 ? std::int16_t{0} : find_keyid(List3.text());
+    if (key == 0 || key == moved.key) {
+        MsgBox(Text(no_destination));
         return;
     }
     status = 1;
-    if (!keyword_rows(word).eof()) {
+    if (!keyword_rows(moved.word).eof()) {
         MsgBox(u"You can't define 2 equal keywords");
         status = 2; // and is not looked at: the move goes on
     }
-    const std::int16_t key = find_keyid(destination);
-    if (repeated_at(key, word)) {
+    if (repeated_at(key, moved.word)) {
         MsgBox(u"You can't define 2 equal SubKeyword");
         Frame1.visible = false;
         return;
     }
-    insert_element(key, word);
-    delete_moved_subkeyword(word);
+    insert_element(key, moved.word);
+    delete_moved_subkeyword(moved);
 }
 
-/// Takes the moved subkeyword away from the keyword selected last, and closes the frame.
-void Form3::delete_moved_subkeyword(const Text& word) {
-    base_datos_.Execute(u"delete from elements where element = '" + word + u"' and catid = " +
-                        to_text(keyid));
-    if (List2.list_index() >= 0) List2.remove_item(List2.list_index());
+/// Takes the moved subkeyword away from its keyword, and closes the frame.
+void Form3::delete_moved_subkeyword(const Move& moved) {
+    base_datos_.Execute(u"delete from elements where element = '" + moved.word + u"' and catid = " +
+                        to_text(moved.key));
+    if (keyid == moved.key) unlist(List2, moved.word);
     Frame1.visible = false;
     show_counts();
 }
@@ -123,26 +142,26 @@ void Form3::delete_moved_subkeyword(const Text& word) {
 // Moving a keyword
 
 void Form3::Command16_Click() {
-    const Text destination = List4.text();
-    if (List4.list_index() < 0 || destination.empty()) {
+    const Move moved = Frame2.visible() ? keyword_to_move_ : Move{List1.text(), keyid};
+    const std::int16_t key = List4.list_index() < 0 ? std::int16_t{0} : find_keyid(List4.text());
+    const std::int16_t from = List1.list_index() < 0 ? std::int16_t{0} : find_keyid(moved.word);
+    if (key == 0 || from == 0 || from == key) {
         MsgBox(
             u"To move this Keyword as another's keyword Subkeyword \nyou Must select a keyword from this frame");
         return;
     }
-    const Text word = List1.text();
-    const std::int16_t from = find_keyid(word);
     // No transaction holds the steps together: what has moved before a refusal stays moved.
-    if (!move_subkeywords(from, destination)) return;
-    const std::int16_t key = find_keyid(destination);
-    if (repeated_at(key, word)) {
+    if (!move_subkeywords(from, key)) return;
+    if (repeated_at(key, moved.word)) {
         MsgBox(u"You can't define 2 equal SubKeyword");
         Frame1.visible = false; // the other move's frame: this one's stays open
         return;
     }
-    insert_element(key, word);
+    insert_element(key, moved.word);
     // A subkeyword cannot be tied, so the ties go.
-    delete_ties_and_row(keyid, word);
-    if (List1.list_index() >= 0) unlist_keyword(List1.list_index());
+    delete_ties_and_row(from, moved.word);
+    unlist(List1, moved.word);
+    List2.clear();
     Frame2.visible = false;
     show_counts();
 }
@@ -156,19 +175,18 @@ bool Form3::repeated_at(std::int16_t catid, TextView word) {
 }
 
 /// Moves all subkeywords; false when one is repeated at the destination, where the move stops.
-bool Form3::move_subkeywords(std::int16_t from, const Text& destination) {
+bool Form3::move_subkeywords(std::int16_t from, std::int16_t destination) {
     Recordset row = base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(from));
     if (row.eof()) return true;
     MsgBox(u"The subkeywords for this keyword will be moved as subkeyword for the destination keyword");
-    const std::int16_t key = find_keyid(destination);
     for (; !row.eof(); row.MoveNext()) {
         const Text element = row.Fields(u"element").text();
-        if (repeated_at(key, Trim(element))) {
+        if (repeated_at(destination, Trim(element))) {
             MsgBox(u"SubKeyword '" + element + u"' is repeated in the destination keyword");
             Frame2.visible = false;
             return false;
         }
-        insert_element(key, element);
+        insert_element(destination, element);
         base_datos_.Execute(u"delete from elements where eid = " + row.Fields(u"eid").text());
     }
     return true;

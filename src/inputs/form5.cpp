@@ -3,6 +3,7 @@
 
 #include "assist/help.h"
 #include "engine/text_toolkit.h"
+#include "inputs/deletions.h"
 #include "inputs/form3.h"
 #include "inputs/form7.h"
 #include "platform/desktop.h"
@@ -34,14 +35,6 @@ void warn_of_few_words(Text text) {
         MsgBox(u"We recomend more than 100 words in the content box"); // the box is stored all the same
 }
 
-/// Runs one statement of a routine that carries on after every fault.
-template <class Statement> void stepping_over(Statement statement) {
-    try {
-        statement();
-    } catch (const RuntimeFault&) {
-    }
-}
-
 Text wrapped(TextView tag, const Text& text) {
     return u"<" + Text(tag) + u">" + text + u"</" + Text(tag) + u">";
 }
@@ -49,6 +42,7 @@ Text wrapped(TextView tag, const Text& text) {
 } // namespace
 
 Form5::Form5() {
+    lbl_unsaved.visible = false;
     Text2.read_only = true;
     Text3.read_only = true;
 }
@@ -116,6 +110,7 @@ void Form5::List1_Click() {
     rt1.text = Replace(at(caja_texto, List1.list_index()), vbCrLf, u" ");
     // The box as selected: what the critic changes in the editor counts as unsaved.
     RTAux = rt1.text();
+    show_unsaved();
     criticar();
 }
 
@@ -141,6 +136,7 @@ void Form5::Command2_Click() {
     refrescar_cajas();
     DoEvents();
     RTAux = rt1.text();
+    show_unsaved();
 }
 
 void Form5::Command5_Click() {
@@ -165,6 +161,7 @@ void Form5::Command5_Click() {
     DoEvents();
     refrescar_cajas();
     RTAux = rt1.text();
+    show_unsaved();
 }
 
 /// Writes the editor's text to the row that is being added or changed.
@@ -176,21 +173,54 @@ void Form5::write_content(Recordset& row) {
 }
 
 void Form5::Command3_Click() {
+    UndoStack::Command command(deletions, u"box");
     const int count = List1.list_count();
-    for (int i = 0; i < count; ++i) {
-        if (!List1.selected(i)) continue;
-        const Text cid = at(caja_cid, i);
-        const Text where = u"from ties where cid = " + cid + u" and pid  = " + to_text(pid_form);
-        if (!base_datos_.OpenRecordset(u"select * " + where).eof()) base_datos_.Execute(u"delete " + where);
-        base_datos_.Execute(u"delete from content where cid = " + cid);
-        RTAux.clear();
-    }
+    for (int i = 0; i < count; ++i)
+        if (List1.selected(i)) delete_box(i, command);
     refrescar_cajas();
+    RTAux = rt1.text(); // the emptied editor, whether a box has gone or not
+    show_unsaved();
+}
+
+void Form5::delete_box(int index, UndoStack::Command& command) {
+    const Text cid = at(caja_cid, index);
+    std::vector<StoredRow> rows =
+        base_datos_.OpenRecordset(u"select * from content where cid = " + cid).rows_of("content");
+    const Text where = u"from ties where cid = " + cid + u" and pid  = " + to_text(pid_form);
+    const std::vector<StoredRow> ties = base_datos_.OpenRecordset(u"select * " + where).rows_of("ties");
+    if (!ties.empty()) base_datos_.Execute(u"delete " + where);
+    base_datos_.Execute(u"delete from content where cid = " + cid);
+    RTAux.clear();
+    rows.insert(rows.end(), ties.begin(), ties.end());
+    command.deleted(List1.list(index), [this, rows] { return restore_box(rows); });
+}
+
+/// False when the table of the boxes is full.
+bool Form5::restore_box(const std::vector<StoredRow>& rows) {
+    const Text all = u"select * from content where pid = " + to_text(module1().pid_actual);
+    if (base_datos_.OpenRecordset(all).RecordCount() >= max_boxes) {
+        MsgBox(u"You can only add 100 content boxes");
+        return false;
+    }
+    put_back(base_datos_, rows);
+    return true;
+}
+
+void Form5::undo_delete() {
+    deletions.undo();
+    refrescar_cajas();
+    RTAux = rt1.text();
+    show_unsaved();
 }
 
 void Form5::Command8_Click() {
     rt1.text = u"";
     RTAux.clear();
+    show_unsaved();
+}
+
+void Form5::show_unsaved() {
+    lbl_unsaved.visible = rt1.text() != RTAux;
 }
 
 void Form5::Command11_Click() {
@@ -280,7 +310,11 @@ void Form5::Command7_Click() {
         return;
     }
     stepping_over([&] { import_boxes(project); });
-    stepping_over([&] { refrescar_cajas(); });
+    stepping_over([&] {
+        refrescar_cajas();
+        RTAux = rt1.text(); // the emptied editor holds no changes of anybody's
+    });
+    show_unsaved();
 }
 
 void Form5::import_boxes(const Text& project) {
@@ -324,6 +358,7 @@ void Form5::Command1_Click() {
 void Form5::enumerate(ScreenMap& map) {
     map.control("Label1", Label1);
     map.control("rt1", rt1);
+    map.control("lbl_unsaved", lbl_unsaved);
     map.control("List1", List1);
     map.control("Command2", Command2);
     map.control("Command5", Command5);
@@ -349,6 +384,7 @@ void Form5::enumerate(ScreenMap& map) {
     map.control("Command6", Command6);
     map.control("Label3", Label3);
     map.control("CommonDialog1", CommonDialog1);
+    map.event("rt1", "Change", [this] { show_unsaved(); });
     map.event("List1", "Click", [this] { List1_Click(); });
     map.event("Command1", "Click", [this] { Command1_Click(); });
     map.event("Command2", "Click", [this] { Command2_Click(); });

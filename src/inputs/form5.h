@@ -5,6 +5,7 @@
 #include "engine/keyword_table.h"
 #include "platform/addresses.h"
 #include "platform/screens.h"
+#include "platform/undo_stack.h"
 #include "store/database.h"
 
 #include <array>
@@ -26,8 +27,9 @@ class Form5 {
     Label Label1{
         u"Fill one or more Content Boxes to supply content to your gateway pages.  You can copy and paste "
         u"(Ctrl + V) from other sources. <html tags> are allowed. "};
-    RichTextBox rt1; ///< the box editor
-    ListBox List1;   ///< the project's boxes
+    RichTextBox rt1;                     ///< the box editor
+    Label lbl_unsaved{u"Not saved yet"}; ///< shown while the editor differs from the box
+    ListBox List1;                       ///< the project's boxes
     CommandButton Command2{u"Add"};
     CommandButton Command5{u"Save"};
     CommandButton Command3{u"Delete"};
@@ -72,6 +74,13 @@ class Form5 {
 
     /// Reads the boxes anew and empties the editor. Fault 9 past 101 boxes.
     void refrescar_cajas();
+    UndoStack deletions;
+    /// Brings back what the last Delete took, and reads the boxes anew.
+    void undo_delete();
+
+    /// Tells beside the editor whether it holds changes that no box has; after every write to the editor.
+    void show_unsaved();
+
     /// Judges the box in the editor, and cleans its text there.
     void criticar();
 
@@ -83,6 +92,8 @@ class Form5 {
 
   private:
     void fill_table();
+    void delete_box(int index, UndoStack::Command& command);
+    bool restore_box(const std::vector<StoredRow>& rows);
     void write_content(Recordset& row);
     void import_boxes(const Text& project);
 

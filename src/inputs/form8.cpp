@@ -29,11 +29,20 @@ void Form8::enumerate(ScreenMap& map) {
 
 void Form8::Form_Load() {
     marcar_forma(screen_number, true);
-    keyword_ = screen<Form3>().List1.text(); // another choice in Step 2 does not change what is edited here
-    const Text project = screen<Form2>().txt_name[0].text();
-    Label1.caption = u"Synonyms for " + keyword_;
     base_datos_ = open_hive();
     synonyms_ = open_synonyms();
+    show_keyword();
+}
+
+void Form8::follow_selection() {
+    if (keyword_ != screen<Form3>().List1.text()) show_keyword();
+}
+
+void Form8::show_keyword() {
+    keyword_ = screen<Form3>().List1.text(); // a choice in Step 2 alone does not change what is edited here
+    const Text project = screen<Form2>().txt_name[0].text();
+    Label1.caption = u"Synonyms for " + keyword_;
+    Text1.text = u"";
     for (
         Recordset row = base_datos_.OpenRecordset(
             u"select Projects.pid as X1 , keywords.keyid as X2 , keywords.pid as X3 from Projects , keywords "

@@ -22,15 +22,19 @@ class Form8 {
 
     void enumerate(ScreenMap& map);
     void Form_Load();
+    /// Shows the keyword that is selected in Step 2 now; text typed for that very one stays.
+    void follow_selection();
     void Form_Unload();
     void Command1_Click();
     void Command2_Click();
     void Command3_Click();
 
   private:
+    void show_keyword();
+
     Database base_datos_;
     Database synonyms_;
-    Text keyword_;                ///< as selected when the screen was opened
+    Text keyword_;                ///< as selected when the screen was last asked for
     std::int16_t pid_form_ = 0;   ///< kept, used by nothing
     std::int16_t keyid_form_ = 0; ///< likewise
 };

@@ -256,7 +256,7 @@ bool cancelled(const CommonDialog& dialog) {
 }
 
 FileQuestion question_of(const CommonDialog& dialog) {
-    return {dialog.dialog_title, dialog.init_dir, dialog.filter, dialog.file_name};
+    return {dialog.dialog_title, dialog.init_dir, dialog.filter, dialog.file_name, {}};
 }
 
 bool take_file(CommonDialog& dialog, std::optional<Text> chosen) {
@@ -271,7 +271,11 @@ bool CommonDialog::show_open() {
     return take_file(*this, desktop().ask_open_file(question_of(*this)));
 }
 bool CommonDialog::show_save() {
-    return take_file(*this, desktop().ask_save_file(question_of(*this)));
+    FileQuestion question = question_of(*this);
+    question.ending = default_ext;
+    if (!take_file(*this, desktop().ask_save_file(question))) return false;
+    file_name = with_ending(file_name, default_ext);
+    return true;
 }
 
 bool CommonDialog::show_color() {

@@ -362,6 +362,7 @@ struct CommonDialog {
     Text filter; ///< "Text (*.dat)|*.dat" or a bare pattern
     Text dialog_title;
     Text file_name;
+    Text default_ext;        ///< ".dat": put behind a name to save under that does not hold it anywhere
     std::uint32_t color = 0; ///< blue, green, red from the high byte down
     Text font_name;
     double font_size = 8;

@@ -34,6 +34,16 @@ Answer MsgBox(const Text& text, Buttons buttons, const Text& title) {
     return desktop().MsgBox({.text = text, .buttons = buttons, .title = title});
 }
 
+Answer ask_before_loss(const Text& text, Buttons buttons, const Text& title, const Text& about) {
+    return desktop().MsgBox(
+        {.text = text, .buttons = buttons, .title = title, .about = about, .destructive = true});
+}
+
+Text with_ending(Text name, TextView ending) {
+    if (!contains(name, ending)) name += ending;
+    return name;
+}
+
 void DoEvents() {
     desktop().DoEvents();
 }

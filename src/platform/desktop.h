@@ -20,6 +20,10 @@ struct Message {
     Buttons buttons = Buttons::ok;
     Text title = u"Tarnwick"; ///< the application's default title
     bool critical = false;
+    /// What stands below the text: what an answer would destroy, by name. Empty for most.
+    Text about = {};
+    /// Whether OK or Yes would destroy something: Cancel or No is then the answer of the Enter key.
+    bool destructive = false;
 };
 
 struct FileQuestion {
@@ -27,7 +31,11 @@ struct FileQuestion {
     Text start_folder;
     Text filter;    ///< "Text (*.dat)|*.dat" or a bare pattern
     Text file_name; ///< suggested
+    Text ending;    ///< ".dat": what a name to save under must hold; empty for none
 };
+
+/// The name with the ending behind it, unless it holds that ending anywhere.
+Text with_ending(Text name, TextView ending);
 
 struct FontChoice {
     Text name;
@@ -48,6 +56,8 @@ class Desktop {
 
     virtual Answer MsgBox(const Message& message) = 0;
     virtual std::optional<Text> ask_open_file(const FileQuestion& question) = 0;
+    /// A file that is there under the name that will be written, the ending included, is given only once the
+    /// user has agreed to replace it.
     virtual std::optional<Text> ask_save_file(const FileQuestion& question) = 0;
     /// Blue, green, red from the high byte down.
     virtual std::optional<std::uint32_t> ask_color(std::uint32_t start) = 0;
@@ -96,6 +106,8 @@ Desktop* set_desktop(Desktop* desktop);
 
 Answer MsgBox(const Text& text);
 Answer MsgBox(const Text& text, Buttons buttons, const Text& title = u"Tarnwick");
+/// A question whose OK or Yes destroys what `about` names.
+Answer ask_before_loss(const Text& text, Buttons buttons, const Text& title, const Text& about);
 void DoEvents();
 /// Tells what has just been done, in the status bar of the window.
 void say(const Text& what);

@@ -38,7 +38,9 @@ RuntimeFault::RuntimeFault(int number, Text text)
 RuntimeFault::RuntimeFault(int number) : RuntimeFault(number, Text(usual_text(number))) {}
 
 Text fault_message(const RuntimeFault& fault) {
-    Text message = u"Run-time error '" + from_utf8(std::to_string(fault.number())) + u"':\n\n" + fault.text();
+    Text message = fault.advice;
+    if (!message.empty()) message += u"\n\n";
+    message += u"Run-time error '" + from_utf8(std::to_string(fault.number())) + u"':\n\n" + fault.text();
     if (!fault.stage.empty()) message += u"\n\n" + fault.stage;
     if (!fault.page.empty()) message += u"\n\nPage: " + fault.page;
     return message;

@@ -48,6 +48,8 @@ class RuntimeFault : public std::exception {
     const Text& text() const { return text_; }
     const char* what() const noexcept override { return utf8_.c_str(); }
 
+    /// One plain sentence that says what to change, shown above the number and the text; empty for most.
+    Text advice;
     /// The stage of the run and the page under way, for the message; empty outside a run.
     Text stage;
     Text page;
@@ -58,7 +60,16 @@ class RuntimeFault : public std::exception {
     std::string utf8_;
 };
 
-/// "Run-time error 'N':", a blank line and the text; then the stage and the page, when there are any.
+/// Runs one step of a routine that carries on after every fault.
+template <class Step> void stepping_over(Step step) {
+    try {
+        step();
+    } catch (const RuntimeFault&) {
+    }
+}
+
+/// "Run-time error 'N':", a blank line and the text, below the advice, when there is one; then the stage and
+/// the page, when there are any.
 Text fault_message(const RuntimeFault& fault);
 
 } // namespace twk

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/controls.h"
+#include "platform/undo_stack.h"
 
 #include <functional>
 #include <memory>
@@ -78,6 +79,8 @@ struct Screen {
     std::shared_ptr<void> instance;
     std::function<void()> unload_event;   ///< Form_Unload, empty when the screen has none
     std::function<void()> activate_event; ///< Form_Activate, likewise
+    const UndoStack* deletions = nullptr; ///< what the screen has deleted; null for most
+    std::function<void()> undo_event;     ///< takes the newest of them back
     void* front_end = nullptr;            ///< the window that shows it, owned by the front end
 };
 
@@ -87,7 +90,8 @@ struct Screen {
 ///   static constexpr const char* name = "Form6";
 ///   static constexpr TextView title = u"Step 5 of 6 - Gateway Generation";   the caption at load
 ///   void enumerate(ScreenMap& map);   tells its controls and events, once
-/// and, where it needs them, Form_Load(), Form_Unload() and Form_Activate().
+/// and, where it needs them, Form_Load(), Form_Unload() and Form_Activate(); a screen whose deletions can be
+/// taken back has them in `UndoStack deletions` and takes the newest back in undo_delete().
 /// A loaded screen is visible: loading shows it, unless the class says
 ///   static constexpr bool shown_when_loaded = false;
 /// A screen unloaded while an event runs leaves the registry at once and is destroyed when the outermost
@@ -184,6 +188,10 @@ template <class S> S& Screens::load() {
     if constexpr (requires { form.Form_Unload(); }) made->unload_event = [&form] { form.Form_Unload(); };
     if constexpr (requires { form.Form_Activate(); })
         made->activate_event = [&form] { form.Form_Activate(); };
+    if constexpr (requires { form.undo_delete(); }) {
+        made->deletions = &form.deletions;
+        made->undo_event = [&form] { form.undo_delete(); };
+    }
     // A screen may unload itself while it loads. Outside an event it is then destroyed when this returns, so
     // whoever loads screens does so from within one.
     Running running(*this);

@@ -127,7 +127,13 @@ void Form6::Command1_Click() {
 
 void Form6::Command2_Click(int index) {
     CommonDialog1.dialog_title = u"Select Color";
-    if (!CommonDialog1.show_color()) return;
+    try {
+        if (!CommonDialog1.show_color()) return;
+    } catch (const RuntimeFault& fault) {
+        // An earlier load has left Cancel a fault; here it chooses nothing.
+        if (fault.number() == fault_dialog_cancelled) return;
+        throw;
+    }
     // A decimal number, and so the pages use it.
     (index != 0 ? Text1 : Text4).text = to_text(static_cast<std::int64_t>(CommonDialog1.color));
 }
@@ -154,6 +160,7 @@ void Form6::Command4_Click() {
     CommonDialog1.filter = u"Configuration Files (*.dat)|*.dat";
     CommonDialog1.dialog_title = u"Save settings to .dat";
     CommonDialog1.file_name = project_name();
+    CommonDialog1.default_ext = u".dat";
     if (!CommonDialog1.show_save()) return;
     // Once a load has turned the property on, nothing is saved any more.
     if (!CommonDialog1.cancel_error) guardar_dat(*this, CommonDialog1.file_name);

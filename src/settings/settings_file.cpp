@@ -314,7 +314,7 @@ void close_partly_written(TextStream* out) {
 } // namespace
 
 void guardar_dat(Form6& form, const Text& nombre) {
-    const Text path = contains(nombre, u".dat") ? nombre : nombre + u".dat";
+    const Text path = with_ending(nombre, u".dat");
     const Text sibling = path + u"aux";
     FileSystemObject fso;
     TextStreamPtr out;

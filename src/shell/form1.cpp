@@ -142,8 +142,12 @@ void Form1::Command4_Click() {
     if (combo1.list_index() < 0) return;
     base_datos_ = open_hive();
     // The title of Step 1's question stands here too.
-    if (MsgBox(u"Are you sure you want to delete this project?\rAll data will be Lost.", Buttons::ok_cancel,
-               u"Replace project?") != Answer::ok)
+    const Text& chosen = combo1.text();
+    if (ask_before_loss(u"Are you sure you want to delete this project?\rAll data will be Lost.",
+                        Buttons::ok_cancel, u"Replace project?",
+                        u"Lost: the properties, keywords, content boxes and hosts of " + chosen +
+                            u"\nand all files in " +
+                            beside_program(u"Projects" + Text(path_separator) + chosen)) != Answer::ok)
         return;
     pid_ = 0;
     Text project;

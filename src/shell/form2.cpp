@@ -232,10 +232,13 @@ bool Form2::store_new_project() {
     if (!same_name.eof()) {
         std::int16_t pid = 0;
         take_last_key(same_name, u"pid", pid);
-        if (MsgBox(u"There's another project named " + project +
-                       u"! \nDo you want to replace it?\nAll data related to the old project (keywords, "
-                       u"contents, settings) will be lost.",
-                   Buttons::ok_cancel, u"Replace project?") != Answer::ok)
+        if (ask_before_loss(
+                u"There's another project named " + project +
+                    u"! \nDo you want to replace it?\nAll data related to the old project (keywords, "
+                    u"contents, settings) will be lost.",
+                Buttons::ok_cancel, u"Replace project?",
+                u"Lost: the properties, keywords, content boxes and secondary hosts of " + project +
+                    u"\nKept: the files in its folder") != Answer::ok)
             return false;
         replace_project(pid);
     }

@@ -82,6 +82,22 @@ int Recordset::RecordCount() const {
     return static_cast<int>(state_->data.rows.size());
 }
 
+std::vector<StoredRow> Recordset::rows_of(const std::string& table) const {
+    std::vector<StoredRow> all;
+    for (const auto& values : state_->data.rows) {
+        StoredRow& row = all.emplace_back(StoredRow{table, {}});
+        for (std::size_t i = 0; i < values.size(); ++i)
+            row.values.emplace_back(state_->data.columns[i], values[i]);
+    }
+    return all;
+}
+
+Field StoredRow::value(const std::string& column) const {
+    for (const auto& [name, value] : values)
+        if (name == column) return Field(&value);
+    throw RuntimeFault(fault_field);
+}
+
 void Recordset::AddNew() {
     state_->values.clear();
     state_->writing = State::Writing::adding;
@@ -146,6 +162,10 @@ Recordset Database::OpenRecordset(const Text& statement) {
 
 void Database::Execute(const Text& statement) {
     opened(connection_).change(statement);
+}
+
+void Database::put_back(const StoredRow& row) {
+    opened(connection_).write_row(row.table, 0, row.values);
 }
 
 BulkWrite::BulkWrite(const Database& store) : connection_(store.connection_) {

@@ -5,7 +5,10 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
+#include <utility>
 #include <variant>
+#include <vector>
 
 /// The project store and the synonym store: files that open only with their key, reached by statements that
 /// the screens build as one text.
@@ -28,6 +31,15 @@ class Field {
     const Value* value_;
 };
 
+/// One whole row, kept apart from the store.
+struct StoredRow {
+    std::string table;
+    std::vector<std::pair<std::string, Field::Value>> values; ///< by column, lower case
+
+    /// Fault 3265 when there is no such column.
+    Field value(const std::string& column) const;
+};
+
 /// The rows that a statement gave, or all rows of a table for adding and changing. Positioned on the first
 /// row.
 class Recordset {
@@ -40,6 +52,8 @@ class Recordset {
     Field Fields(TextView name) const;
     /// Number of all rows.
     int RecordCount() const;
+    /// All rows, as rows of that table; the place among them stays.
+    std::vector<StoredRow> rows_of(const std::string& table) const;
 
     /// Start a new row, or a change of the current one; `set` and `AppendChunk` fill it, `Update` writes it.
     void AddNew();
@@ -73,6 +87,10 @@ class Database {
 
     /// Runs an insert, update or delete; durable when it returns. The same faults.
     void Execute(const Text& statement);
+
+    /// Inserts a row that was there before, under its old key: keys are never used again, so nothing else can
+    /// have it. The faults of a write.
+    void put_back(const StoredRow& row);
 
     /// Two equal states of one handle have no change to any row between them, by whomever.
     struct RowState {

@@ -30,6 +30,10 @@ constexpr std::array<TextView, 9> forms_of_several_values{
     u"delete from synonyms  where keyword=?and synonyms=?",
 };
 
+RuntimeFault statement_fault(const Text& statement, TextView why) {
+    return {fault_statement, u"Syntax error in the statement: " + Text(why) + u"\n" + statement};
+}
+
 constexpr bool blank(char16_t c) {
     return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
 }
@@ -54,6 +58,14 @@ void put(Form& form, char16_t c, bool part_of_word) {
     form.text.push_back(c);
 }
 
+/// What the program itself writes has all its quotes in pairs: a statement that breaks at one has got it from
+/// a value.
+[[noreturn]] void apostrophe_in(const Text& statement, TextView why) {
+    RuntimeFault fault = statement_fault(statement, why);
+    fault.advice = u"An apostrophe (') cannot be stored here.";
+    throw fault;
+}
+
 Form form_of(const Text& statement) {
     Form form;
     bool after_word = false;
@@ -62,13 +74,14 @@ Form form_of(const Text& statement) {
         const char16_t next = i + 1 < statement.size() ? statement[i + 1] : u'\0';
         if (c == u'\'') {
             i = statement.find(u'\'', i + 1);
-            if (i == Text::npos) malformed_statement(statement, u"a quote is not closed");
+            if (i == Text::npos) apostrophe_in(statement, u"a quote is not closed");
             put(form, u'?', false);
             ++form.values;
             after_word = false;
         } else if (blank(c)) {
             if (after_word) form.text.push_back(u' ');
         } else if (c == u';' || (c == u'-' && next == u'-') || (c == u'/' && next == u'*') || c == u'\0') {
+            if (form.values > 0) apostrophe_in(statement, u"text that belongs to no statement");
             malformed_statement(statement, u"text that belongs to no statement");
         } else if (digit(c) && (i == 0 || !word_unit(statement[i - 1]))) {
             while (i + 1 < statement.size() && digit(statement[i + 1])) ++i;
@@ -86,7 +99,7 @@ Form form_of(const Text& statement) {
 } // namespace
 
 void malformed_statement(const Text& statement, TextView why) {
-    throw RuntimeFault(fault_statement, u"Syntax error in the statement: " + Text(why) + u"\n" + statement);
+    throw statement_fault(statement, why);
 }
 
 void fence_statement(const Text& statement, std::initializer_list<TextView> first_words) {
@@ -99,7 +112,7 @@ void fence_statement(const Text& statement, std::initializer_list<TextView> firs
     const Form form = form_of(statement);
     if (form.values > 1 && std::find(forms_of_several_values.begin(), forms_of_several_values.end(),
                                      form.text) == forms_of_several_values.end())
-        malformed_statement(statement, u"an apostrophe in a value");
+        apostrophe_in(statement, u"an apostrophe in a value");
 }
 
 } // namespace twk

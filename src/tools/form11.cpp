@@ -42,7 +42,9 @@ void Form11::Command1_Click() {
     Text texto = desktop().inner_text(wb1);
     replace_all(texto, vbCr, u"<p>");
     replace_all(texto, vbCrLf, u""); // finds none: of a line end only the line feed is left, and it stays
-    screen<Form5>().rt1.text = texto;
+    Form5& step3 = screen<Form5>();
+    step3.rt1.text = texto;
+    step3.show_unsaved();
 }
 
 void Form11::enumerate(ScreenMap& map) {

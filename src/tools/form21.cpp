@@ -24,7 +24,9 @@ void Form21::cmdrefresh_Click() {
 }
 
 void Form21::cmdgoback_Click() {
-    screen<Form5>().rt1.text = Text1.text();
+    Form5& step3 = screen<Form5>();
+    step3.rt1.text = Text1.text();
+    step3.show_unsaved();
     screens().unload<Form21>();
 }
 

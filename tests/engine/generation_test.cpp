@@ -53,6 +53,7 @@ TEST_F(GenerationRun, no_at_the_question_ends_it) {
     app.desktop.expect(u"project's directories.\nAre you sure you want to proceed?", Answer::no);
     EXPECT_TRUE(click(project.form));
     EXPECT_EQ(app.desktop.messages.back().title, u"Create Pages?");
+    EXPECT_TRUE(app.desktop.warned_of(project.folder()));
     EXPECT_TRUE(app.exists(project.folder(u"old.htm")));
     EXPECT_FALSE(screens().is_loaded<Form12>());
 }

@@ -76,6 +76,11 @@ TEST(KeywordSynonyms, AddARowEachTimeAndDeleteOnlyTheVeryText) {
     ASSERT_TRUE(screens().fire<Form8>("Command2", "Click"));
     EXPECT_TRUE(screens().is_loaded<Form8>()) << "an empty text does nothing";
     screen<Form3>().Text1_Click(); // the selection in Step 2 goes, the word here stays
+    screen<Form3>().List1.set_list(0, u"coffee");
+    screen<Form3>().List1.list_index = 0;
+    ASSERT_TRUE(screens().fire<Form3>("Command8", "Click"));
+    EXPECT_EQ(form->Label1.caption(), u"Synonyms for coffee") << "asked for anew, it is the one selected now";
+    form = &words.open_for(u"green tea ");
     form->Text1.text = u"sencha\r\n\"matcha\"(fine)";
     ASSERT_TRUE(screens().fire<Form8>("Command2", "Click"));
     EXPECT_FALSE(screens().is_loaded<Form8>());

@@ -114,6 +114,42 @@ TEST_F(Moves, stop_half_way_at_a_repeated_subkeyword) {
     EXPECT_EQ(stored_keywords(), "roses|tulips|lilies");
 }
 
+TEST_F(Moves, act_on_what_their_frame_was_opened_for_or_not_at_all) {
+    store_subkeyword(1, u"red");
+    app.run(u"insert into ties ( pid , keyid , cid ) values ( 1 , 2 , 7 ) ");
+    select_keyword(1);
+    click("Command12");
+    form().List4.list_index = 1; // lilies
+    screens().fire<Form3>("Text1", "Click");
+    const std::string before = app.all_rows();
+    app.desktop.expect(u"you Must select a keyword from this frame"); // the selection has gone
+    click("Command16");
+    EXPECT_EQ(app.all_rows(), before);
+    select_keyword(2);
+    form().List4.list_index = 0; // roses
+    click("Command16");
+    EXPECT_EQ(keywords(), "roses|lilies");
+    EXPECT_EQ(stored_subkeywords(1), "red|tulips");
+    EXPECT_EQ(app.count(u"select * from ties"), 0);
+
+    select_keyword(0);
+    select_subkeyword(1);
+    click("Command11");
+    click("Option1", 1);
+    form().List3.list_index = 0;
+    app.run(u"delete from keywords where keyid = 3");
+    const Text no_destination = u"You must select a destination keyword from this frame";
+    app.desktop.expect(no_destination); // it has been deleted meanwhile
+    click("Command15");
+    EXPECT_EQ(stored_subkeywords(1), "red|tulips");
+    click("Option1", 0);
+    select(form().List2, {});
+    app.desktop.expect(no_destination);
+    click("Command15");
+    EXPECT_EQ(stored_keywords(), "roses");
+    EXPECT_EQ(stored_subkeywords(1), "red|tulips");
+}
+
 TEST_F(Moves, copy_the_keywords_of_another_project_once) {
     store_keyword(u"ferns", 2);
     store_keyword(u"tulips", 2);

@@ -81,11 +81,14 @@ TEST_F(Keywords, deletes_what_is_selected_until_the_user_cancels) {
     for (int keyid = 1; keyid <= 3; ++keyid) store_subkeyword(keyid, u"red");
     app.run(u"insert into ties ( pid , keyid , cid ) values ( 1 , 1 , 7 ) ");
     app.run(u"insert into ties ( pid , keyid , cid ) values ( 1 , 2 , 7 ) ");
+    app.run(u"insert into content ( cid , pid , content ) values ( 7 , 1 , 'box' ) ");
     click("Command7"); // nothing selected, nothing said
     select(form().List1, {0, 1, 2});
     app.desktop.expect(u"Are you sure you want to delete this keyword?\rAll its subKeywords will be lost.");
     app.desktop.expect(u"Are you sure", Answer::cancel);
+    const std::string before = app.all_rows();
     click("Command7");
+    EXPECT_TRUE(app.desktop.warned_of(u"'tulips' with its subkeywords 'red'"));
     EXPECT_EQ(to_utf8(app.desktop.messages.front().title), "Delete Keyword?");
     EXPECT_EQ(keywords(), "tulips|lilies|ferns");
     EXPECT_EQ(stored_keywords(), "tulips|lilies|ferns");
@@ -96,6 +99,18 @@ TEST_F(Keywords, deletes_what_is_selected_until_the_user_cancels) {
     click("Command7");
     EXPECT_EQ(stored_keywords(), "tulips");
     EXPECT_EQ(to_utf8(form().keyw.caption()), "1");
+    // Each Delete comes back whole, but for what has been typed anew meanwhile.
+    EXPECT_EQ(to_utf8(form().deletions.description()), "2 keywords");
+    type_keyword(u"LILIES");
+    app.desktop.expect(u"You can't define 2 equal keywords");
+    form().undo_delete();
+    EXPECT_EQ(keywords(), "tulips|ferns|LILIES");
+    EXPECT_EQ(to_utf8(form().deletions.description()), "keyword 'lilies'");
+    app.run(u"delete from keywords where keyid = 5");
+    for (int i = 0; i < 2; ++i) form().undo_delete();
+    EXPECT_EQ(keywords(), "roses|tulips|lilies|ferns");
+    EXPECT_EQ(app.all_rows(), before);
+    EXPECT_TRUE(form().deletions.empty());
 }
 
 TEST_F(Keywords, are_deleted_as_selected_when_the_deleting_began) {
@@ -181,11 +196,31 @@ TEST_F(Keywords, edits_and_deletes_subkeywords) {
     EXPECT_EQ(subkeywords(), "pink");
     EXPECT_EQ(stored_subkeywords(1), "pink");
     EXPECT_EQ(to_utf8(form().skeyw.caption()), "1");
+    form().undo_delete();
+    EXPECT_EQ(subkeywords(), "red|Index|pink");
+    select(form().List2, {0, 1});
+    click("Command10");
     // The keyword's selection has gone, its subkeywords are still shown: they go from the store, too.
     screens().fire<Form3>("Text1", "Click");
     select(form().List2, {0});
     click("Command10");
     EXPECT_EQ(stored_subkeywords(1), "");
+}
+
+TEST_F(Keywords, are_selected_past_what_the_store_cannot_give) {
+    store_keyword(u"roses");
+    app.run(u"insert into elements ( catid ) values ( 1 ) ");
+    store_subkeyword(1, u"red");
+    app.run(u"insert into keywords ( keyid , pid , keyword ) values ( 40000 , 1 , 'huge' ) ");
+    select_keyword(0);
+    EXPECT_EQ(subkeywords(), "red") << "behind one that is null";
+    form().Text2.text = u"typed";
+    select_keyword(1);
+    EXPECT_EQ(to_utf8(form().Text1.text()), "huge");
+    EXPECT_EQ(subkeywords() + to_utf8(form().Text2.text()), "");
+    app.desktop.expect(u"You must select a Keyword (in the left panel) to adjudicate a SubKeyword");
+    type_subkeyword(u"blue");
+    EXPECT_EQ(app.count(u"select * from elements"), 2) << "nothing went to the keyword before";
 }
 
 } // namespace

@@ -97,12 +97,55 @@ TEST_F(ContentBoxes, go_with_their_ties) {
     app.run(u"insert into ties ( pid , keyid , cid ) values ( 1 , 5 , 1 ) ");
     app.run(u"insert into ties ( pid , keyid , cid ) values ( 1 , 6 , 1 ) ");
     app.run(u"insert into ties ( pid , keyid , cid ) values ( 1 , 7 , 2 ) ");
+    const std::string before = app.all_rows();
     form().List1.list_index = 0;
     form().RTAux = u"first";
     click("Command3");
     EXPECT_EQ(boxes(), "second");
     EXPECT_EQ(stored(u"select * from ties", u"keyid"), "7");
     EXPECT_TRUE(form().RTAux.empty());
+    EXPECT_EQ(to_utf8(form().deletions.description()), "box '1. first ... '");
+    form().undo_delete();
+    EXPECT_EQ(app.all_rows(), before);
+    EXPECT_EQ(form().List1.list_count(), 2);
+    // A keyword that has been tied anew keeps that tie alone.
+    form().List1.list_index = 0;
+    click("Command3");
+    app.run(u"insert into ties ( pid , keyid , cid ) values ( 1 , 6 , 2 ) ");
+    form().undo_delete();
+    EXPECT_EQ(stored(u"select * from ties where cid = 1", u"keyid"), "5");
+}
+
+TEST_F(ContentBoxes, tell_what_is_not_saved_and_ask_for_nothing_else) {
+    store_keyword(u"alien", 2);
+    store_box(u"first");
+    store_box(u"second");
+    form().Check1.value = false;
+    const auto type = [this](TextView text) {
+        form().rt1.text = Text(text);
+        screens().fire<Form5>("rt1", "Change");
+    };
+    choose(0);
+    EXPECT_FALSE(form().lbl_unsaved.visible());
+    type(u"first, and more");
+    EXPECT_TRUE(form().lbl_unsaved.visible());
+    form().List1.list_index = -1;
+    click("Command3"); // nothing is deleted, the editor is emptied
+    EXPECT_FALSE(form().lbl_unsaved.visible());
+    click("Command1");
+    choose(1);
+    form().combo1.select(0);
+    app.desktop.always(u"Are you sure you want to proceed?", Answer::yes);
+    app.desktop.expect(u"Import Content Boxes from other to this project?");
+    click("Command7");
+    click("Command1"); // leads on without a question
+    type(u"typed");
+    app.desktop.fonts = {FontChoice{u"Arial", 10}};
+    app.desktop.expect(u"Do you want to ADD this content ?", Answer::yes);
+    app.desktop.expect(u"We recomend");
+    click("Command11");
+    EXPECT_EQ(boxes(), "first|second|<font face = Arial size = 10> typed </font>");
+    EXPECT_FALSE(form().lbl_unsaved.visible());
 }
 
 TEST_F(ContentBoxes, are_tied_to_a_keyword_once) {

@@ -83,6 +83,7 @@ TEST_F(StepFive, saves_by_dialog_until_a_file_has_been_loaded) {
     EXPECT_TRUE(click("Command4"));
     EXPECT_TRUE(app.exists(u"mine.dat"));
     EXPECT_EQ(utf8(app.desktop.file_questions.back().file_name), "garden");
+    EXPECT_EQ(utf8(app.desktop.file_questions.back().ending), ".dat");
     EXPECT_EQ(utf8(app.desktop.file_questions.back().title), "Save settings to .dat");
 
     app.desktop.open_files = {std::nullopt, app.path(u"mine.dat")};
@@ -100,6 +101,8 @@ TEST_F(StepFive, saves_by_dialog_until_a_file_has_been_loaded) {
 
 TEST_F(StepFive, takes_colours_as_decimal_numbers) {
     form();
+    app.desktop.open_files = {std::nullopt};
+    EXPECT_TRUE(click("Command3")); // a cancelled load makes no fault of the colour's Cancel
     app.desktop.colors = {0x00FF8000U, 255U, std::nullopt};
     EXPECT_TRUE(click("Command2", 0));
     EXPECT_EQ(utf8(form().Text4.text()), "16744448");

@@ -110,6 +110,7 @@ TEST(DeleteProject, RemovesFolderAndRowsOfThisProjectAlone) {
     manager.app.desktop.expect(u"Are you sure you want to delete this project?\rAll data will be Lost.");
     manager.click("Command4");
     EXPECT_EQ(manager.app.desktop.messages.back().title, u"Replace project?");
+    EXPECT_TRUE(manager.app.desktop.warned_of(manager.app.path(u"Projects/tea")));
     EXPECT_FALSE(manager.app.exists(u"Projects/tea"));
     EXPECT_TRUE(manager.app.exists(u"Projects/coffee/index.htm"));
     for (const char16_t* table :

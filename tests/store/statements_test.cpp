@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/faults.h"
+#include "platform/screens.h"
 #include "support/faults.h"
 #include "support/temp_app.h"
 
@@ -50,12 +51,18 @@ TEST(JoinDelete, ReachesOnlyTheRowsThatTheJoinMatches) {
 }
 
 TEST(MalformedStatements, ChangeNothing) {
-    const Filled app;
+    Filled app;
+    app.desktop.always(u"3075", Answer::ok);
     for (const char16_t* const value :
          {u"it's", u"x' ) --", u"x' ) /* ", u"x' ) ; delete from host where ( '' = '", u"'", u"rock 'n' roll",
           u"x' ) ; --"}) {
         const Text statement = u"insert into host ( pid , host ) values ( 1 , '" + Text(value) + u"' ) ";
         EXPECT_EQ(fault_of([&] { app.run(statement); }), fault_statement) << to_utf8(value);
+        screens().dispatch([&] { app.run(statement); });
+        const Text& shown = app.desktop.last_message();
+        EXPECT_TRUE(shown.starts_with(u"An apostrophe (') cannot be stored here.\n\nRun-time error '3075':") &&
+                    contains(shown, statement))
+            << to_utf8(shown);
     }
     for (const char16_t* const statement :
          {u"", u"  ", u"drop table host", u"create table more ( a text )", u"pragma user_version = 7",

@@ -30,6 +30,10 @@ const Text& TestDesktop::last_message() const {
     return messages.empty() ? none : messages.back().text;
 }
 
+bool TestDesktop::warned_of(TextView lost) const {
+    return !messages.empty() && messages.back().destructive && contains(messages.back().about, lost);
+}
+
 Answer TestDesktop::MsgBox(const Message& message) {
     messages.push_back(message);
     if (!expected_.empty() && expected_.front().fits(message.text)) {

@@ -28,6 +28,8 @@ class TestDesktop : public Desktop {
 
     std::vector<Message> messages;
     const Text& last_message() const;
+    /// Whether the last question had its refusal as default and named `lost` below its text.
+    bool warned_of(TextView lost) const;
     std::vector<Text> started;   ///< files and addresses opened in the system
     std::vector<Text> said;      ///< what the status bar told
     std::vector<Text> navigated; ///< addresses the browsers were sent to
