@@ -2,10 +2,17 @@
 #include "desktop/binder.h"
 
 #include "desktop/control_links.h"
+#include "desktop/form_keys.h"
+#include "desktop/form_manners.h"
+#include "desktop/widget_events.h"
 
+#include <QGuiApplication>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 #include <QWidget>
+#include <deque>
+#include <string_view>
 #include <type_traits>
 
 namespace twk {
@@ -31,11 +38,28 @@ bool is_own_list(const Screen& screen, const ScreenMap::Control& control) {
     return own_lists.contains(screen.name + "." + control.object_name());
 }
 
+struct Owed {
+    QPointer<ScreenBinding> binding;
+    const ScreenMap::Control* control;
+    std::string_view event;
+};
+
+std::deque<Owed> owed;
+bool settling = false;
+
+void forget(const ScreenBinding& binding, const ScreenMap::Control& control, std::string_view event) {
+    std::erase_if(owed, [&](const Owed& each) {
+        return each.binding == &binding && each.control == &control && each.event == event;
+    });
+}
+
 } // namespace
 
 ScreenBinding::ScreenBinding(Screen& screen, QWidget& form) : screen_(&screen) {
     for (auto* button : form.findChildren<QPushButton*>()) button->setAutoDefault(false);
     bind_controls(form);
+    new FormKeys(*this, form);
+    new FormManners(*this, form);
     check_events();
 }
 
@@ -85,6 +109,7 @@ void ScreenBinding::detach() {
     for (const ScreenMap::Control& each : screen_->map.all_controls())
         std::visit([](auto* control) { control->observer.watch({}); }, each.ref);
     screen_->observer.watch({});
+    std::erase_if(owed, [this](const Owed& each) { return each.binding == this; });
     screen_ = nullptr;
     browsers_.clear();
 }
@@ -108,8 +133,53 @@ void ScreenBinding::run(const std::function<void()>& event) {
     if (after_event) after_event();
 }
 
-void ScreenBinding::fire_later(const ScreenMap::Control& control, const char* event) {
-    QTimer::singleShot(0, this, [this, &control, event] { fire(control, event); });
+void ScreenBinding::act(const ScreenMap::Control& control, const char* event) {
+    forget(*this, control, event);
+    settle();
+    fire(control, event);
+}
+
+void ScreenBinding::owe(const ScreenMap::Control& control, const char* event) {
+    if (!has_event(control, event)) return;
+    forget(*this, control, event);
+    owed.push_back({this, &control, event});
+    QTimer::singleShot(0, this, &ScreenBinding::settle_when_idle);
+}
+
+void ScreenBinding::settle_when_idle() {
+    constexpr int while_held = 10; // milliseconds
+    if (owed.empty()) return;
+    if (settling || QGuiApplication::mouseButtons() != Qt::NoButton)
+        QTimer::singleShot(while_held, this, &ScreenBinding::settle_when_idle);
+    else
+        settle();
+}
+
+bool ScreenBinding::settle() {
+    if (settling) return false; // an event that is owed shows a message, and others go on meanwhile
+    settling = true;
+    bool taken_back = false;
+    while (!owed.empty()) {
+        const Owed next = owed.front();
+        owed.pop_front();
+        const int given = times_focus_given();
+        if (next.binding != nullptr) next.binding->fire(*next.control, next.event.data());
+        taken_back |= next.event == "LostFocus" && times_focus_given() != given;
+    }
+    settling = false;
+    return taken_back;
+}
+
+bool ScreenBinding::has_event(const ScreenMap::Control& control, const char* event) const {
+    return screen_ != nullptr && screen_->map.find_event(control.name, event, control.index) != nullptr;
+}
+
+const ScreenMap::Control* ScreenBinding::control_of(const QWidget& widget) const {
+    if (screen_ == nullptr) return nullptr;
+    const std::string name = widget.objectName().toStdString();
+    for (const ScreenMap::Control& each : screen_->map.all_controls())
+        if (each.object_name() == name) return &each;
+    return nullptr;
 }
 
 void ScreenBinding::offer(const ScreenMap::Control& control, const char* event) {

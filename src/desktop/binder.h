@@ -32,8 +32,18 @@ class ScreenBinding : public QObject {
     bool fire_form(const char* event);
     /// Runs something that may end in a fault, as an event does.
     void run(const std::function<void()>& event);
-    /// The same once control has returned to the event loop.
-    void fire_later(const ScreenMap::Control& control, const char* event);
+    /// Raises an event that the user's hand has caused, behind all that is owed.
+    void act(const ScreenMap::Control& control, const char* event);
+    /// The same as soon as the widgets are done with what the hand is doing: when no mouse button is held any
+    /// more, and before the next `act` at the latest. What is owed twice is raised once.
+    void owe(const ScreenMap::Control& control, const char* event);
+    /// Raises what is owed to all screens, in the order in which it happened. Gives whether something that
+    /// the user has left has taken the focus back.
+    static bool settle();
+
+    bool has_event(const ScreenMap::Control& control, const char* event) const;
+    /// The control that a widget shows, null for none.
+    const ScreenMap::Control* control_of(const QWidget& widget) const;
 
     /// Told by the links: an event that the widget raises.
     void offer(const ScreenMap::Control& control, const char* event);
@@ -49,6 +59,7 @@ class ScreenBinding : public QObject {
   private:
     void bind_controls(QWidget& form);
     void check_events();
+    void settle_when_idle();
 
     Screen* screen_;
     std::set<std::string> offered_;

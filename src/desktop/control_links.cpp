@@ -5,6 +5,7 @@
 #include "desktop/browser.h"
 #include "desktop/control_watch.h"
 #include "desktop/qt_text.h"
+#include "desktop/tool_tips.h"
 #include "desktop/widget_events.h"
 
 #include <QAbstractButton>
@@ -15,6 +16,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -84,7 +86,7 @@ template <class Box> bool link_editor(const ControlLink<Box>& link, QPlainTextEd
     QObject::connect(&editor, &QPlainTextEdit::textChanged, &link.binding, [link, &editor] {
         if (link.binding.screen() == nullptr) return;
         link.control.text.from_user(edited_text(editor));
-        link.binding.fire(link.name, "Change");
+        link.binding.act(link.name, "Change");
     });
     link.binding.offer(link.name, "Change");
     watch_widget(link.binding, link.name, editor);
@@ -96,15 +98,18 @@ bool link_line(const ControlLink<TextBox>& link, QLineEdit& line) {
     line.setMaxLength(longest);
     line.setReadOnly(line.isReadOnly() || link.control.read_only);
     watch_control(link, {Prop::text}, [&line, &box = link.control](Prop changed) {
-        if (changed == Prop::text || changed == Prop::front) put_text(line, to_qt(box.text()));
+        if (changed != Prop::text && changed != Prop::front) return;
+        put_text(line, to_qt(box.text()));
+        if (!line.hasFocus()) line.setCursorPosition(0); // a long text shows its beginning
     });
     QObject::connect(&line, &QLineEdit::textEdited, &link.binding, [link](const QString& text) {
         if (link.binding.screen() == nullptr) return;
         link.control.text.from_user(from_qt(text));
-        link.binding.fire(link.name, "Change");
+        link.binding.act(link.name, "Change");
     });
-    QObject::connect(&line, &QLineEdit::returnPressed, &link.binding,
-                     [link] { link.binding.fire(link.name, "Enter"); });
+    show_full_text(line, [&line](QPoint) {
+        return line.fontMetrics().horizontalAdvance(line.text()) > line.width() ? line.text() : QString();
+    });
     for (const char* event : {"Change", "Enter"}) link.binding.offer(link.name, event);
     watch_widget(link.binding, link.name, line);
     return true;
@@ -137,10 +142,17 @@ bool link(const ControlLink<CommandButton>& link) {
     auto* const button = qobject_cast<QAbstractButton*>(&link.widget);
     if (button == nullptr) return false;
     watch_control(link, {Prop::caption}, [button, &control = link.control](Prop changed) {
-        if (changed == Prop::caption) button->setText(to_qt(control.caption()));
+        if (changed != Prop::caption) return;
+        button->setText(to_qt(control.caption()));
+        if (button->shortcut().isEmpty() && button->text().contains(QStringLiteral("Next")))
+            button->setShortcut(Qt::ALT | Qt::Key_N);
     });
-    QObject::connect(button, &QAbstractButton::clicked, &link.binding,
-                     [link] { link.binding.fire(link.name, "Click"); });
+    QObject::connect(button, &QAbstractButton::clicked, &link.binding, [link, button] {
+        const auto* const push = qobject_cast<const QPushButton*>(button);
+        // A box that has refused what it holds, and said so, need not be refused once more by Next.
+        if (ScreenBinding::settle() && push != nullptr && push->isDefault()) return;
+        link.binding.fire(link.name, "Click");
+    });
     link.binding.offer(link.name, "Click");
     return true;
 }
@@ -167,7 +179,7 @@ bool link(const ControlLink<CheckBox>& link) {
     QObject::connect(box, &QCheckBox::clicked, &link.binding, [link](bool on) {
         if (link.binding.screen() == nullptr) return;
         link.control.value.from_user(on);
-        link.binding.fire(link.name, "Click");
+        link.binding.act(link.name, "Click");
     });
     link.binding.offer(link.name, "Click");
     return true;
@@ -189,7 +201,7 @@ bool link(const ControlLink<OptionButton>& link) {
         if (link.binding.screen() != nullptr) link.control.value.from_user(on);
     });
     QObject::connect(option, &QRadioButton::clicked, &link.binding,
-                     [link] { link.binding.fire(link.name, "Click"); });
+                     [link] { link.binding.act(link.name, "Click"); });
     link.binding.offer(link.name, "Click");
     return true;
 }
@@ -206,7 +218,7 @@ bool link(const ControlLink<Slider>& link) {
     QObject::connect(slider, &QSlider::valueChanged, &link.binding, [link](int value) {
         if (link.binding.screen() == nullptr) return;
         link.control.value.from_user(value);
-        link.binding.fire(link.name, "Change");
+        link.binding.act(link.name, "Change");
     });
     link.binding.offer(link.name, "Change");
     return true;
@@ -256,12 +268,12 @@ bool link(const ControlLink<Grid>& link) {
                                new QTableWidgetItem(to_qt(grid.rows[static_cast<std::size_t>(r)][column])));
         }
     });
-    QObject::connect(table, &QTableWidget::itemSelectionChanged, &link.binding, [link, table] {
-        if (link.binding.screen() == nullptr) return;
+    const auto take = [link, table] {
+        if (link.binding.screen() == nullptr) return false;
         link.control.row = table->selectedItems().isEmpty() ? 0 : table->currentRow() + 1;
-        link.binding.fire(link.name, "Click");
-    });
-    link.binding.offer(link.name, "Click");
+        return true;
+    };
+    link_choice(link, *table, &QTableWidget::itemSelectionChanged, &QTableWidget::itemClicked, take);
     return true;
 }
 

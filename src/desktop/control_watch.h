@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "desktop/binder.h"
 #include "desktop/control_links.h"
 #include "desktop/widget_events.h"
 
+#include <QGuiApplication>
 #include <QWidget>
 #include <initializer_list>
 
@@ -23,6 +25,24 @@ void watch_control(const ControlLink<C>& link, std::initializer_list<Prop> conte
     for (const Prop each : content) update(each);
     update(Prop::enabled);
     if (!link.control.visible()) update(Prop::visible);
+}
+
+/// Whenever the user has chosen in a list, `take` brings the choice into the control and says whether there
+/// is one, which the screen is told as a click: for a key then and there, for the mouse when its button is
+/// up, and for a click on what is chosen already, too.
+template <class C, class W, class Changed, class Clicked, class Take>
+void link_choice(const ControlLink<C>& link, W& list, Changed changed, Clicked clicked, Take take) {
+    QObject::connect(&list, changed, &link.binding, [link, take] {
+        if (!take()) return;
+        if (QGuiApplication::mouseButtons() == Qt::NoButton)
+            link.binding.act(link.name, "Click");
+        else
+            link.binding.owe(link.name, "Click");
+    });
+    QObject::connect(&list, clicked, &link.binding, [link, take] {
+        if (take()) link.binding.act(link.name, "Click");
+    });
+    link.binding.offer(link.name, "Click");
 }
 
 } // namespace twk

@@ -9,6 +9,7 @@ namespace twk {
 
 FormArea::FormArea(QWidget& form) : form_(form) {
     setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
     // A resizable scroll area asks for the form's preferred height; the least one is enough.
     setWidgetResizable(false);
     setWidget(&form_);

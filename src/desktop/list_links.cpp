@@ -2,8 +2,8 @@
 #include "desktop/binder.h"
 #include "desktop/control_watch.h"
 #include "desktop/qt_text.h"
+#include "desktop/tool_tips.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -14,49 +14,51 @@ namespace twk {
 
 namespace {
 
-QListWidgetItem* new_item(const Text& text, bool ticked_list) {
-    auto* const item = new QListWidgetItem(to_qt(text));
-    if (ticked_list) {
-        item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
-        item->setCheckState(Qt::Unchecked);
+void add_entries(QListWidget& list, int at, const std::vector<Text>& entries, bool ticked) {
+    QStringList texts;
+    for (auto i = static_cast<std::size_t>(at); i < entries.size(); ++i) texts << to_qt(entries[i]);
+    list.insertItems(at, texts);
+    if (!ticked) return;
+    for (int row = at; row < list.count(); ++row) {
+        list.item(row)->setFlags(list.item(row)->flags() | Qt::ItemIsUserCheckable);
+        list.item(row)->setCheckState(Qt::Unchecked);
     }
-    return item;
 }
 
-/// Brings the widget's entries up to the control's: a list grows or shrinks by one entry at a time, and
-/// what has not changed keeps its place on the screen. Gives the first row whose mark may have changed.
-int show_entries(QListWidget& list, const std::vector<Text>& entries, bool ticked = false) {
-    const int count = static_cast<int>(entries.size());
-    if (count == list.count() + 1) {
-        list.addItem(new_item(entries.back(), ticked));
-        return count - 1;
-    }
-    int same = 0;
-    const auto shown = [&list](int row) { return from_qt(list.item(row)->text()); };
-    while (same < count && same < list.count() && shown(same) == entries[static_cast<std::size_t>(same)])
-        ++same;
-    if (count == list.count() - 1) {
-        delete list.takeItem(same);
-        return 0;
-    }
-    if (count == list.count()) {
-        for (int row = same; row < count; ++row)
+/// Brings the widget's entries up to the control's by what the list was last changed by: the rest keeps its
+/// place on the screen, and a long list costs no more than a short one. Gives whether all is new.
+bool show_entries(QListWidget& list, const ListBox& box) {
+    const ListChange& change = box.last_change();
+    const std::vector<Text>& entries = box.entries();
+    const bool follows = list.count() - change.removed + change.added == box.list_count();
+    const bool at_end = change.at + change.added == box.list_count();
+    if (follows && change.removed == change.added) {
+        for (int row = change.at; row < change.at + change.added; ++row)
             list.item(row)->setText(to_qt(entries[static_cast<std::size_t>(row)]));
-        return 0;
+    } else if (follows && change.removed == 0 && at_end) {
+        add_entries(list, change.at, entries, box.tick_marks);
+    } else if (follows && change.removed == 1 && change.added == 0) {
+        // Otherwise a neighbour would be chosen.
+        if (list.currentRow() == change.at) list.setCurrentRow(-1, QItemSelectionModel::NoUpdate);
+        delete list.takeItem(change.at);
+    } else {
+        list.clear();
+        add_entries(list, 0, entries, box.tick_marks);
+        return true;
     }
-    list.clear();
-    for (const Text& each : entries) list.addItem(new_item(each, ticked));
-    return 0;
+    return false;
 }
 
 void show_current(QListWidget& list, int row) {
     const bool several = list.selectionMode() == QAbstractItemView::ExtendedSelection;
+    const int shown = several || !list.selectedItems().isEmpty() ? list.currentRow() : -1;
+    if (shown == row) return;
     list.setCurrentRow(row, several ? QItemSelectionModel::NoUpdate : QItemSelectionModel::ClearAndSelect);
     if (row < 0 && !several) list.clearSelection();
 }
 
-void show_marks(QListWidget& list, const ListBox& box, int first) {
-    for (int row = first; row < list.count(); ++row) {
+void show_marks(QListWidget& list, const ListBox& box, int from, int count) {
+    for (int row = from; row < from + count; ++row) {
         if (box.tick_marks)
             list.item(row)->setCheckState(box.selected(row) ? Qt::Checked : Qt::Unchecked);
         else if (box.multi_select)
@@ -67,31 +69,37 @@ void show_marks(QListWidget& list, const ListBox& box, int first) {
 /// What the user has chosen in the widget, into the control.
 void take_selection(const QListWidget& list, ListBox& box) {
     std::vector<int> marked;
-    for (int row = 0; row < list.count(); ++row) {
-        const QListWidgetItem* const item = list.item(row);
-        if (box.tick_marks ? item->checkState() == Qt::Checked : item->isSelected()) marked.push_back(row);
+    if (box.tick_marks) {
+        for (int row = 0; row < list.count(); ++row)
+            if (list.item(row)->checkState() == Qt::Checked) marked.push_back(row);
+    } else if (box.multi_select) {
+        for (const QModelIndex& each : list.selectionModel()->selectedIndexes()) marked.push_back(each.row());
     }
     const bool none = !box.multi_select && list.selectedItems().isEmpty();
     box.select_from_user(none ? -1 : list.currentRow(), marked);
 }
 
-/// Whenever the user has chosen in the list, `take` brings the choice into the control and says whether there
-/// is one, which the screen is told as a click.
-template <class C, class Take> void link_choice(const ControlLink<C>& link, QListWidget& list, Take take) {
-    const auto taken = [link, take](bool told) {
-        if (link.binding.screen() != nullptr && take() && told) link.binding.fire(link.name, "Click");
-    };
-    // A click tells itself; a selection that the keys have moved counts as one.
-    QObject::connect(&list, &QListWidget::itemSelectionChanged, &link.binding,
-                     [taken] { taken(QApplication::mouseButtons() == Qt::NoButton); });
-    QObject::connect(&list, &QListWidget::itemClicked, &link.binding, [taken] { taken(true); });
-    QObject::connect(&list, &QListWidget::itemChanged, &link.binding, [taken] { taken(false); }); // a tick
-    link.binding.offer(link.name, "Click");
+template <class C, class Take> void link_list(const ControlLink<C>& link, QListWidget& list, Take take) {
+    link_choice(link, list, &QListWidget::itemSelectionChanged, &QListWidget::itemClicked,
+                [link, take] { return link.binding.screen() != nullptr && take(); });
+}
+
+/// Tool tips of the entries: what an entry stands for, or the entry itself when it is wider than the list.
+template <class Box> void show_entry_tips(QAbstractItemView& view, const Box& box) {
+    show_full_text(*view.viewport(), [&view, &box](QPoint at) {
+        const QModelIndex entry = view.indexAt(at);
+        if (!entry.isValid()) return QString();
+        if constexpr (requires { box.full_text; })
+            if (const Text full = box.full_text ? box.full_text(entry.row()) : Text(); !full.empty())
+                return to_qt(full);
+        const QString text = entry.data().toString();
+        return view.fontMetrics().horizontalAdvance(text) + 8 > view.viewport()->width() ? text : QString();
+    });
 }
 
 template <class C> void link_double_click(const ControlLink<C>& link, QListWidget& list) {
     QObject::connect(&list, &QListWidget::itemDoubleClicked, &link.binding,
-                     [link] { link.binding.fire(link.name, "DblClick"); });
+                     [link] { link.binding.act(link.name, "DblClick"); });
     link.binding.offer(link.name, "DblClick");
 }
 
@@ -105,51 +113,71 @@ bool link(const ControlLink<ListBox>& link) {
                                             : QAbstractItemView::SingleSelection);
     watch_control(link, {Prop::list, Prop::list_index}, [list, &box](Prop changed) {
         const QSignalBlocker quiet(list);
-        const int first = changed == Prop::list ? show_entries(*list, box.entries(), box.tick_marks) : 0;
+        const bool anew = changed == Prop::list && show_entries(*list, box);
         if (changed == Prop::list || changed == Prop::list_index) show_current(*list, box.list_index());
-        if (changed == Prop::list || changed == Prop::selection) show_marks(*list, box, first);
+        if (anew) show_marks(*list, box, 0, box.list_count());
+        if (changed == Prop::selection) show_marks(*list, box, box.last_change().at, 1);
     });
-    link_choice(link, *list, [list, &box] {
+    link_list(link, *list, [list, &box] {
         take_selection(*list, box);
         return true;
     });
+    QObject::connect(list, &QListWidget::itemChanged, &link.binding, [link, list] {
+        if (link.binding.screen() != nullptr) take_selection(*list, link.control); // a tick
+    });
     link_double_click(link, *list);
+    show_entry_tips(*list, box);
     return true;
 }
+
+namespace {
+
+/// An editable box shows its text; any other shows the chosen entry, or the text while no entry is chosen.
+void show_choice(QComboBox& combo, const ComboBox& box) {
+    if (combo.isEditable()) {
+        combo.setCurrentIndex(box.list_index());
+        combo.setEditText(to_qt(box.text()));
+        if (!combo.hasFocus()) combo.lineEdit()->setCursorPosition(0);
+        return;
+    }
+    combo.setPlaceholderText(to_qt(box.text()));
+    // Last, since an empty placeholder would choose the first entry.
+    combo.setCurrentIndex(box.list(box.list_index()) == box.text() ? box.list_index() : -1);
+}
+
+void show_combo_tips(QComboBox& combo, const ComboBox& box) {
+    show_entry_tips(*combo.view(), box);
+    show_full_text(combo, [&combo, &box](QPoint) {
+        if (box.full_text && box.list_index() >= 0) return to_qt(box.full_text(box.list_index()));
+        const QString text = to_qt(box.text());
+        return combo.fontMetrics().horizontalAdvance(text) + 28 > combo.width() ? text : QString();
+    });
+}
+
+} // namespace
 
 bool link(const ControlLink<ComboBox>& link) {
     auto* const combo = qobject_cast<QComboBox*>(&link.widget);
     if (combo == nullptr) return false;
     combo->setInsertPolicy(QComboBox::NoInsert);
     if (combo->isEditable()) combo->setCompleter(nullptr); // it would change what is typed
-    const auto show_text = [combo, &box = link.control] {
-        if (combo->isEditable())
-            combo->setEditText(to_qt(box.text()));
-        else
-            combo->setPlaceholderText(to_qt(box.text())); // seen while no entry is chosen
-    };
-    watch_control(link, {Prop::list, Prop::list_index},
-                  [combo, show_text, &box = link.control](Prop changed) {
-                      const QSignalBlocker quiet(combo);
-                      if (changed == Prop::list) {
-                          const int count = box.list_count();
-                          if (count == combo->count() + 1) {
-                              combo->addItem(to_qt(box.entries().back()));
-                          } else {
-                              combo->clear();
-                              for (const Text& each : box.entries()) combo->addItem(to_qt(each));
-                          }
-                      }
-                      if (changed == Prop::list || changed == Prop::list_index)
-                          combo->setCurrentIndex(box.list_index());
-                      if (changed == Prop::list || changed == Prop::list_index || changed == Prop::text)
-                          show_text();
-                  });
+    watch_control(link, {Prop::list, Prop::list_index}, [combo, &box = link.control](Prop changed) {
+        const QSignalBlocker quiet(combo);
+        if (changed == Prop::list && box.list_count() == combo->count() + 1) {
+            combo->addItem(to_qt(box.entries().back()));
+        } else if (changed == Prop::list) {
+            combo->clear();
+            for (const Text& each : box.entries()) combo->addItem(to_qt(each));
+        }
+        if (changed == Prop::list || changed == Prop::list_index || changed == Prop::text)
+            show_choice(*combo, box);
+    });
+    show_combo_tips(*combo, link.control);
     QObject::connect(combo, &QComboBox::activated, &link.binding, [link, combo](int index) {
         if (link.binding.screen() == nullptr) return;
         link.control.list_index.from_user(index);
         link.control.text.from_user(from_qt(combo->itemText(index)));
-        link.binding.fire(link.name, "Click");
+        link.binding.act(link.name, "Click");
     });
     if (combo->isEditable())
         QObject::connect(combo->lineEdit(), &QLineEdit::textEdited, &link.binding,
@@ -157,7 +185,7 @@ bool link(const ControlLink<ComboBox>& link) {
                              if (link.binding.screen() == nullptr) return;
                              link.control.list_index.from_user(-1);
                              link.control.text.from_user(from_qt(text));
-                             link.binding.fire(link.name, "Change");
+                             link.binding.act(link.name, "Change");
                          });
     for (const char* event : {"Click", "Change"}) link.binding.offer(link.name, event);
     return true;
@@ -174,11 +202,12 @@ bool link(const ControlLink<FileListBox>& link) {
         }
         if (changed == Prop::list || changed == Prop::list_index) show_current(*list, box.list_index());
     });
-    link_choice(link, *list, [list, &box = link.control] {
+    link_list(link, *list, [list, &box = link.control] {
         box.list_index.from_user(list->selectedItems().isEmpty() ? -1 : list->currentRow());
         return true;
     });
     link_double_click(link, *list);
+    show_entry_tips(*list, link.control);
     return true;
 }
 
@@ -230,7 +259,7 @@ bool link(const ControlLink<DirListBox>& link) {
             if (list->currentItem() != nullptr) list->scrollToItem(list->currentItem());
         }
     });
-    link_choice(link, *list, [list, &box = link.control] {
+    link_list(link, *list, [list, &box = link.control] {
         if (list->currentRow() < 0) return false;
         box.list_index.from_user(entry_of_row(*list, list->currentRow()));
         return true;
@@ -263,7 +292,7 @@ bool link(const ControlLink<DriveListBox>& link) {
     QObject::connect(combo, &QComboBox::activated, &link.binding, [link](int index) {
         if (link.binding.screen() == nullptr) return;
         link.control.list_index.from_user(index);
-        link.binding.fire(link.name, "Change");
+        link.binding.act(link.name, "Change");
     });
     link.binding.offer(link.name, "Change");
     return true;

@@ -131,7 +131,7 @@ std::optional<FontChoice> QtDesktop::ask_font(const FontChoice& start) {
     bool accepted = false;
     const QFont chosen = QFontDialog::getFont(&accepted, font, &window_);
     if (!accepted) return std::nullopt;
-    return FontChoice{.name = from_qt(chosen.family()),
+    return FontChoice{.name = from_qt(plain_family(chosen.family())),
                       .size = chosen.pointSizeF(),
                       .bold = chosen.bold(),
                       .italic = chosen.italic(),

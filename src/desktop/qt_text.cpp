@@ -22,4 +22,9 @@ QString wrapped(const QString& caption, int columns) {
     return lines;
 }
 
+QString plain_family(const QString& family) {
+    const qsizetype at = family.indexOf(QStringLiteral(" ["));
+    return at > 0 && family.endsWith(u']') ? family.left(at) : family;
+}
+
 } // namespace twk

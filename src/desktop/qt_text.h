@@ -18,4 +18,7 @@ inline Text from_qt(const QString& text) {
 /// A caption broken into lines of about `columns` characters, for widgets that do not wrap by themselves.
 QString wrapped(const QString& caption, int columns);
 
+/// A font's family without the name of its foundry, " [Adobe]", which no page knows.
+QString plain_family(const QString& family);
+
 } // namespace twk

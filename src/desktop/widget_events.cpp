@@ -52,9 +52,9 @@ class EventSpy : public QObject {
                reason != Qt::MenuBarFocusReason;
     }
 
-    /// A focus change must be over before a message may be shown, hence later.
+    /// A press, or a change of the focus, must be over before a message may be shown.
     void raise(const char* event) {
-        if (binding_ != nullptr) binding_->fire_later(control_, event);
+        if (binding_ != nullptr) binding_->owe(control_, event);
     }
 
     QPointer<ScreenBinding> binding_;
@@ -68,7 +68,14 @@ void watch_widget(ScreenBinding& binding, const ScreenMap::Control& control, QWi
     for (const char* event : {"Click", "DblClick", "GotFocus", "LostFocus"}) binding.offer(control, event);
 }
 
+static int given = 0;
+
+int times_focus_given() {
+    return given;
+}
+
 void give_focus(QWidget& widget) {
+    ++given;
     widget.setFocus(Qt::OtherFocusReason);
     if (widget.isActiveWindow()) return;
     auto* const once = new QObject(&widget);

@@ -15,5 +15,7 @@ void watch_widget(ScreenBinding& binding, const ScreenMap::Control& control, QWi
 /// Gives a widget the focus. While its window is not the active one, as right behind a message, it is given
 /// once the window is active again, since that brings the focus back to where it was before.
 void give_focus(QWidget& widget);
+/// How often that has been done.
+int times_focus_given();
 
 } // namespace twk

@@ -138,7 +138,9 @@ void Form17::Command7_Click() {
 void Form17::Command8_Click() {
     const Text find = Trim(Text2.text());
     const Text with = Trim(Text3.text());
-    for (int i = 0; i < List1.list_count(); ++i) List1.set_list(i, Replace(List1.list(i), find, with));
+    std::vector<Text> names = List1.entries();
+    for (Text& each : names) each = Replace(each, find, with);
+    List1.set_entries(std::move(names));
     Frame1.visible = false;
 }
 

@@ -45,6 +45,27 @@ Form5::Form5() {
     lbl_unsaved.visible = false;
     Text2.read_only = true;
     Text3.read_only = true;
+    List1.full_text = [this](int box) { return at(caja_texto, box); };
+    lstkeyword.full_text = [this](int entry) { return tied_text(lstkeyword.list(entry)); };
+}
+
+namespace {
+
+/// The key in front of an entry of the keywords, "12-green tea".
+Text key_of(const Text& entry) {
+    return Trim(Left(entry, InStr(entry, u"-") - 1));
+}
+
+} // namespace
+
+Text Form5::tied_text(const Text& keyword) {
+    const Recordset tie = base_datos_.OpenRecordset(u"select * from ties where pid = " + to_text(pid_form) +
+                                                    u" and keyid = " + key_of(keyword));
+    if (tie.eof()) return {};
+    const Text cid = tie.Fields(u"cid").text();
+    for (int box = 0; box < List1.list_count(); ++box)
+        if (at(caja_cid, box) == cid) return at(caja_texto, box);
+    return {};
 }
 
 void Form5::Form_Load() {
@@ -269,8 +290,7 @@ void Form5::cmdtie_Click() {
         return;
     }
     const Text cid = at(caja_cid, List1.list_index());
-    const Text& chosen = lstkeyword.list(lstkeyword.list_index());
-    const Text keyid = Trim(Left(chosen, InStr(chosen, u"-") - 1));
+    const Text keyid = key_of(lstkeyword.list(lstkeyword.list_index()));
     base_datos_ = open_hive();
     if (!base_datos_
              .OpenRecordset(u"select * from ties where pid = " + to_text(pid_form) + u" and keyid = " + keyid)

@@ -94,6 +94,8 @@ class Form5 {
     void fill_table();
     void delete_box(int index, UndoStack::Command& command);
     bool restore_box(const std::vector<StoredRow>& rows);
+    /// Text of the box that the entry of `lstkeyword` is tied to, empty for none.
+    Text tied_text(const Text& keyword);
     void write_content(Recordset& row);
     void import_boxes(const Text& project);
 

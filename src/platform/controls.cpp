@@ -75,36 +75,47 @@ const Text& ListBox::list(int index) const {
     return entry(entries_, index);
 }
 
+void ListBox::tell(Prop which, ListChange change) {
+    change_ = change;
+    const bool appended = change.removed == 0 && change.added == 1 && change.first == list_count() - 1;
+    if (which == Prop::list && !appended) ++edits_;
+    observer(which);
+}
+
 void ListBox::set_list(int index, Text entry) {
     entries_[place(entries_, index)] = std::move(entry);
-    ++edits_;
-    observer(Prop::list);
+    tell(Prop::list, {index, 1, 1});
 }
 
 void ListBox::add_item(Text entry) {
     entries_.push_back(std::move(entry));
     marks_.push_back(false);
-    observer(Prop::list);
+    tell(Prop::list, {list_count() - 1, 0, 1});
 }
 
 void ListBox::remove_item(int index) {
     const std::size_t at = place(entries_, index);
     entries_.erase(entries_.begin() + offset(at));
     marks_.erase(marks_.begin() + offset(at));
-    ++edits_;
     if (list_index() == index)
         list_index.from_user(-1);
     else if (list_index() > index)
         list_index.from_user(list_index() - 1);
-    observer(Prop::list);
+    tell(Prop::list, {index, 1, 0});
 }
 
 void ListBox::clear() {
-    entries_.clear();
-    marks_.clear();
-    ++edits_;
-    list_index.from_user(-1);
-    observer(Prop::list);
+    set_entries({});
+}
+
+void ListBox::set_entries(std::vector<Text> entries) {
+    const int before = list_count();
+    entries_ = std::move(entries);
+    if (list_count() != before) {
+        marks_.assign(entries_.size(), false);
+        list_index.from_user(-1);
+    }
+    tell(Prop::list, {0, before, list_count()});
 }
 
 bool ListBox::selected(int index) const {
@@ -122,7 +133,7 @@ void ListBox::set_selected(int index, bool on) {
         return;
     }
     marks_[at] = on;
-    observer(Prop::selection);
+    tell(Prop::selection, {index, 1, 1});
 }
 
 int ListBox::sel_count() const {

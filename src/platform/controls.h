@@ -162,6 +162,14 @@ template <class Options> void choose_option(Options& group, std::size_t index) {
     for (std::size_t i = 0; i < group.size(); ++i) group[i].value = i == index;
 }
 
+/// What a list was last changed by: from `at` on, `removed` entries have given way to `added` others. What
+/// shows the list need not look at the rest.
+struct ListChange {
+    int at = 0;
+    int removed = 0;
+    int added = 0;
+};
+
 /// A list, of which the user chooses one entry or, with `multi_select` or `tick_marks`, several.
 struct ListBox {
     Observer observer;
@@ -170,6 +178,8 @@ struct ListBox {
     Property<bool> visible{observer, Prop::visible, true};
     bool multi_select = false;
     bool tick_marks = false;
+    /// The text that an entry stands for, where that is more than the entry; may be empty.
+    std::function<Text(int)> full_text;
 
     int list_count() const { return static_cast<int>(entries_.size()); }
     /// Entry at the index; an empty text outside the list.
@@ -180,6 +190,10 @@ struct ListBox {
     /// An index outside the list is fault 5. The selection closes up with the list.
     void remove_item(int index);
     void clear();
+    /// Puts other entries in the place of all, and tells it once. As many as before keep marks and selection.
+    void set_entries(std::vector<Text> entries);
+    /// What the latest Prop::list, or Prop::selection, is about.
+    const ListChange& last_change() const { return change_; }
     /// The current entry, empty when there is none.
     const Text& text() const { return list(list_index()); }
     const std::vector<Text>& entries() const { return entries_; }
@@ -198,9 +212,12 @@ struct ListBox {
     void set_focus() { observer(Prop::focus); }
 
   private:
+    void tell(Prop which, ListChange change);
+
     std::vector<Text> entries_;
     std::vector<bool> marks_;
     std::uint64_t edits_ = 0;
+    ListChange change_;
 };
 
 /// A drop-down with a text that the user can type over.
@@ -212,6 +229,8 @@ struct ComboBox {
     Property<int> list_index{observer, Prop::list_index, -1};
     Property<bool> enabled{observer, Prop::enabled, true};
     Property<bool> visible{observer, Prop::visible, true};
+    /// The text that an entry stands for, where that is more than the entry; may be empty.
+    std::function<Text(int)> full_text;
 
     int list_count() const { return static_cast<int>(entries_.size()); }
     const Text& list(int index) const;

@@ -21,7 +21,7 @@ constexpr double bar_at_rest = 0.001;
 
 Form20::Form20() {
     Text1.read_only = true;
-    List1.multi_select = true;
+    List1.tick_marks = true;
     Frame4.visible = false;
     Frame5.visible = false;
     for (const TextView pages : {u"10", u"25", u"50", u"75", u"100"}) combo1.add_item(Text(pages));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "user.h"
 
+#include "same.h"
 #include "shell/mdi1.h"
 
 #include <QAbstractButton>
@@ -9,7 +10,10 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QTest>
+#include <QWheelEvent>
+#include <QWindow>
 
 namespace twk::test {
 
@@ -154,6 +158,55 @@ void User::close(const char* screen) {
     settle();
 }
 
+namespace {
+
+QWindow* handle(const QWidget& widget) {
+    return widget.window()->windowHandle();
+}
+
+QPoint in_window(const QWidget& widget, QPoint at) {
+    return widget.mapTo(widget.window(), at);
+}
+
+} // namespace
+
+void User::press_button(QWidget& widget, QPoint at, Qt::MouseButton button) {
+    QTest::mousePress(handle(widget), button, Qt::NoModifier, in_window(widget, at));
+}
+
+void User::drag_to(QWidget& widget, QPoint at, Qt::MouseButton button) {
+    QMouseEvent move(QEvent::MouseMove, in_window(widget, at), widget.mapToGlobal(QPointF(at)), Qt::NoButton,
+                     button, Qt::NoModifier);
+    QTest::qWait(2);
+    QCoreApplication::sendEvent(handle(widget), &move);
+}
+
+void User::release_button(QWidget& widget, QPoint at, Qt::MouseButton button) {
+    QTest::mouseRelease(handle(widget), button, Qt::NoModifier, in_window(widget, at));
+    settle(40);
+}
+
+void User::mouse(const char* screen, const char* widget, Qt::MouseButton button) {
+    auto* const found = find<QWidget>(screen, widget);
+    if (!ready(found, screen, widget)) return;
+    const QPoint at(qMin(12, found->width() / 2), found->height() / 2);
+    press_button(*found, at, button);
+    settle(40); // a hand is slower than the program
+    release_button(*found, at, button);
+}
+
+void User::wheel(QWidget& widget, int notches) {
+    const QPointF at = widget.rect().center();
+    QWheelEvent turn(in_window(widget, at.toPoint()), widget.mapToGlobal(at), QPoint(),
+                     QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(handle(widget), &turn);
+    settle();
+}
+
+QPoint User::row(const QListWidget& list, int at) {
+    return list.visualItemRect(list.item(at)).center();
+}
+
 bool User::sees(const char* screen) const {
     const ScreenWindow* const found = window(screen);
     return found != nullptr && found->isVisible();
@@ -166,6 +219,10 @@ WindowTest::WindowTest() : user(qt) {
     qt.window().show();
     qt.window().activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&qt.window()));
+    ScreenBinding::after_event = [this, inner = ScreenBinding::after_event] {
+        inner();
+        expect_widgets_like_controls(qt.window());
+    };
 }
 
 WindowTest::~WindowTest() {

@@ -5,6 +5,7 @@
 #include "desktop/screen_window.h"
 #include "support/temp_app.h"
 
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
@@ -42,6 +43,15 @@ class User {
     void enter(const char* screen, const char* widget, const QString& text);
     void choose(const char* screen, const char* list, int row);
     void close(const char* screen);
+
+    // Mouse and wheel as the window system gives them: to the window, at the place of the widget.
+    void press_button(QWidget& widget, QPoint at, Qt::MouseButton button = Qt::LeftButton);
+    void drag_to(QWidget& widget, QPoint at, Qt::MouseButton button);
+    void release_button(QWidget& widget, QPoint at, Qt::MouseButton button = Qt::LeftButton);
+    void mouse(const char* screen, const char* widget, Qt::MouseButton button = Qt::LeftButton);
+    void wheel(QWidget& widget, int notches);
+    /// The middle of an entry, in the list's viewport.
+    static QPoint row(const QListWidget& list, int at);
 
     bool sees(const char* screen) const;
     ScreenWindow* window(const char* screen) const;
