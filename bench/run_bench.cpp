@@ -10,6 +10,8 @@
 //   --keep DIR     the application folder, made anew and kept; else a temporary one
 //   --switches on  every switch of Step 5 on, other targets, secondary hosts; off: all off; else as delivered
 //   --report FILE  what the report holds of every page
+//   --window yes   in the program's own windows, on whatever display Qt finds (QT_QPA_PLATFORM=offscreen:
+//   none)
 //   --line yes     one line of figures: pages, bytes, seconds, processor seconds, MB resident
 
 #include "engine/run.h"
@@ -24,6 +26,13 @@
 #include "shell/form2.h"
 #include "shell/module1.h"
 #include "store/store_setup.h"
+
+#ifdef BENCH_WINDOWS
+#include "desktop/qt_desktop.h"
+#include "shell/mdi1.h"
+
+#include <QApplication>
+#endif
 
 #include <chrono>
 #include <cstdio>
@@ -75,6 +84,44 @@ class BenchDesktop : public Desktop {
   private:
     std::map<WebBrowser*, Text> shown_;
 };
+
+bool run_headless(const std::function<bool()>& run) {
+    BenchDesktop desktop;
+    set_desktop(&desktop);
+    const bool whole = run();
+    screens().unload_all();
+    set_desktop(nullptr);
+    return whole;
+}
+
+#ifdef BENCH_WINDOWS
+/// The windows as they are, with somebody at them who answers Yes to everything.
+class BenchWindows : public QtDesktop {
+  public:
+    Answer MsgBox(const Message& message) override {
+        if (message.critical) std::fprintf(stderr, "%s\n", to_utf8(message.text).c_str());
+        return message.buttons == Buttons::yes_no ? Answer::yes : Answer::ok;
+    }
+    void start(const Text&) override {}
+    void wait_modal(Screen&) override {}
+};
+
+/// Runs with the main window in sight, once everything has been drawn.
+bool run_in_windows(const std::function<bool()>& run, int argc, char** argv) {
+    qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1"); // it does not work for root
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QApplication app(argc, argv);
+    BenchWindows desktop;
+    set_desktop(&desktop);
+    screens().dispatch([] { screens().show<mdi1>(); });
+    desktop.window().show();
+    desktop.wait(std::chrono::seconds(2), {});
+    const bool whole = run();
+    screens().unload_all();
+    set_desktop(nullptr);
+    return whole;
+}
+#endif
 
 struct Size {
     int keywords = 100, subkeywords = 20, boxes = 50, words = 500, random_pages = 20, layout = 0;
@@ -248,16 +295,21 @@ int main(int argc, char** argv) {
     if (!read_arguments(argc, argv, size, options)) return 2;
     const std::string folder = application_folder(options);
     if (folder.empty()) return 1;
-    BenchDesktop desktop;
-    set_desktop(&desktop);
     set_app_path(from_utf8(folder));
     set_clock(std::make_shared<FixedClock>(LocalTime{2026, 11, 24, 10, 18, 5, 0}));
     chance().fix_seed(static_cast<std::uint64_t>(std::atoll(options.value("--seed", "1").c_str())));
     deliver(folder, size);
+    const auto run = [&] {
+        bool finished = false;
+        return screens().dispatch([&] { finished = timed_run(size, options); }) && finished;
+    };
     bool finished = false;
-    const bool whole = screens().dispatch([&] { finished = timed_run(size, options); });
-    screens().unload_all();
-    set_desktop(nullptr);
+#ifdef BENCH_WINDOWS
+    if (!options.value("--window").empty())
+        finished = run_in_windows(run, argc, argv);
+    else
+#endif
+        finished = run_headless(run);
     if (options.value("--keep").empty()) fs::remove_all(folder);
-    return whole && finished ? 0 : 1;
+    return finished ? 0 : 1;
 }

@@ -14,8 +14,11 @@
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QMessageBox>
+#include <QOpenGLWidget>
 #include <QSettings>
+#include <QTimer>
 #include <QUrl>
+#include <algorithm>
 #include <cstdlib>
 
 /// The resources of a static library are linked in by name alone.
@@ -48,6 +51,14 @@ ScreenWindow* window_of(const Screen& screen) {
 QtDesktop::QtDesktop() {
     load_resources();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tarnwick.png")));
+    // The first browser in a window that cannot show what is drawn by OpenGL makes that window anew: it turns
+    // black and goes in front of the others. With a hidden widget of that kind it can from its beginning.
+    if (QGuiApplication::platformName() == QStringLiteral("xcb") ||
+        QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {
+        auto* const surface = new QOpenGLWidget(&window_);
+        surface->setObjectName(QStringLiteral("surface"));
+        surface->hide();
+    }
 }
 QtDesktop::~QtDesktop() = default;
 
@@ -140,7 +151,25 @@ std::optional<FontChoice> QtDesktop::ask_font(const FontChoice& start) {
 }
 
 void QtDesktop::DoEvents() {
+    if (!pumped_.isValid() || pumped_.nsecsElapsed() >= pause_.count()) settle();
+}
+
+void QtDesktop::settle() {
+    using namespace std::chrono_literals;
+    QElapsedTimer took;
+    took.start();
     QCoreApplication::processEvents();
+    // A slow screen gets no more than half of the time, and what waits for the user does not count.
+    pause_ = std::clamp(Pause(took.nsecsElapsed()), Pause(35ms), Pause(200ms));
+    pumped_.start();
+}
+
+void QtDesktop::wait(std::chrono::milliseconds time, const std::function<bool()>& enough) {
+    QTimer alarm;
+    alarm.setSingleShot(true);
+    alarm.start(time);
+    while (alarm.isActive() && !(enough && enough()))
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void QtDesktop::start(const Text& file_or_address) {
@@ -207,7 +236,11 @@ BrowserView* QtDesktop::view(const WebBrowser& browser) const {
 }
 
 void QtDesktop::navigate(WebBrowser& browser, const Text& address) {
-    if (BrowserView* const shown = view(browser)) shown->navigate(to_qt(address));
+    BrowserView* const shown = view(browser);
+    if (shown == nullptr || shown->navigate(to_qt(address))) return;
+    MsgBox({.text = u"\"" + Trim(address) +
+                    u"\" is not an address. Type one like http://www.example.com/page.htm, or the path of a "
+                    u"file."});
 }
 
 void QtDesktop::show_html(WebBrowser& browser, const Text& html) {
@@ -245,6 +278,10 @@ std::vector<Link> QtDesktop::links(WebBrowser& browser) {
 
 Text QtDesktop::fetch(Inet& inet, const Text& address) {
     return transfer_.fetch(inet, address);
+}
+
+void QtDesktop::cancel(Inet& inet) {
+    transfer_.cancel(inet);
 }
 
 } // namespace twk

@@ -5,6 +5,7 @@
 #include "desktop/transfer.h"
 #include "platform/desktop.h"
 
+#include <QElapsedTimer>
 #include <vector>
 
 namespace twk {
@@ -25,7 +26,10 @@ class QtDesktop : public Desktop {
     std::optional<std::uint32_t> ask_color(std::uint32_t start) override;
     std::optional<FontChoice> ask_font(const FontChoice& start) override;
 
+    /// A call that comes within some 35 ms behind the end of the one before does nothing.
     void DoEvents() override;
+    void settle() override;
+    void wait(std::chrono::milliseconds time, const std::function<bool()>& enough) override;
     void start(const Text& file_or_address) override;
     Text get_setting(TextView section, TextView key, const Text& fallback) override;
     void say(const Text& what) override;
@@ -50,14 +54,19 @@ class QtDesktop : public Desktop {
     std::vector<Link> links(WebBrowser& browser) override;
 
     Text fetch(Inet& inet, const Text& address) override;
+    void cancel(Inet& inet) override;
 
   private:
     std::optional<Text> ask_file(const FileQuestion& question, bool save);
     bool may_write(const Text& path, const Text& title);
     BrowserView* view(const WebBrowser& browser) const;
 
+    using Pause = std::chrono::nanoseconds;
+
     MainWindow window_;
     Transfer transfer_;
+    QElapsedTimer pumped_; ///< since events were let run
+    Pause pause_{};        ///< until they are let run again
 };
 
 } // namespace twk

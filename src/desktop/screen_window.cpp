@@ -131,8 +131,7 @@ void ScreenWindow::run_modal() {
 }
 
 void ScreenWindow::close_screen() {
-    if (screen() == nullptr || binding_->fire_form("QueryUnload")) return;
-    binding_->run([this] { screens().unload(*screen()); });
+    if (screen() != nullptr) binding_->run([this] { screens().close(*screen()); });
 }
 
 void ScreenWindow::closeEvent(QCloseEvent* event) {

@@ -18,14 +18,14 @@ namespace twk {
 
 namespace {
 
-bool confirmed() {
+bool confirmed(const PageChoices& choices) {
     return ask_before_loss(u"This action may take several minutes depending on your computers' speed \n"
                            u"and the amount of pages you're trying to generate.\n"
                            u"Make sure there are no open files in project's directories.\n"
                            u"Are you sure you want to proceed?",
                            Buttons::yes_no, u"Create Pages?",
                            u"Erased first: all files in " +
-                               beside_program(u"Projects" + Text(path_separator) + project_name())) ==
+                               beside_program(u"Projects" + Text(path_separator) + choices.project_name())) ==
            Answer::yes;
 }
 
@@ -85,6 +85,7 @@ void run_phases(Run& run) {
         default: break;
         }
         run.lista_kw.clear();
+        desktop().settle();
     }
     run.fase = 5;
 }
@@ -99,7 +100,7 @@ void open_local_site_map(const Plan& plan) {
 
 void run_all(Run& run) {
     chance().Randomize();
-    if (!read_file_names(run.plan, run.choices) || !confirmed()) return;
+    if (!read_file_names(run.plan, run.choices) || !confirmed(run.choices)) return;
     run.report.switch_on();
     run.mensaje_error =
         u"there was an error preparing project properties (keywords, content boxes, hosts, targets, etc.)";
@@ -110,6 +111,7 @@ void run_all(Run& run) {
     build_page_names(run.plan, run.project, run.choices);
     distribute_pages(run.plan, run.choices);
     if (run.choices.offer_page_names() && !offer_page_names(run.plan, run.choices)) return;
+    run.page.written = [&run] { run.report.page_written(); };
     run.report.begin(run.project);
     measure_boxes(run.boxes, run.project, run.choices);
     rebuild_output(run);

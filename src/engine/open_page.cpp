@@ -23,6 +23,7 @@ void OpenPage::close() {
     origen->replace_by(aux);
     origen.reset();
     ++pages_written;
+    if (written) written();
     pagina_actual.clear();
 }
 

@@ -6,6 +6,7 @@
 #include "platform/text.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace twk {
@@ -22,6 +23,8 @@ struct OpenPage {
     // What the end of a run tells.
     std::int64_t pages_written = 0;
     std::int64_t bytes_written = 0;
+
+    std::function<void()> written; ///< told of each page that `close` has put in place
 
     /// Proves that the page itself can be opened, one that is missing being made empty in the end, and starts
     /// `salida` on its sibling, the name plus "aux". Fault 75 when the path leaves the project.

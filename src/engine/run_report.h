@@ -37,6 +37,8 @@ class RunReport {
     /// What the progress bar shows, in per cent.
     virtual double progress() const = 0;
     virtual void set_progress(double per_cent) = 0;
+    /// One page more is written.
+    virtual void page_written() = 0;
     /// Analyses a page under an index that no other page has. No fault comes out.
     virtual void analyse(const WrittenPage& page, std::int16_t index) = 0;
     /// Lists the pages of each kind and lets the user at them.

@@ -99,8 +99,8 @@ Text ruta_corta(const Text& ruta) {
     return ruta;
 }
 
-void esperar(int segundos) {
-    Sleep(segundos * 1000);
+void esperar(int segundos, const std::function<bool()>& enough) {
+    desktop().wait(std::chrono::seconds(segundos), enough);
 }
 
 } // namespace twk

@@ -3,6 +3,8 @@
 
 #include "engine/counting/words.h"
 
+#include <functional>
+
 /// Small services around page text, which is HTML mixed with plain words. Where an argument is changed, it is
 /// a reference and said so.
 namespace twk {
@@ -36,7 +38,8 @@ Text validar_palabra(Text& palabra);
 /// Path in the form that the system's open command takes.
 Text ruta_corta(const Text& ruta);
 
-/// Waits.
-void esperar(int segundos);
+/// Waits so many seconds. Where there are windows they stay alive, and the wait ends as soon as `enough` says
+/// so.
+void esperar(int segundos, const std::function<bool()>& enough = {});
 
 } // namespace twk

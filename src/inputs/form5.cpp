@@ -22,6 +22,8 @@ namespace {
 constexpr int screen_number = 5;
 /// Exactly so many boxes refuse another one by hand; a list that an import has pushed past does not.
 constexpr int full_list = 99;
+/// Rounds of 2 seconds that a previewed file is kept longer for a browser that has not read it yet.
+constexpr int reading_rounds = 15;
 constexpr int few_words = 100;
 /// Name that the font dialog starts from each time; its other values stay as the last one left them.
 constexpr TextView list_font = u"MS Sans Serif";
@@ -278,7 +280,11 @@ void Form5::cmdshow_Click() {
     stepping_over([&] { screen<Form21>().Text1.text = rt1.text(); });
     stepping_over([] { screens().show<Form21>(); });
     stepping_over([] { DoEvents(); });
-    stepping_over([] { esperar(2); });
+    const auto read = [] {
+        return !screens().is_loaded<Form21>() || !desktop().busy(screen<Form21>().WebBrowser1);
+    };
+    stepping_over([&] { esperar(2, read); });
+    for (int round = 0; round < reading_rounds && !read(); ++round) stepping_over([&] { esperar(2, read); });
     stepping_over([&] { fso.DeleteFile(path); });
 }
 

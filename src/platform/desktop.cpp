@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktop.h"
 
+#include "platform/clock.h"
+
 #include <stdexcept>
 #include <utility>
 
@@ -16,6 +18,10 @@ Text& application_folder() {
 }
 
 } // namespace
+
+void Desktop::wait(std::chrono::milliseconds time, const std::function<bool()>&) {
+    clock().sleep(time);
+}
 
 Desktop& desktop() {
     if (current == nullptr) throw std::logic_error("no desktop in place");

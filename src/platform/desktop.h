@@ -4,7 +4,9 @@
 #include "platform/controls.h"
 #include "platform/faults.h"
 
+#include <chrono>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -63,8 +65,15 @@ class Desktop {
     virtual std::optional<std::uint32_t> ask_color(std::uint32_t start) = 0;
     virtual std::optional<FontChoice> ask_font(const FontChoice& start) = 0;
 
-    /// Lets waiting events run: other events of the screens may run within.
+    /// Lets waiting events run: other events of the screens may run within. A front end with windows passes
+    /// over a call that comes too soon behind the one before, so that a loop may call this as often as it
+    /// likes.
     virtual void DoEvents() = 0;
+    /// The same at the end of a stretch of work: nothing is passed over.
+    virtual void settle() { DoEvents(); }
+    /// Waits. With windows other events run meanwhile, any event of any screen among them, and the wait ends
+    /// early as soon as `enough` says so; an empty one never does. Without windows the clock sleeps the time.
+    virtual void wait(std::chrono::milliseconds time, const std::function<bool()>& enough);
     /// Opens a file or an address in the system's own program for it. Fault 53 when that cannot be.
     virtual void start(const Text& file_or_address) = 0;
     virtual Text get_setting(TextView section, TextView key, const Text& fallback) = 0;
@@ -98,6 +107,9 @@ class Desktop {
     /// Fetches a page, waiting up to the control's time-out while other events run. Fault 35761 on a
     /// time-out, another fault when it cannot be had.
     virtual Text fetch(Inet& inet, const Text& address) = 0;
+    /// Breaks off what the control is fetching: each `fetch` under way ends at once, in a fault that is no
+    /// time-out. Nothing happens when there is none.
+    virtual void cancel(Inet&) {}
 };
 
 Desktop& desktop();

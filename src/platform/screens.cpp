@@ -95,6 +95,22 @@ void Screens::unload(Screen& screen) {
     desktop().screen_unloaded(*graveyard_.back());
 }
 
+void Screens::close(Screen& screen) {
+    Running running(*this);
+    if (!fire(screen, "Form", "QueryUnload") && screen.holders == 0) unload(screen);
+}
+
+void Screens::Hold::add(Screen& screen) {
+    ++screen.holders;
+    held_.push_back(screen.instance);
+}
+
+Screens::Hold::~Hold() {
+    for (const auto& instance : held_)
+        for (const auto& each : screens_.loaded_)
+            if (each->instance == instance) --each->holders;
+}
+
 void Screens::unload_all() {
     while (!loaded_.empty()) unload(*loaded_.back());
 }

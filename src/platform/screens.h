@@ -82,6 +82,7 @@ struct Screen {
     const UndoStack* deletions = nullptr; ///< what the screen has deleted; null for most
     std::function<void()> undo_event;     ///< takes the newest of them back
     void* front_end = nullptr;            ///< the window that shows it, owned by the front end
+    int holders = 0;                      ///< those that need it open, see `Screens::Hold`
 };
 
 /// The screens: one default instance of each class, made and loaded by the first reference.
@@ -133,6 +134,9 @@ class Screens {
     void hide(Screen& screen);
     void bring_forward(Screen& screen);
     void unload(Screen& screen);
+    /// What the close box of its window does: a screen that answers by an event of its own, Form_QueryUnload,
+    /// has it raised and stays; a held one stays as well; any other is unloaded.
+    void close(Screen& screen);
     /// Unloads all that is loaded, the newest first.
     void unload_all();
 
@@ -150,6 +154,25 @@ class Screens {
         return fire(record<S>(), control, name, index);
     }
     bool event_running() const { return depth_ > 0; }
+
+    /// Keeps the user from closing a screen that a long operation works on, as long as this lives. The
+    /// screens themselves may unload it all the same.
+    class Hold {
+      public:
+        explicit Hold(Screens& screens) : screens_(screens) {}
+        ~Hold();
+        Hold(const Hold&) = delete;
+        Hold& operator=(const Hold&) = delete;
+        /// Adds a screen, if it is loaded.
+        template <class S> void add() {
+            if (Screen* const loaded = screens_.find(typeid(S))) add(*loaded);
+        }
+
+      private:
+        void add(Screen& screen);
+        Screens& screens_;
+        std::vector<std::shared_ptr<void>> held_; ///< their instances
+    };
 
   private:
     template <class S> S& load();

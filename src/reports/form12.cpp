@@ -18,6 +18,8 @@
 #include "shell/form2.h"
 #include "shell/module1.h"
 
+#include <algorithm>
+
 namespace twk {
 
 namespace {
@@ -59,10 +61,45 @@ int occurrences(TextView text, TextView find) {
 } // namespace
 
 Form12::Form12() {
-    for (ListBox* list : {&List1, &List2, &List3}) list->enabled = false;
-    RichTextBox1.enabled = false;
+    enable_lists(false);
     Command2.enabled = false;
-    Command3.enabled = false;
+}
+
+void Form12::enable_lists(bool on) {
+    for (ListBox* list : {&List1, &List2, &List3}) list->enabled = on;
+    RichTextBox1.enabled = on;
+    Command3.enabled = on;
+}
+
+void Form12::begin_run() {
+    ProgressBar1.set_value(CDbl(u"0,0001"));
+    for (ListBox* list : {&List1, &List2, &List3}) list->clear();
+    RichTextBox1.text = u"";
+    Label2.caption = u"";
+    lbl_progress.caption = u"";
+    enable_lists(false);
+    Command2.enabled = false;
+    pages_planned_ = pages_done_ = 0;
+}
+
+void Form12::page_done() {
+    ++pages_done_;
+    Text told = u"Page " + to_text(pages_done_) + u" of " + to_text(std::max(pages_planned_, pages_done_));
+    constexpr double day = 24 * 60 * 60;
+    double passed = clock().Timer() - first_page_;
+    if (passed < 0) passed += day; // past midnight
+    const int left = pages_planned_ - pages_done_;
+    const double seconds = passed / pages_done_ * left;
+    if (passed >= 1 && left > 0)
+        told += seconds < 90 ? u", about " + to_text(CLng(std::max(seconds, 1.0))) + u" s left"
+                             : u", about " + to_text(CLng(seconds / 60)) + u" min left";
+    lbl_progress.caption = told;
+}
+
+void Form12::break_off() {
+    Command2.enabled = true;
+    Label2.caption = u"";
+    lbl_progress.caption = u"";
 }
 
 void Form12::Form_Load() {
@@ -71,7 +108,7 @@ void Form12::Form_Load() {
     ProgressBar1.set_value(CDbl(u"0,0001"));
     desktop().navigate(wb1, u"about:blank");
     DoEvents();
-    esperar(1);
+    esperar(1, [this] { return !screens().is_loaded(*this) || !desktop().busy(wb1); });
 }
 
 void Form12::Form_Unload() {
@@ -90,6 +127,19 @@ void Form12::Reporte(const KeywordTable& tabla, int keywords) {
     informe.resize(static_cast<std::size_t>(CLng(pages)) + 1);
     xKeyWords.resize(static_cast<std::size_t>(n_kw));
     for (int k = 0; k < n_kw; ++k) at(xKeyWords, k) = tabla.at(k);
+    plan_pages(tabla);
+}
+
+/// First-level, second-level and random pages, the hallway page and the local site map. What a division by
+/// the destinations leaves over gets no random page.
+void Form12::plan_pages(const KeywordTable& tabla) {
+    const int destinations = screen<Form7>().List1.list_count() + 1;
+    const int random = static_cast<int>(Int(Val(screen<Form6>().Combo2.text())));
+    pages_planned_ = n_kw + random / destinations * destinations + 2;
+    for (int k = 0; k < n_kw; ++k)
+        for (int c = 1; c < max_columns && !tabla.at(k, c).empty(); ++c) ++pages_planned_;
+    pages_done_ = 0;
+    first_page_ = clock().Timer();
 }
 
 const KeywordSet& Form12::keyword_set() {
@@ -182,9 +232,7 @@ void Form12::reporte_nivel3(int first, int end) {
     inicio3 = CInt(static_cast<double>(first));
     fill_list(List3, first, end, 50);
     DoEvents();
-    Command3.enabled = true;
-    for (ListBox* list : {&List1, &List2, &List3}) list->enabled = true;
-    RichTextBox1.enabled = true;
+    enable_lists(true);
     Label2.caption = u"Action Complete. Select the pages in the diferent boxes to see the analysis.";
 }
 
@@ -273,6 +321,7 @@ void Form12::enumerate(ScreenMap& map) {
     map.control("Label3", Label3);
     map.control("Label2", Label2);
     map.control("ProgressBar1", ProgressBar1);
+    map.control("lbl_progress", lbl_progress);
     map.control("Label5", Label5);
     map.control("List1", List1);
     map.control("Label4", Label4);

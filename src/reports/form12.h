@@ -51,6 +51,7 @@ class Form12 {
     Label Label3{u"Now Performing Action:"};
     Label Label2; ///< status line
     ProgressBar ProgressBar1;
+    Label lbl_progress; ///< pages written of those planned, and the time left
     Label Label5{u"First-Level Pages"};
     ListBox List1;
     Label Label4{u"Second-Level Pages"};
@@ -70,6 +71,12 @@ class Form12 {
     void Command2_Click();
     void Command3_Click();
 
+    /// Empties the report and disables what shows it, until the run that begins has ended.
+    void begin_run();
+    /// The run has written a page.
+    void page_done();
+    /// The run has ended before its end: the report can be closed and tells of no action.
+    void break_off();
     /// Keeps the number of subkeywords.
     void reporte2(int subkeywords);
     /// Sizes the analysis and takes the keywords over.
@@ -91,12 +98,17 @@ class Form12 {
     std::int16_t inicio2 = 0, inicio3 = 0; ///< first page of the second-level and of the random pages
 
   private:
+    void enable_lists(bool on);
+    void plan_pages(const KeywordTable& tabla);
     const KeywordSet& keyword_set();
     void analyse_body(PageAnalysis& page, const Text& html);
     void analyse_title(PageAnalysis& page, const Text& html);
     void fill_list(ListBox& list, int first, int end, int width);
     Text report_text(const PageAnalysis& page, int list) const;
 
+    int pages_planned_ = 0; ///< by the run under way
+    int pages_done_ = 0;
+    double first_page_ = 0; ///< when the run began to write, in seconds since midnight
     std::optional<KeywordSet> counted_; ///< the keywords, to be counted together
 };
 

@@ -15,10 +15,11 @@ void ShownReport::switch_on() {
 
 void ShownReport::begin(const Project& project) {
     Form12& report = screen<Form12>();
-    report.ProgressBar1.set_value(CDbl(u"0,0001"));
-    for (ListBox* list : {&report.List1, &report.List2, &report.List3}) list->clear();
+    report.begin_run();
+    held_.emplace(screens());
+    held_->add<Form12>();
     screens().show<Form12>();
-    DoEvents();
+    desktop().settle();
     report.reporte2(project.total_sub);
     report.Reporte(project.tabla_kw, project.n_keywords);
 }
@@ -41,13 +42,22 @@ void ShownReport::analyse(const WrittenPage& page, std::int16_t index) {
                                     u"");
 }
 
+void ShownReport::page_written() {
+    if (form_.informe_activo) screen<Form12>().page_done();
+}
+
+void ShownReport::end(bool finished) {
+    if (held_ && !finished && screens().is_loaded<Form12>()) screen<Form12>().break_off();
+    held_.reset();
+}
+
 void ShownReport::finish(int first_level_pages, const PageCounts& counts) {
     Form12& report = screen<Form12>();
     report.reporte2_3(first_level_pages);
     report.reporte_nivel2(counts.first_level, counts.second_level);
     report.reporte_nivel3(counts.second_level, counts.random);
     report.ProgressBar1.set_value(100);
-    DoEvents();
+    desktop().settle();
     screen<Form12>().Command2.enabled = true;
 }
 

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "engine/run_report.h"
+#include "platform/screens.h"
+
+#include <optional>
 
 namespace twk {
 
@@ -18,10 +21,15 @@ class ShownReport : public RunReport {
     double progress() const override;
     void set_progress(double per_cent) override;
     void analyse(const WrittenPage& page, std::int16_t index) override;
+    void page_written() override;
     void finish(int first_level_pages, const PageCounts& counts) override;
 
+    /// The run has ended: the report can be closed, and one that was left unfinished tells of no action.
+    void end(bool finished);
+
   private:
-    Form6& form_; ///< knows whether reports are made
+    std::optional<Screens::Hold> held_; ///< keeps the user from closing the report meanwhile
+    Form6& form_;                       ///< knows whether reports are made
 };
 
 } // namespace twk

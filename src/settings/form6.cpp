@@ -4,6 +4,8 @@
 #include "assist/help.h"
 #include "engine/generation.h"
 #include "engine/run.h"
+#include "inputs/form3.h"
+#include "inputs/form7.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
 #include "platform/files.h"
@@ -106,12 +108,22 @@ void save_own_settings(Form6& form) {
 }
 
 /// One run at a time: a second one would erase the pages under the first.
+/// Meanwhile the user does not close the screens that it works on.
 class UnderWay {
   public:
-    UnderWay() { module1().run_under_way = true; }
+    UnderWay() {
+        module1().run_under_way = true;
+        held_.add<Form2>();
+        held_.add<Form3>();
+        held_.add<Form6>();
+        held_.add<Form7>();
+    }
     ~UnderWay() { module1().run_under_way = false; }
     UnderWay(const UnderWay&) = delete;
     UnderWay& operator=(const UnderWay&) = delete;
+
+  private:
+    Screens::Hold held_{screens()};
 };
 
 } // namespace
@@ -122,7 +134,13 @@ void Form6::Command1_Click() {
     run = std::make_unique<Run>(choices, report);
     save_own_settings(*this);
     make_even(Combo2);
-    generation_run(*run);
+    try {
+        generation_run(*run);
+    } catch (...) {
+        report.end(false);
+        throw;
+    }
+    report.end(run->finished);
 }
 
 void Form6::Command2_Click(int index) {

@@ -32,6 +32,7 @@ void Form19::tomar_web() {
     // A word may take minutes. Meanwhile the user may close the screen, which ends the lookups, or start
     // others, which have a mode and words of their own.
     const int mode = modo_asistente;
+    const int pass = ++pass_;
     std::vector<Text> words;
     if (mode == 2)
         for (const auto& row : tabla_asistente) words.push_back(row.empty() ? Text() : row.front());
@@ -41,10 +42,16 @@ void Form19::tomar_web() {
     if (mode == 1) List1.clear();
     for (const Text& word : words) {
         look_up(word, mode);
-        if (!screens().is_loaded(*this)) return;
+        if (is_over(pass)) return;
     }
     Frame2.visible = false;
     screens().record<Form19>().caption = u"Keyword Wizard";
+}
+
+/// Whether lookups that began as this pass have come to nothing: the screen, or Step 2 behind it, is gone, or
+/// others have begun.
+bool Form19::is_over(int pass) const {
+    return pass != pass_ || !screens().is_loaded(*this) || !screens().is_loaded<Form3>();
 }
 
 void Form19::buscar_termino(const Text& term) {
@@ -57,32 +64,34 @@ void Form19::look_up(const Text& term, int mode) {
     if (wanted.empty()) return;
     desktop().navigate(wb1, Text(addresses::suggestion_service) + Text(suggestion_path) +
                                 Replace(wanted, u" ", u"%20"));
+    const int pass = pass_;
+    const auto enough = [this, pass] { return is_over(pass) || !desktop().busy(wb1); };
     DoEvents();
-    esperar(10);
-    if (!screens().is_loaded(*this)) return;
+    esperar(10, enough); // a page that has come is not waited for any longer
+    if (is_over(pass)) return;
     screens().record<Form19>().caption =
         u"Searching over the net: " + (mode == 1 ? term : screen<Form3>().List1.text());
-    if (!wait_for_browser()) return;
-    const std::vector<Link> links = desktop().links(wb1);
-    if (!screens().is_loaded(*this)) return;
+    if (!wait_for_browser(enough) || is_over(pass)) return;
+    const std::vector<Link> links = desktop().links(wb1); // events may run here, too
+    if (is_over(pass)) return;
     for (const Link& link : links)
         if (contains(link.address, term_key)) take_suggestion(link.address, wanted, mode);
 }
 
 /// Waits for the page; false when the user does not want to wait any longer.
-bool Form19::wait_for_browser() {
+bool Form19::wait_for_browser(const std::function<bool()>& enough) {
     int rounds = 0;
-    while (desktop().busy(wb1)) {
+    while (!enough()) {
         if (rounds == patience) {
             if (MsgBox(u"This procedure is taking more time than expected.\rDo you want to continue?.",
                        Buttons::ok_cancel, u"Time Out") == Answer::cancel)
                 return false;
             rounds = 0;
         }
-        esperar(5);
+        esperar(5, enough);
         ++rounds;
     }
-    return screens().is_loaded(*this);
+    return true;
 }
 
 /// The service shows each suggestion as a link whose query repeats the term.

@@ -41,6 +41,7 @@ void Form20::Form_Load() {
 
 void Form20::Form_Unload() {
     Command7.caption = u"Spider"; // a pass under way ends
+    desktop().cancel(Inet1);
 }
 
 void Form20::Command8_Click() {

@@ -46,6 +46,7 @@ void Form20::Command7_Click() {
     if (running() && MsgBox(u"Cancell Spider?", Buttons::yes_no, u"Spider") == Answer::yes) {
         Command7.caption = u"Spider";
         log(ahora() + u" - Process Cancelled");
+        desktop().cancel(Inet1);
         return; // the pass under way sees the caption and ends by itself
     }
     // After a No a second pass starts inside the first, with a fresh table and log.

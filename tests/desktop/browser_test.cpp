@@ -1,15 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/browser.h"
 #include "desktop/qt_text.h"
+#include "inputs/form3.h"
 #include "inputs/form5.h"
 #include "page_server.h"
 #include "support/faults.h"
 #include "tools/form11.h"
+#include "tools/form19.h"
 #include "tools/form20.h"
+#include "tools/form21.h"
 #include "user.h"
 
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QTest>
+#include <QThread>
 
 namespace twk {
 namespace {
@@ -22,7 +27,8 @@ class Browser : public test::WindowTest {
     Browser() {
         server.page("/one", "<html><head><title>One</title><script>nonsense(</script></head><body><h1>First "
                             "page</h1><script>document.title='x'; missing.call();</script>"
-                            "<p>caf\xc3\xa9</p><a name=here>anchor</a><a href='two'>next</a>"
+                            "<p>caf\xc3\xa9</p><a name=here>anchor</a><svg width=9 height=9><a href='drawn'>"
+                            "<text>x</text></a></svg><a href='two'>next</a>"
                             "<a href='http://elsewhere.example/x?y=1'>away</a></body></html>");
         server.page(
             "/two",
@@ -52,7 +58,7 @@ TEST_F(Browser, SurfsAndPicksUpTheTextOfAPage) {
 
     user.click("Form11", "Command1");
     const Text picked = screen<Form5>().rt1.text();
-    EXPECT_TRUE(contains(picked, u"First page")) << to_utf8(picked);
+    EXPECT_TRUE(contains(picked, u"First page<p>\n")) << to_utf8(picked);
     EXPECT_TRUE(contains(picked, u"café")) << to_utf8(picked);
     EXPECT_FALSE(contains(picked, u"missing")) << to_utf8(picked);
 
@@ -75,6 +81,90 @@ TEST_F(Browser, TellsTheLinksOfAPageInTheirOrderResolved) {
     for (const Link& each : qt.links(browser)) addresses.push_back(each.address);
     EXPECT_EQ(addresses, (std::vector<Text>{from_qt(server.address(QStringLiteral("/two"))),
                                             u"http://elsewhere.example/x?y=1"}));
+}
+
+TEST_F(Browser, ComesToRestWhateverItIsAskedFor) {
+    server.page("/moving", "<body onload=\"setTimeout(()=>history.pushState(0,'','/moved'),50)\">x</body>");
+    screens().dispatch([&] {
+        screen<Form5>().Text2.text = from_qt(server.address(QStringLiteral("/one")));
+        screens().show<Form11>();
+    });
+    Form11& form = screen<Form11>();
+    ASSERT_TRUE(at(form.wb1, server.address(QStringLiteral("/one"))));
+    const auto go = [&](const QString& address) {
+        qt.navigate(form.wb1, from_qt(address));
+        EXPECT_TRUE(qt.busy(form.wb1));
+    };
+    go(server.address(QStringLiteral("/one")));
+    go(server.address(QStringLiteral("/two")));
+    EXPECT_TRUE(at(form.wb1, server.address(QStringLiteral("/two")))) << "one behind another";
+    for (const char* same_page : {"/two#end", "/two#end", "/moving"}) {
+        go(server.address(QString::fromLatin1(same_page)));
+        const bool moves = QByteArray(same_page) == "/moving";
+        EXPECT_TRUE(at(form.wb1, server.address(QString::fromLatin1(moves ? "/moved" : same_page))));
+    }
+    EXPECT_EQ(form.Text1.text(), form.wb1.location_url()) << "follows within the page, too";
+    user.type("Form11", "Text1", QStringLiteral("javascript:void 0"));
+    user.click("Form11", "Command5");
+    EXPECT_TRUE(at(form.wb1, server.address(QStringLiteral("/moved"))));
+    user.expect(QStringLiteral("\"hello world\" is not an address."));
+    user.type("Form11", "Text1", QStringLiteral("hello world"));
+    user.click("Form11", "Command5");
+    EXPECT_FALSE(qt.busy(form.wb1));
+}
+
+TEST_F(Browser, LeavesPagesThatWouldKeepItsUser) {
+    server.page("/asks", "<body><script>onbeforeunload = e => { e.preventDefault(); return 'stay'; }"
+                         "</script>x</body>");
+    server.page("/stuck", "<body><script>setTimeout(() => { while (1); }, 50)</script>x</body>");
+    screens().dispatch([&] {
+        screen<Form5>().Text2.text = from_qt(server.address(QStringLiteral("/asks")));
+        screens().show<Form11>();
+    });
+    WebBrowser& browser = screen<Form11>().wb1;
+    ASSERT_TRUE(at(browser, server.address(QStringLiteral("/asks"))));
+    auto* const view = user.find<QWidget>("Form11", "wb1");
+    QTest::mouseClick(view->focusProxy()->focusProxy(), Qt::LeftButton); // else no page may ask
+    User::settle(200);
+    qt.navigate(browser, from_qt(server.address(QStringLiteral("/stuck"))));
+    ASSERT_TRUE(at(browser, server.address(QStringLiteral("/stuck")))) << "the question is answered by Yes";
+    User::settle(200);
+    user.type("Form11", "Text1", server.address(QStringLiteral("/two")));
+    user.click("Form11", "Command5");
+    EXPECT_TRUE(at(browser, server.address(QStringLiteral("/two")))) << "its process is given up";
+}
+
+TEST_F(Browser, FetchesSuggestionsWithinSecondsAndIsCancelledAtAnyMoment) {
+    PageServer server(test::service_port());
+    const QByteArray service = "/d/searchinventory/suggestion/?term=";
+    server.page(service + "green%20tea", "<a href='/s?term=white%20tea&mkt=us'>x</a>");
+    server.hold_back(service + "slow");
+    screens().dispatch([] { screen<Form3>().List1.add_item(u"green tea"); });
+    QElapsedTimer took;
+    took.start();
+    screens().dispatch([] { screen<Form3>().cmd_wizard_Click(); });
+    EXPECT_LT(took.elapsed(), 8000);
+    EXPECT_EQ(screen<Form19>().List1.text(), u"");
+    ASSERT_EQ(screen<Form19>().List1.list_count(), 1);
+    EXPECT_EQ(screen<Form19>().List1.list(0), u"white tea");
+
+    screens().dispatch([] { screen<Form3>().List1.set_list(0, u"slow"); });
+    QTimer::singleShot(600, &qt.window(), [this] { user.click("Form19", "Command4"); });
+    took.start();
+    screens().dispatch([] { screen<Form3>().cmd_wizard_Click(); });
+    EXPECT_LT(took.elapsed(), 5000);
+    EXPECT_FALSE(user.sees("Form19"));
+}
+
+TEST_F(Browser, ShowsABoxEveryTimeAndKeepsItsFileUntilThen) {
+    screens().dispatch([] { screens().show<Form5>(); });
+    for (const char16_t* text : {u"<b>first</b> box", u"<b>second</b> box"}) {
+        screen<Form5>().rt1.text = text;
+        screens().dispatch([] { screen<Form5>().cmdshow_Click(); });
+        const Text shown = qt.inner_text(screen<Form21>().WebBrowser1);
+        EXPECT_EQ(to_utf8(shown), to_utf8(Replace(Replace(text, u"<b>", u""), u"</b>", u"")));
+        EXPECT_FALSE(app.exists(u"delete.htm"));
+    }
 }
 
 TEST_F(Browser, TakesPageTextsAtOnceAndNeverFollowsTheirScripts) {
@@ -107,10 +197,13 @@ TEST_F(Browser, TransfersFetchPagesWhileOtherEventsRun) {
     };
     EXPECT_TRUE(contains(fetch("/one"), u"café"));
     EXPECT_TRUE(ran);
-    for (const char* type : {"text/html; charset=ISO-8859-1", "text/html"}) {
+    for (const char* type : {"text/html; charset=ISO-8859-1", "text/html", "text/html; charset=utf-8"}) {
         server.page("/latin", "<p>caf\xe9</p>", type);
         EXPECT_EQ(fetch("/latin"), u"<p>café</p>") << type;
     }
+    const QByteArray meta = "<meta http-equiv=x content='text/html; charset=windows-1251'>";
+    server.page("/cyrillic", meta + "\xea\xee\xf2", "text/html");
+    EXPECT_TRUE(fetch("/cyrillic").ends_with(u"\u043a\u043e\u0442")) << "as the page itself says";
     server.page("/large", QByteArray(9 * 1024 * 1024, 'x'));
     const Text large = fetch("/large");
     EXPECT_GT(large.size(), 1024u * 1024u);
@@ -123,6 +216,22 @@ TEST_F(Browser, TransfersFetchPagesWhileOtherEventsRun) {
     server.hold_back("/slow");
     EXPECT_EQ(fault_of(from_qt(server.address(QStringLiteral("/slow")))), fault_timed_out);
     EXPECT_FALSE(inet.still_executing);
+    QElapsedTimer took;
+    took.start();
+    inet.request_timeout = 20;
+    QTimer::singleShot(50, &qt.window(), [&] { qt.cancel(inet); });
+    EXPECT_NE(fault_of(from_qt(server.address(QStringLiteral("/slow")))), fault_timed_out);
+    EXPECT_LT(took.elapsed(), 5000) << "cancelled at once";
+    // What has come in time is no time-out, though other events have kept the control waiting.
+    inet.request_timeout = 1;
+    server.requests.clear();
+    QTimer late;
+    QObject::connect(&late, &QTimer::timeout, [&, ticks = 0]() mutable {
+        if (!server.requests.isEmpty() && ++ticks == 3) QThread::msleep(1500);
+    });
+    late.start(5);
+    EXPECT_TRUE(contains(fetch("/one"), u"First page"));
+    late.stop();
     for (const char16_t* refused :
          {u"file:///etc/hostname", u"javascript:alert(1)", u"", u"http://127.0.0.1:1/"}) {
         const int number = fault_of(refused);

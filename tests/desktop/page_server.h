@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QHash>
 #include <QHostAddress>
 #include <QTcpServer>
@@ -9,12 +10,18 @@
 
 namespace twk::test {
 
+/// Port on the loopback interface at which this process takes the suggestion service, whose address is fixed,
+/// to be.
+inline quint16 service_port() {
+    return static_cast<quint16>(20000 + QCoreApplication::applicationPid() % 12000);
+}
+
 /// Serves pages on the loopback interface, those that misbehave among them. A path that it does not know is
 /// 404.
 class PageServer : public QTcpServer {
   public:
-    PageServer() {
-        listen(QHostAddress::LocalHost);
+    explicit PageServer(quint16 port = 0) {
+        listen(QHostAddress::LocalHost, port);
         connect(this, &QTcpServer::newConnection, this, [this] {
             QTcpSocket* const socket = nextPendingConnection();
             connect(socket, &QTcpSocket::readyRead, this, [this, socket] { answer(*socket); });

@@ -151,6 +151,39 @@ TEST_F(GenerationRun, second_click_while_pages_are_written_does_nothing) {
 }
 
 /// All keywords of a box are counted together; `densidad` counts one by one.
+TEST_F(GenerationRun, report_is_closed_to_the_user_while_it_is_written_and_open_behind_a_fault) {
+    test::SampleProject project(app);
+    EXPECT_TRUE(project.generate());
+    Form12& report = screen<Form12>();
+    EXPECT_TRUE(report.List1.enabled() && report.Command2.enabled() && report.Command3.enabled());
+    const std::string pages = std::to_string(project.run().pages_written);
+    EXPECT_EQ(to_utf8(report.lbl_progress.caption()), "Page " + pages + " of " + pages);
+    screens().fire<Form12>("List1", "Click");
+    report.Show_reporte(0, 1);
+
+    bool seen = false;
+    app.desktop.on_events = [&] {
+        if (project.run().fase != 2) return;
+        seen = true;
+        for (const ListBox* list : {&report.List1, &report.List2, &report.List3})
+            EXPECT_FALSE(list->enabled() || list->list_count() > 0);
+        EXPECT_FALSE(report.RichTextBox1.enabled() || report.Command2.enabled() || report.Command3.enabled());
+        EXPECT_EQ(report.RichTextBox1.text(), u"");
+        screens().close(screens().record<Form12>());
+        screens().close(screens().record<Form6>());
+        EXPECT_TRUE(screens().is_loaded(report) && screens().is_loaded(project.form));
+        project.form.settings.frases_link = {}; // faulty
+    };
+    app.desktop.expect(u"Are you sure you want to proceed?", Answer::yes);
+    app.desktop.expect(u"Run-time error '1001':");
+    EXPECT_FALSE(click(project.form));
+    EXPECT_TRUE(seen);
+    EXPECT_TRUE(report.Command2.enabled());
+    EXPECT_EQ(report.Label2.caption() + report.lbl_progress.caption(), u"");
+    screens().close(screens().record<Form12>());
+    EXPECT_FALSE(screens().is_loaded<Form12>());
+}
+
 TEST_F(GenerationRun, boxes_have_the_densities_of_one_count_after_the_other) {
     test::SampleContent content;
     const Text opening(highlight_opening);

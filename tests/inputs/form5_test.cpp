@@ -214,6 +214,13 @@ TEST_F(ContentBoxes, are_previewed_from_a_file_that_goes_again) {
     EXPECT_EQ(to_utf8(screen<Form21>().Text1.text()), "<b>box</b>");
     EXPECT_EQ(app.clock->slept, std::chrono::seconds(2));
     EXPECT_FALSE(app.exists(u"delete.htm") || app.exists(u"delete.htmaux"));
+    app.desktop.busy_rounds = 2; // the file stays until it has been read
+    bool there = true;
+    app.desktop.on_wait = [&] { there = there && app.exists(u"delete.htm"); };
+    click("cmdshow");
+    EXPECT_TRUE(there);
+    EXPECT_EQ(app.clock->slept, std::chrono::seconds(2 + 6));
+    EXPECT_FALSE(app.exists(u"delete.htm") || app.exists(u"delete.htmaux"));
 }
 
 TEST_F(ContentBoxes, lead_on_when_there_are_two) {

@@ -98,6 +98,25 @@ TEST_F(ScreensTest, MayUnloadThemselvesDuringTheirOwnEvent) {
     EXPECT_FALSE(screens().is_loaded<Hasty>());
 }
 
+TEST_F(ScreensTest, AreNotClosedByTheUserWhileTheyAreHeld) {
+    const Sample& first = screen<Sample>();
+    {
+        Screens::Hold hold(screens());
+        hold.add<Sample>();
+        hold.add<Other>();
+        EXPECT_FALSE(screens().is_loaded<Other>());
+        screens().close(screens().record<Sample>());
+        EXPECT_TRUE(screens().is_loaded(first));
+        screens().dispatch([&first] {
+            screens().unload<Sample>(); // the screens themselves may
+            screen<Sample>();
+            EXPECT_FALSE(screens().is_loaded(first)) << "another one stands in its place";
+        });
+    }
+    screens().close(screens().record<Sample>());
+    EXPECT_FALSE(screens().is_loaded<Sample>());
+}
+
 TEST_F(ScreensTest, ShowAFaultAndStayOpen) {
     desktop.expect(u"Run-time error '6':\n\nOverflow");
     EXPECT_FALSE(screens().fire<Sample>("Command", "Click", 1));

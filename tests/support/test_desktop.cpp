@@ -87,6 +87,11 @@ void TestDesktop::DoEvents() {
     if (on_events) on_events();
 }
 
+void TestDesktop::wait(std::chrono::milliseconds time, const std::function<bool()>& enough) {
+    Desktop::wait(time, enough);
+    if (on_wait) on_wait();
+}
+
 Text TestDesktop::get_setting(TextView section, TextView key, const Text& fallback) {
     const auto found = settings.find(Text(section) + u"/" + Text(key));
     return found == settings.end() ? fallback : found->second;

@@ -44,6 +44,7 @@ class TestDesktop : public Desktop {
     std::map<Text, Text> pages;                ///< address to page, for browsers and fetches
     std::map<Text, int> faults;                ///< address to the fault that its fetch ends in
     std::function<void()> on_events;           ///< runs within DoEvents
+    std::function<void()> on_wait;             ///< runs within a wait, behind its time
     std::function<void(Screen&)> on_modal;     ///< stands for the user of a modal screen
     std::function<void(const Text&)> on_fetch; ///< runs before a fetch answers
     int busy_rounds = 0;                       ///< so many times a browser says that it is busy
@@ -54,6 +55,7 @@ class TestDesktop : public Desktop {
     std::optional<std::uint32_t> ask_color(std::uint32_t start) override;
     std::optional<FontChoice> ask_font(const FontChoice& start) override;
     void DoEvents() override;
+    void wait(std::chrono::milliseconds time, const std::function<bool()>& enough) override;
     void start(const Text& file_or_address) override { started.push_back(file_or_address); }
     Text get_setting(TextView section, TextView key, const Text& fallback) override;
     void say(const Text& what) override { said.push_back(what); }

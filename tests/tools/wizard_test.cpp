@@ -63,6 +63,33 @@ TEST_F(Wizard, asks_after_ten_minutes_whether_to_go_on) {
     EXPECT_EQ(wizard().List1.list_count(), 0);
 }
 
+TEST_F(Wizard, ends_with_its_screen_or_when_it_is_begun_anew) {
+    store_keyword(u"roses");
+    store_keyword(u"tulips");
+    suggest(u"roses", {u"climbing%20roses&mkt=us"});
+    int waits = 0;
+    app.desktop.on_wait = [&] {
+        if (++waits > 1) return;
+        screens().unload<Form19>();
+        screen<Form19>(); // somebody has opened it again
+    };
+    click("cmd_wizard");
+    EXPECT_EQ(waits, 1);
+    EXPECT_EQ(wizard().List1.list_count(), 0);
+    waits = 0;
+    app.desktop.on_wait = [&] {
+        if (++waits == 1) click("cmd_wizard");
+    };
+    click("cmd_wizard");
+    EXPECT_EQ(waits, 3) << "the lookups inside, and no more outside them";
+    waits = 0;
+    app.desktop.on_wait = [&] {
+        if (++waits == 1) screens().unload<Form3>();
+    };
+    click("cmd_wizard");
+    EXPECT_FALSE(screens().is_loaded<Form3>()) << "Step 2 does not come back";
+}
+
 TEST_F(Wizard, fails_at_a_suggestion_without_its_end) {
     store_keyword(u"roses");
     suggest(u"roses", {u"good&mkt=us", u"bad"});
