@@ -5,6 +5,7 @@
 #include "desktop/qt_colour.h"
 #include "desktop/qt_text.h"
 #include "desktop/screen_window.h"
+#include "desktop/user_settings.h"
 #include "platform/faults.h"
 #include "platform/files.h"
 
@@ -15,7 +16,6 @@
 #include <QFontDialog>
 #include <QMessageBox>
 #include <QOpenGLWidget>
-#include <QSettings>
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
@@ -95,12 +95,16 @@ std::optional<Text> QtDesktop::ask_file(const FileQuestion& question, bool save)
     QFileDialog dialog(&window_, to_qt(question.title), to_qt(question.start_folder),
                        name_filter(question.filter));
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    // The screens say where a dialog begins; the folder used last is one click away.
+    if (!last_folder().isEmpty())
+        dialog.setSidebarUrls(dialog.sidebarUrls() << QUrl::fromLocalFile(last_folder()));
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     // The dialog would look for the name as typed; what counts is the name with its ending.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     if (!question.file_name.empty() && !contains(question.file_name, u"*"))
         dialog.selectFile(to_qt(question.file_name));
     while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+        set_last_folder(dialog.directory().absolutePath());
         const Text chosen = from_qt(dialog.selectedFiles().constFirst());
         if (!save || may_write(with_ending(chosen, question.ending), question.title)) return chosen;
     }
@@ -184,8 +188,7 @@ void QtDesktop::start(const Text& file_or_address) {
 }
 
 Text QtDesktop::get_setting(TextView section, TextView key, const Text& fallback) {
-    const QSettings settings(QStringLiteral("Tarnwick"), QStringLiteral("Tarnwick"));
-    return from_qt(settings.value(to_qt(section) + u'/' + to_qt(key), to_qt(fallback)).toString());
+    return from_qt(user_settings().value(to_qt(section) + u'/' + to_qt(key), to_qt(fallback)).toString());
 }
 
 void QtDesktop::say(const Text& what) {
@@ -193,6 +196,7 @@ void QtDesktop::say(const Text& what) {
 }
 
 void QtDesktop::quit() {
+    window_.remember();
     if (!window_.menu_event_alone()) std::_Exit(EXIT_SUCCESS);
     QCoreApplication::quit();
 }

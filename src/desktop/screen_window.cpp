@@ -4,13 +4,13 @@
 #include "desktop/form_area.h"
 #include "desktop/forms.h"
 #include "desktop/qt_text.h"
+#include "desktop/room.h"
+#include "shell/wizard_state.h"
 
-#include <QAction>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QEventLoop>
-#include <QMdiArea>
-#include <QMenu>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <functional>
@@ -18,6 +18,9 @@
 namespace twk {
 
 namespace {
+
+/// Room for the frame and title bar that the window manager adds; their size is known only once shown.
+constexpr QSize frame_room(16, 48);
 
 /// A dialog whose close box asks the screen.
 class ModalFrame : public QDialog {
@@ -38,29 +41,31 @@ class ModalFrame : public QDialog {
 
 } // namespace
 
-ScreenWindow::ScreenWindow(Screen& screen, QMdiArea& area) : area_(area), form_(make_form(screen.name)) {
+ScreenWindow::ScreenWindow(Screen& screen, Room& room)
+    : room_(room), step_(step_of(screen.name) != 0), form_(make_form(screen.name)) {
     setObjectName(QString::fromStdString(screen.name));
     if (form_ == nullptr) form_ = new QWidget;
     drawn_size_ = form_->size();
     form_area_ = new FormArea(*form_);
-    setWidget(form_area_);
-    area_.addSubWindow(this);
-    hide();
-
-    // Ctrl+W belongs to the main menu; Ctrl+F4 still closes the window.
-    for (QAction* each : systemMenu()->actions()) {
-        QList<QKeySequence> keys = each->shortcuts();
-        keys.removeAll(QKeySequence(Qt::CTRL | Qt::Key_W));
-        each->setShortcuts(keys);
-    }
+    auto* const page = new QVBoxLayout(this);
+    page->setContentsMargins(0, 0, 0, 0);
+    page->addWidget(form_area_);
+    room_.add(*this);
 
     binding_ = std::make_unique<ScreenBinding>(screen, *form_);
-    const auto show_title = [this, &screen](Prop) { setWindowTitle(to_qt(screen.caption())); };
+    const auto show_title = [this, &screen](Prop) {
+        setWindowTitle(to_qt(screen.caption()));
+        room_.retitle();
+    };
     screen.observer.watch(show_title);
     show_title(Prop::caption);
 }
 
 ScreenWindow::~ScreenWindow() = default;
+
+bool ScreenWindow::is_open() const {
+    return dialog_ != nullptr || room_.is_open(*this);
+}
 
 QSize ScreenWindow::wanted_size() const {
     QSize size = drawn_size_.expandedTo(form_->minimumSizeHint());
@@ -68,29 +73,12 @@ QSize ScreenWindow::wanted_size() const {
     return size + QSize(2, 2);
 }
 
-void ScreenWindow::place() {
-    if (placed_) return;
-    placed_ = true;
-    const QSize frame = size() - contentsRect().size();
-    const QSize room = area_.viewport()->size();
-    resize((wanted_size() + frame).boundedTo(room));
-    const QPoint free(std::max(0, room.width() - width()), std::max(0, room.height() - height()));
-    const int step = 24 * static_cast<int>(area_.subWindowList().size() - 1);
-    move(std::min(free.x(), step), std::min(free.y(), step));
-}
-
 void ScreenWindow::open() {
-    if (dialog_ != nullptr) return;
-    if (isMinimized())
-        showNormal();
-    else
-        show();
-    place();
-    area_.setActiveSubWindow(this);
+    if (dialog_ == nullptr) room_.bring(*this);
 }
 
 void ScreenWindow::put_away() {
-    hide();
+    room_.put_away(*this);
     if (dialog_ != nullptr) dialog_->hide();
 }
 
@@ -100,17 +88,16 @@ void ScreenWindow::retire() {
 }
 
 void ScreenWindow::run_modal() {
-    hide();
-    ModalFrame dialog(area_.window(), [this] { close_screen(); });
+    room_.put_away(*this);
+    ModalFrame dialog(room_.window(), [this] { close_screen(); });
     dialog_ = &dialog;
     dialog.setWindowModality(Qt::ApplicationModal);
     dialog.setWindowTitle(windowTitle());
     auto* const layout = new QVBoxLayout(&dialog);
     layout->setContentsMargins(0, 0, 0, 0);
-    setWidget(nullptr);
     layout->addWidget(form_area_);
     form_area_->show();
-    dialog.resize(wanted_size());
+    dialog.resize(wanted_size().boundedTo(room_.screen()->availableSize() - frame_room));
     dialog.show();
 
     QEventLoop loop;
@@ -125,8 +112,7 @@ void ScreenWindow::run_modal() {
     dialog.installEventFilter(&watch);
     if (screen() != nullptr && screen()->visible) loop.exec();
 
-    layout->removeWidget(form_area_);
-    setWidget(form_area_);
+    this->layout()->addWidget(form_area_);
     dialog_ = nullptr;
 }
 

@@ -4,30 +4,33 @@
 #include "desktop/binder.h"
 
 #include <QDialog>
-#include <QMdiSubWindow>
 #include <QPointer>
+#include <QWidget>
 #include <memory>
-
-class QMdiArea;
 
 namespace twk {
 
 class FormArea;
+class Room;
 
-/// The window of one screen inside the main window. Closing it does not close it: the screen is asked, and
-/// unloaded when it has nothing to say.
-class ScreenWindow : public QMdiSubWindow {
+/// The page of one screen in the room of the main window. Closing it does not close it: the screen is asked,
+/// and unloaded when it has nothing to say.
+class ScreenWindow : public QWidget {
   public:
-    ScreenWindow(Screen& screen, QMdiArea& area);
+    ScreenWindow(Screen& screen, Room& room);
     ~ScreenWindow() override;
 
     Screen* screen() const { return binding_->screen(); }
     ScreenBinding& binding() { return *binding_; }
+    /// Whether it is one of the six steps of the wizard.
+    bool is_step() const { return step_; }
+    /// Whether it is in the room, in front or behind, or in a dialog.
+    bool is_open() const;
 
     void open();
     /// Shows the form in a dialog that blocks the other windows, until the screen is hidden or unloaded.
     void run_modal();
-    /// Hides the window and lets go of the screen, which is being unloaded.
+    /// Takes it from sight and lets go of the screen, which is being unloaded.
     void retire();
     void put_away();
 
@@ -36,17 +39,16 @@ class ScreenWindow : public QMdiSubWindow {
 
   private:
     void close_screen();
-    void place();
     /// Size as drawn, or what the texts need.
     QSize wanted_size() const;
 
-    QMdiArea& area_;
+    Room& room_;
+    const bool step_;
     QWidget* form_ = nullptr;
     FormArea* form_area_ = nullptr;
     std::unique_ptr<ScreenBinding> binding_;
     QPointer<QDialog> dialog_;
     QSize drawn_size_;
-    bool placed_ = false;
 };
 
 } // namespace twk

@@ -14,6 +14,8 @@
 #include "platform/memory.h"
 #include "store/stores.h"
 
+#include <chrono>
+
 namespace twk {
 
 namespace {
@@ -111,6 +113,7 @@ void run_all(Run& run) {
     build_page_names(run.plan, run.project, run.choices);
     distribute_pages(run.plan, run.choices);
     if (run.choices.offer_page_names() && !offer_page_names(run.plan, run.choices)) return;
+    const auto begun = std::chrono::steady_clock::now();
     run.page.written = [&run] { run.report.page_written(); };
     run.report.begin(run.project);
     measure_boxes(run.boxes, run.project, run.choices);
@@ -118,8 +121,10 @@ void run_all(Run& run) {
     if (!list_pictures(run.choices)) return;
     run_phases(run);
     run.report.finish(run.project.n_keywords, {run.cuenta1, run.cuenta2, run.cuenta3});
+    run.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begun).count();
     open_local_site_map(run.plan);
     run.finished = true;
+    say(to_text(run.page.pages_written) + u" pages written");
 }
 
 } // namespace

@@ -34,6 +34,7 @@ struct Run {
     std::int16_t cuenta_archivos = 0;
     Text enlace_padre;     ///< what a page leaves for the report: where it links to
     Text mensaje_error;    ///< the stage under way
+    double seconds = 0;    ///< from the empty report to the last page, once that is written
     bool finished = false; ///< the run came to its end
 
     const Text& keyword() const { return project.tabla_kw.at(indice_kw); }

@@ -210,6 +210,7 @@ void Form3::Combo1_Click() {
                Buttons::yes_no) == Answer::no)
         return;
     bool any_here = false;
+    int copied = 0;
     for (Recordset row =
              base_datos_.OpenRecordset(u"SELECT Projects.pid as ff , keywords.* From Projects, keywords "
                                        u"WHERE Projects.name = '" +
@@ -223,7 +224,9 @@ void Form3::Combo1_Click() {
         }
         // Goes in unchecked: it may equal a subkeyword of this project.
         insert_keyword(word);
+        ++copied;
     }
+    say(to_text(copied) + u" keywords copied from " + project);
     if (any_here)
         MsgBox(u"Some keywords from " + project +
                u" project couldn't be copied \nbecause they already exist on the current project");

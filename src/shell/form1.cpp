@@ -134,6 +134,7 @@ void Form1::open_project() {
              base_datos_.OpenRecordset(u"select * from target where pid = " + to_text(module1().pid_actual));
          !row.eof(); row.MoveNext())
         screen<Form2>().List1.add_item(row.Fields(u"target").text());
+    if (module1().pid_actual != 0) say(u"Project " + module1().proyecto_actual + u" opened");
 }
 
 void Form1::Command4_Click() {
@@ -162,6 +163,7 @@ void Form1::Command4_Click() {
     combo1.clear();
     llenar_proyectos();
     combo1.text = u"Select an existing project";
+    if (pid_ != 0) say(u"Project " + project + u" deleted");
 }
 
 /// Empties and removes the folders in the project's folder, then that itself. Fault 75 before a file is
@@ -229,6 +231,7 @@ void Form1::Command6_Click() {
     combo1.clear();
     llenar_proyectos();
     combo1.text = u"Select an existing Project";
+    say(u"Project copied as " + project);
 }
 
 /// Copies the row of the selected project, the last one of several. Without any, the two keys stay as the

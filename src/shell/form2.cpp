@@ -177,6 +177,7 @@ void Form2::Command2_Click() {
     if (refused(slash_refusal()) || name_taken) return;
     make_folder();
     screens().bring_forward<Form3>();
+    say(u"Project saved");
 }
 
 Form2::Refusal Form2::first_refusal() {

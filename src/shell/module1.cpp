@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/module1.h"
 
+#include "platform/numbers.h"
+
 namespace twk {
 
 const Text& version_app() {
@@ -10,6 +12,10 @@ const Text& version_app() {
         return parts.at(0) + u"." + parts.at(1) + parts.at(2) + u"-tarnwick";
     }();
     return version;
+}
+
+Text sent_to_step2(int words) {
+    return to_text(words) + Text(words == 1 ? u" word" : u" words") + u" sent to Step 2";
 }
 
 } // namespace twk

@@ -8,4 +8,7 @@ namespace twk {
 /// "major.minorrevision-program".
 const Text& version_app();
 
+/// "5 words sent to Step 2", for the status bar.
+Text sent_to_step2(int words);
+
 } // namespace twk

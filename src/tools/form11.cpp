@@ -45,6 +45,7 @@ void Form11::Command1_Click() {
     Form5& step3 = screen<Form5>();
     step3.rt1.text = texto;
     step3.show_unsaved();
+    say(u"Text picked up into the content box of Step 3");
 }
 
 void Form11::enumerate(ScreenMap& map) {

@@ -127,6 +127,7 @@ bool Form19::is_known(const Text& suggestion) const {
 void Form19::Command5_Click() {
     if (List1.list_count() == 0) return;
     Form3& step2 = screen<Form3>(); // before the first word is stored: it lists what the store has
+    int sent = 0;
     for (int i = 0; i < List1.list_count(); ++i) {
         const Text word = Trim(List1.list(i));
         if (word.empty() || !List1.selected(i) || Len(word) <= 3) continue;
@@ -137,7 +138,9 @@ void Form19::Command5_Click() {
         base_datos.Execute(u"insert into keywords ( pid , keyword ) values ( " +
                            to_text(module1().pid_actual) + u" , '" + word + u"' ) ");
         step2.list_keyword(word);
+        ++sent;
     }
+    say(sent_to_step2(sent));
 }
 
 void Form19::Command1_Click() {

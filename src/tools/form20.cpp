@@ -88,6 +88,7 @@ void Form20::Command13_Click() {
     Form3& step2 = screen<Form3>(); // before the first word is stored: it lists what the store has
     Database base_datos = open_hive();
     const Text pid = to_text(module1().pid_actual);
+    int sent = 0;
     for (int i = 0; i < List1.list_count(); ++i) {
         const Text word = Trim(List1.list(i));
         if (!List1.selected(i) || Len(word) < 3) continue;
@@ -102,7 +103,9 @@ void Form20::Command13_Click() {
         base_datos.Execute(u"insert into keywords ( pid , keyword ) values ( " + pid + u" , '" + word +
                            u"' ) ");
         step2.list_keyword(word);
+        ++sent;
     }
+    say(sent_to_step2(sent));
 }
 
 void Form20::enumerate(ScreenMap& map) {

@@ -28,6 +28,7 @@ void Form21::cmdgoback_Click() {
     step3.rt1.text = Text1.text();
     step3.show_unsaved();
     screens().unload<Form21>();
+    say(u"Text put back into the content box of Step 3");
 }
 
 void Form21::enumerate(ScreenMap& map) {

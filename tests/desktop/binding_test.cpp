@@ -31,11 +31,12 @@ TEST_F(Binding, EveryControlOfEveryScreenHasItsWidgetAndEveryEventItsSignal) {
         const Screen& screen = *window->screen();
         SCOPED_TRACE(screen.name);
         ASSERT_FALSE(screen.map.all_controls().empty());
-        EXPECT_TRUE(window->isVisible());
+        window->open();
+        EXPECT_EQ(qt.window().front(), window);
         for (const std::string& each : window->binding().unbound()) ADD_FAILURE() << each;
         QSet<const QWidget*> labelled;
-        for (const QLabel* label : window->widget()->findChildren<QLabel*>()) labelled << label->buddy();
-        for (const QWidget* each : window->widget()->findChildren<QWidget*>()) {
+        for (const QLabel* label : window->findChildren<QLabel*>()) labelled << label->buddy();
+        for (const QWidget* each : window->findChildren<QWidget*>()) {
             const bool named = !each->accessibleName().isEmpty() || labelled.contains(each) ||
                                qobject_cast<const QAbstractButton*>(each) != nullptr ||
                                each->objectName().startsWith(QStringLiteral("qt_"));

@@ -3,6 +3,8 @@
 #include "quit_run.h"
 
 #include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -17,6 +19,9 @@ int main(int argc, char** argv) {
     char* arguments[] = {name.data(), engine.data(), rules.data(), nullptr};
     int count = 3;
     QApplication app(count, arguments);
+    // What the tests remember is theirs alone, and is forgotten.
+    const QTemporaryDir remembered;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, remembered.path());
     testing::InitGoogleTest(&argc, argv);
     if (argc > 1 && std::string(argv[1]) == twk::test::quit_argument)
         return twk::test::quit_in_the_middle(argv[2]);

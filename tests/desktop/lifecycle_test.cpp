@@ -50,7 +50,7 @@ TEST_F(Lifecycle, WindowsMayBeClosedInAnyOrder) {
         User::settle();
         // Step 6 is only hidden: its closing means Cancel.
         for (ScreenWindow* each : qt.window().windows())
-            EXPECT_FALSE(each->isVisible()) << each->objectName().toStdString();
+            EXPECT_FALSE(each->is_open()) << each->objectName().toStdString();
         screens().dispatch([] { screens().unload<Form17>(); });
         User::settle();
         for (const auto& each : windows)

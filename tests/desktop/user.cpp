@@ -102,6 +102,10 @@ std::vector<QWidget*> User::roots(const char* screen) const {
 
 bool User::ready(QWidget* widget, const char* screen, const char* name) const {
     if (widget == nullptr) return false;
+    // As by the Windows menu: one screen is in front, the others wait behind it.
+    ScreenWindow* const page = window(screen);
+    if (page != nullptr && page->isAncestorOf(widget) && desktop_.window().front() != page && page->is_open())
+        page->binding().run([page] { screens().bring_forward(*page->screen()); });
     EXPECT_TRUE(widget->isVisible()) << screen << "." << name << " cannot be seen";
     EXPECT_TRUE(widget->isEnabled()) << screen << "." << name << " is greyed out";
     return widget->isVisible() && widget->isEnabled();
@@ -209,7 +213,7 @@ QPoint User::row(const QListWidget& list, int at) {
 
 bool User::sees(const char* screen) const {
     const ScreenWindow* const found = window(screen);
-    return found != nullptr && found->isVisible();
+    return found != nullptr && found->is_open();
 }
 
 WindowTest::WindowTest() : user(qt) {

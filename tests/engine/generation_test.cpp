@@ -156,7 +156,7 @@ TEST_F(GenerationRun, report_is_closed_to_the_user_while_it_is_written_and_open_
     EXPECT_TRUE(project.generate());
     Form12& report = screen<Form12>();
     EXPECT_TRUE(report.List1.enabled() && report.Command2.enabled() && report.Command3.enabled());
-    const std::string pages = std::to_string(project.run().pages_written);
+    const std::string pages = std::to_string(project.run().page.pages_written);
     EXPECT_EQ(to_utf8(report.lbl_progress.caption()), "Page " + pages + " of " + pages);
     screens().fire<Form12>("List1", "Click");
     report.Show_reporte(0, 1);
