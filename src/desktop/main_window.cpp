@@ -150,10 +150,6 @@ void MainWindow::choose(const std::string& entry) {
     ScreenBinding::after_event();
 }
 
-ScreenWindow* MainWindow::front() const {
-    return static_cast<ScreenWindow*>(area_->activeSubWindow()); // no other windows stand in the area
-}
-
 void MainWindow::list_screens(QMenu& menu) {
     menu.clear();
     for (ScreenWindow* window : windows_) {

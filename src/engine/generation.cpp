@@ -12,6 +12,7 @@
 #include "platform/chance.h"
 #include "platform/desktop.h"
 #include "platform/memory.h"
+#include "platform/numbers.h"
 #include "store/stores.h"
 
 #include <chrono>

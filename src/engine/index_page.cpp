@@ -50,7 +50,7 @@ void index_page(Run& run, const Text& folder) {
     page.fso.DeleteFile(path);
     page.fso.CopyFile(aux, finished);
     page.fso.DeleteFile(aux);
-    ++page.pages_written;
+    page.count();
     page.pagina_actual.clear();
 }
 

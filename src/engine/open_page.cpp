@@ -22,9 +22,13 @@ void OpenPage::close() {
     salida.reset();
     origen->replace_by(aux);
     origen.reset();
+    count();
+    pagina_actual.clear();
+}
+
+void OpenPage::count() {
     ++pages_written;
     if (written) written();
-    pagina_actual.clear();
 }
 
 void OpenPage::abandon() {

@@ -24,13 +24,15 @@ struct OpenPage {
     std::int64_t pages_written = 0;
     std::int64_t bytes_written = 0;
 
-    std::function<void()> written; ///< told of each page that `close` has put in place
+    std::function<void()> written; ///< told of each page that is counted
 
     /// Proves that the page itself can be opened, one that is missing being made empty in the end, and starts
     /// `salida` on its sibling, the name plus "aux". Fault 75 when the path leaves the project.
     void open(const Text& path);
     /// Closes both streams; the sibling takes the page's place. Counts the page.
     void close();
+    /// Counts a page that stands.
+    void count();
     /// Lets go of a page under way; one that was never replaced stands empty.
     void abandon();
     /// Copies a delivered file into a folder of the project, overwriting.

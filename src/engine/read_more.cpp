@@ -49,7 +49,7 @@ void write_read_more(Run& run, const Text& path, const Text& t) {
     write_lines(run, *out, t);
     out->Close();
     page.replace_by(aux);
-    ++run.page.pages_written;
+    run.page.count();
     run.page.bytes_written += out->size();
 }
 

@@ -73,8 +73,7 @@ Text Form7::directory_refusal(const Text& main, const std::vector<Text>& others)
     if (trimmed == placeholder()) return u"You must enter an URL to host the gateway pages";
     const Text main_host = LCase(trimmed);
     const auto same = [&](const Text& other) { return LCase(Trim(other)) == main_host; };
-    if (std::any_of(others.begin(), others.end(), same))
-        return u"Main host can't be the same as Other Host!";
+    if (std::any_of(others.begin(), others.end(), same)) return u"Main host can't be the same as Other Host!";
     if (ends_in_slash(trimmed)) return u"Main Gateway Domain can't end in / or \\";
     return {};
 }

@@ -77,7 +77,7 @@ const Text& ListBox::list(int index) const {
 
 void ListBox::tell(Prop which, ListChange change) {
     change_ = change;
-    const bool appended = change.removed == 0 && change.added == 1 && change.first == list_count() - 1;
+    const bool appended = change.removed == 0 && change.added == 1 && change.at == list_count() - 1;
     if (which == Prop::list && !appended) ++edits_;
     observer(which);
 }

@@ -108,7 +108,7 @@ class Form12 {
 
     int pages_planned_ = 0; ///< by the run under way
     int pages_done_ = 0;
-    double first_page_ = 0; ///< when the run began to write, in seconds since midnight
+    double first_page_ = 0;             ///< when the run began to write, in seconds since midnight
     std::optional<KeywordSet> counted_; ///< the keywords, to be counted together
 };
 

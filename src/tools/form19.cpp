@@ -32,7 +32,6 @@ void Form19::tomar_web() {
     // A word may take minutes. Meanwhile the user may close the screen, which ends the lookups, or start
     // others, which have a mode and words of their own.
     const int mode = modo_asistente;
-    const int pass = ++pass_;
     std::vector<Text> words;
     if (mode == 2)
         for (const auto& row : tabla_asistente) words.push_back(row.empty() ? Text() : row.front());
@@ -42,16 +41,15 @@ void Form19::tomar_web() {
     if (mode == 1) List1.clear();
     for (const Text& word : words) {
         look_up(word, mode);
-        if (is_over(pass)) return;
+        if (is_over()) return;
     }
     Frame2.visible = false;
     screens().record<Form19>().caption = u"Keyword Wizard";
 }
 
-/// Whether lookups that began as this pass have come to nothing: the screen, or Step 2 behind it, is gone, or
-/// others have begun.
-bool Form19::is_over(int pass) const {
-    return pass != pass_ || !screens().is_loaded(*this) || !screens().is_loaded<Form3>();
+/// Whether lookups have come to nothing: the screen, or Step 2 behind it, is gone.
+bool Form19::is_over() const {
+    return !screens().is_loaded(*this) || !screens().is_loaded<Form3>();
 }
 
 void Form19::buscar_termino(const Text& term) {
@@ -64,16 +62,15 @@ void Form19::look_up(const Text& term, int mode) {
     if (wanted.empty()) return;
     desktop().navigate(wb1, Text(addresses::suggestion_service) + Text(suggestion_path) +
                                 Replace(wanted, u" ", u"%20"));
-    const int pass = pass_;
-    const auto enough = [this, pass] { return is_over(pass) || !desktop().busy(wb1); };
+    const auto enough = [this] { return is_over() || !desktop().busy(wb1); };
     DoEvents();
     esperar(10, enough); // a page that has come is not waited for any longer
-    if (is_over(pass)) return;
+    if (is_over()) return;
     screens().record<Form19>().caption =
         u"Searching over the net: " + (mode == 1 ? term : screen<Form3>().List1.text());
-    if (!wait_for_browser(enough) || is_over(pass)) return;
+    if (!wait_for_browser(enough) || is_over()) return;
     const std::vector<Link> links = desktop().links(wb1); // events may run here, too
-    if (is_over(pass)) return;
+    if (is_over()) return;
     for (const Link& link : links)
         if (contains(link.address, term_key)) take_suggestion(link.address, wanted, mode);
 }

@@ -49,13 +49,11 @@ class Form19 {
     std::vector<std::vector<Text>> tabla_asistente;
 
   private:
-    bool is_over(int pass) const;
+    bool is_over() const;
     void look_up(const Text& term, int mode);
     bool wait_for_browser(const std::function<bool()>& enough);
     void take_suggestion(const Text& address, const Text& term, int mode);
     bool is_known(const Text& suggestion) const;
-
-    int pass_ = 0; ///< counts the calls of `tomar_web`; the newest is the one that goes on
 };
 
 } // namespace twk

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/qt_text.h"
-#include "support/every_screen.h"
 #include "opened_addresses.h"
 #include "shell/mdi1.h"
+#include "support/every_screen.h"
 #include "user.h"
 
 #include <QAbstractButton>

@@ -3,8 +3,8 @@
 //   grab_screens APPLICATION-FOLDER PICTURE-FOLDER WIDTH HEIGHT [dark]
 #include "desktop/qt_desktop.h"
 #include "desktop/qt_text.h"
-#include "support/every_screen.h"
 #include "shell/mdi1.h"
+#include "support/every_screen.h"
 
 #include <QApplication>
 #include <QMessageBox>

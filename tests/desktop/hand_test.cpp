@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/qt_text.h"
-#include "every_screen.h"
 #include "platform/numbers.h"
 #include "same.h"
 #include "shell/module1.h"
+#include "support/every_screen.h"
 #include "user.h"
 
 #include <QApplication>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/qt_text.h"
 #include "engine/run.h"
-#include "support/every_screen.h"
 #include "quit_run.h"
 #include "shell/mdi1.h"
+#include "support/every_screen.h"
 #include "support/sample_project.h"
 #include "user.h"
 

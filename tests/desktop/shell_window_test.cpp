@@ -2,12 +2,13 @@
 #include "desktop/form_area.h"
 #include "desktop/qt_text.h"
 #include "desktop/rail.h"
-#include "every_screen.h"
+#include "support/every_screen.h"
 #include "support/sample_project.h"
 #include "user.h"
 
 #include <QAction>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -23,7 +24,7 @@ namespace {
 using test::User;
 
 struct Shell : test::WindowTest {
-    std::string front() const {
+    std::string front() {
         const ScreenWindow* const window = qt.window().front();
         return window == nullptr ? "" : window->objectName().toStdString();
     }
@@ -42,8 +43,10 @@ struct Shell : test::WindowTest {
 TEST_F(Shell, StartListsTheProjectsAndOpensOneByEnter) {
     EXPECT_TRUE(screens().open().size() == 1 && front().empty()) << "nothing but the main window is loaded";
     { test::SampleProject project(app); }
-    screens().dispatch([] { screens().unload_all(); });
-    screens().dispatch([] { screens().record<mdi1>(); });
+    screens().dispatch([] {
+        for (Screen* each : screens().open())
+            if (each->name != "mdi1") screens().unload(*each);
+    });
     User::settle();
     auto* const list = part<QTreeWidget>("start_projects");
     ASSERT_EQ(list->topLevelItemCount(), 1);

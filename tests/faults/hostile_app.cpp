@@ -90,7 +90,8 @@ int HostileApp::fault_of_dispatch(const std::function<void()>& event) {
     screens().dispatch(event);
     for (std::size_t i = told; i < app.desktop.messages.size(); ++i) {
         const Text& text = app.desktop.messages[i].text;
-        if (text.starts_with(u"Run-time error '")) return static_cast<int>(Val(Mid(text, 17)));
+        if (const int at = InStr(text, u"Run-time error '"); at > 0)
+            return static_cast<int>(Val(Mid(text, at + 16)));
     }
     return 0;
 }

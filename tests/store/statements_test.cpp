@@ -60,8 +60,9 @@ TEST(MalformedStatements, ChangeNothing) {
         EXPECT_EQ(fault_of([&] { app.run(statement); }), fault_statement) << to_utf8(value);
         screens().dispatch([&] { app.run(statement); });
         const Text& shown = app.desktop.last_message();
-        EXPECT_TRUE(shown.starts_with(u"An apostrophe (') cannot be stored here.\n\nRun-time error '3075':") &&
-                    contains(shown, statement))
+        EXPECT_TRUE(
+            shown.starts_with(u"An apostrophe (') cannot be stored here.\n\nRun-time error '3075':") &&
+            contains(shown, statement))
             << to_utf8(shown);
     }
     for (const char16_t* const statement :
