@@ -78,7 +78,7 @@ QFont RailEntry::small_font() const {
 QSize RailEntry::sizeHint() const {
     const int height = number_ > 0 ? fontMetrics().height() + QFontMetrics(small_font()).height() + 12
                                    : fontMetrics().height() + 12;
-    return {fontMetrics().averageCharWidth() * 28, height};
+    return {fontMetrics().averageCharWidth() * 20, height};
 }
 
 QSize RailEntry::minimumSizeHint() const {

@@ -116,7 +116,10 @@ TEST_F(Shell, NoScreenNeedsAScrollBarInASmallWindow) {
 
 TEST_F(Shell, ThePanelOpenedLastIsInFrontAndTheFocusBringsAnotherForward) {
     test::show_each<Form2, Form3>();
-    screens().dispatch([] { screen<Form3>().Frame1.visible = screen<Form3>().Frame3.visible = true; });
+    screens().dispatch([] {
+        screen<Form3>().Frame1.visible = true;
+        screen<Form3>().Frame3.visible = true; // opened last
+    });
     User::settle();
     const auto in_front = [this](const char* name) {
         QWidget* const panel = user.find<QWidget>("Form3", name);
