@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/form_manners.h"
 
+#include "desktop/widget_events.h"
+
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QComboBox>
@@ -12,6 +14,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTimer>
+#include <utility>
 
 namespace twk {
 
@@ -48,7 +51,8 @@ void scroll_together(const QAbstractScrollArea& one, const QAbstractScrollArea& 
 
 } // namespace
 
-FormManners::FormManners(QObject& owner, QWidget& form) : QObject(&owner), form_(form) {
+FormManners::FormManners(QObject& owner, QWidget& form)
+    : QObject(&owner), form_(form), wishes_before_(times_focus_given()) {
     form.installEventFilter(this);
     for (QGroupBox* each : form.findChildren<QGroupBox*>()) each->installEventFilter(this);
     for (QLabel* each : form.findChildren<QLabel*>())
@@ -80,7 +84,9 @@ bool FormManners::eventFilter(QObject* watched, QEvent* event) {
 
 void FormManners::open_form() {
     if (!form_.isVisible()) return;
-    if (QWidget* const left = form_.focusWidget(); can_have_focus(left))
+    // Where several screens share one place, the focus has already gone to some field of the new one.
+    const bool left_before = std::exchange(opened_, true) || times_focus_given() != wishes_before_;
+    if (QWidget* const left = form_.focusWidget(); left_before && can_have_focus(left))
         left->setFocus(Qt::OtherFocusReason);
     else if (QWidget* const first = first_field(form_))
         first->setFocus(Qt::TabFocusReason);

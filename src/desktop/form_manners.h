@@ -25,6 +25,8 @@ class FormManners : public QObject {
     void close_frame(QWidget& frame);
 
     QWidget& form_;
+    int wishes_before_;   ///< times a screen had asked for the focus when the form was made
+    bool opened_ = false; ///< the form has been shown before
     std::map<const QWidget*, QPointer<QWidget>> openers_; ///< by frame
 };
 

@@ -62,6 +62,7 @@ void Form19::look_up(const Text& term, int mode) {
     if (wanted.empty()) return;
     desktop().navigate(wb1, Text(addresses::suggestion_service) + Text(suggestion_path) +
                                 Replace(wanted, u" ", u"%20"));
+    const int mine = ++asked_;
     const auto enough = [this] { return is_over() || !desktop().busy(wb1); };
     DoEvents();
     esperar(10, enough); // a page that has come is not waited for any longer
@@ -70,7 +71,7 @@ void Form19::look_up(const Text& term, int mode) {
         u"Searching over the net: " + (mode == 1 ? term : screen<Form3>().List1.text());
     if (!wait_for_browser(enough) || is_over()) return;
     const std::vector<Link> links = desktop().links(wb1); // events may run here, too
-    if (is_over()) return;
+    if (is_over() || mine != asked_) return; // another lookup has taken the browser to a page of its own
     for (const Link& link : links)
         if (contains(link.address, term_key)) take_suggestion(link.address, wanted, mode);
 }

@@ -49,6 +49,8 @@ class Form19 {
     std::vector<std::vector<Text>> tabla_asistente;
 
   private:
+    int asked_ = 0; ///< counts the pages that lookups have asked the browser for
+
     bool is_over() const;
     void look_up(const Text& term, int mode);
     bool wait_for_browser(const std::function<bool()>& enough);

@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -136,11 +137,10 @@ void expect_widgets_like_controls(const MainWindow& window) {
         Screen* const screen = each->screen();
         if (screen == nullptr) continue;
         for (const ScreenMap::Control& name : screen->map.all_controls()) {
-            const QWidget* widget = nullptr;
-            for (const QWidget* top : {static_cast<const QWidget*>(each),
-                                       static_cast<const QWidget*>(QApplication::activeModalWidget())})
-                if (widget == nullptr && top != nullptr)
-                    widget = top->findChild<QWidget*>(QString::fromStdString(name.object_name()));
+            // A modal screen's form stands in a dialog meanwhile.
+            const QWidget* const top = each->layout()->isEmpty() ? QApplication::activeModalWidget() : each;
+            if (top == nullptr) continue;
+            const auto* const widget = top->findChild<QWidget*>(QString::fromStdString(name.object_name()));
             if (widget == nullptr) continue;
             SCOPED_TRACE(screen->name + "." + name.object_name());
             std::visit(
