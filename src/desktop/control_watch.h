@@ -6,6 +6,7 @@
 #include "desktop/widget_events.h"
 
 #include <QGuiApplication>
+#include <QItemSelectionModel>
 #include <QWidget>
 #include <initializer_list>
 
@@ -39,6 +40,12 @@ void link_choice(const ControlLink<C>& link, W& list, Changed changed, Clicked c
         else
             link.binding.owe(link.name, "Click");
     });
+    // A drag moves the selection first, and the current entry behind it.
+    QObject::connect(list.selectionModel(), &QItemSelectionModel::currentChanged, &link.binding,
+                     [&list, take] {
+                         if (!list.signalsBlocked() && QGuiApplication::mouseButtons() != Qt::NoButton)
+                             take();
+                     });
     QObject::connect(&list, clicked, &link.binding, [link, take] {
         if (take()) link.binding.act(link.name, "Click");
     });

@@ -38,7 +38,8 @@ void User::expect(const QString& part, QMessageBox::StandardButton button, const
 void User::look() {
     QWidget* const dialog = QApplication::activeModalWidget();
     // A window manager does this when a dialog has closed.
-    if (dialog == nullptr && QApplication::activeWindow() == nullptr) desktop_.window().activateWindow();
+    if (QApplication::activeWindow() == nullptr)
+        (dialog != nullptr ? *dialog : static_cast<QWidget&>(desktop_.window())).activateWindow();
     if (dialog == nullptr || dialog == answered_ || !dialog->isVisible()) return;
     if (auto* const box = qobject_cast<QMessageBox*>(dialog)) {
         answered_ = dialog;
