@@ -16,14 +16,10 @@ run_cppcheck() {
     # It reads no headers of libraries. What is told to be silent:
     # - useStlAlgorithm: a plain loop is often the clearer text;
     # - shadowFunction: a local variable may be called like a routine that nobody calls there;
-    # - duplicateCondition in screens.h: it takes one "if constexpr (requires ...)" for the other;
-    # - returnTempReference in screens.h: it does not see that record() returns a member's element;
     # - internalAstError in binder.cpp: it does not parse the generic lambda.
     cppcheck --std=c++20 --language=c++ --enable=warning,style,performance,portability --inline-suppr \
         --error-exitcode=1 --quiet -j "$(nproc)" -I src \
         --suppress=missingIncludeSystem --suppress=useStlAlgorithm --suppress=shadowFunction \
-        --suppress=duplicateCondition:src/platform/screens.h \
-        --suppress=returnTempReference:src/platform/screens.h \
         --suppress=internalAstError:src/desktop/binder.cpp \
         --template='{file}:{line}: {severity}: {message} [{id}]' src
 }

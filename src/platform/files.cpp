@@ -484,14 +484,15 @@ Text read_text_file(const Text& path) {
 
 // The fence
 
-namespace {
-
-bool plain_folder_name(TextView name) {
+bool is_folder_name(TextView name) {
+    constexpr std::size_t most_bytes = 255;
     const auto bad = [](char16_t c) { return c == u'/' || c == u'\\' || c < 0x20; };
     const TextView trimmed = trim_view(name);
-    return !trimmed.empty() && trimmed != u"." && trimmed != u".." &&
+    return !trimmed.empty() && trimmed != u"." && trimmed != u".." && to_utf8(name).size() <= most_bytes &&
            std::none_of(name.begin(), name.end(), bad);
 }
+
+namespace {
 
 [[noreturn]] void fenced(const Text& path) {
     throw RuntimeFault(fault_path_access,
@@ -502,7 +503,7 @@ bool plain_folder_name(TextView name) {
 
 Fence::Fence(Text projects, TextView name) : projects_(std::move(projects)) {
     folder_ = projects_ + u"/" + Text(name);
-    if (!plain_folder_name(name)) fenced(folder_);
+    if (!is_folder_name(name)) fenced(folder_);
     std::error_code error;
     const fs::path folder = fs::weakly_canonical(disk_path(folder_), error);
     if (error) fenced(folder_);

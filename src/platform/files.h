@@ -145,11 +145,15 @@ Text decode_text(std::string_view bytes);
 /// The path as it stands on disk, names found without regard to case; where nothing is found, as given.
 std::string disk_path(const Text& path);
 
+/// Whether a folder can bear the name: not empty, "." or "..", no separator or control character in it, and
+/// no longer than a file system takes.
+bool is_folder_name(TextView name);
+
 /// Keeps a project's folder: what is erased or written must lie in a direct child of `Projects`.
 class Fence {
   public:
-    /// `projects` is the folder of all projects. Fault 75 when `name` is empty, "." or "..", holds a
-    /// separator or a control character, or is a symbolic link that leads out.
+    /// `projects` is the folder of all projects. Fault 75 when no folder can bear `name`, or it is a symbolic
+    /// link that leads out.
     Fence(Text projects, TextView name);
 
     const Text& folder() const { return folder_; }

@@ -56,14 +56,27 @@ Screen& Screens::enter(std::unique_ptr<Screen> screen) {
     return entered;
 }
 
+bool Screens::holds(const Screen& screen) const {
+    return std::any_of(loaded_.begin(), loaded_.end(),
+                       [&](const auto& each) { return each.get() == &screen; });
+}
+
+Screen& Screens::lasting(Screen& screen) const {
+    if (depth_ == 1 && !holds(screen))
+        throw RuntimeFault(fault_internal, from_utf8(screen.name) + u" has unloaded itself while it loaded.");
+    return screen;
+}
+
 void Screens::show(Screen& screen) {
+    if (!holds(screen)) return; // it has unloaded itself while it loaded
     screen.visible = true;
     desktop().screen_shown(screen);
     if (screen.activate_event) screen.activate_event();
 }
 
 void Screens::show_modal(Screen& screen) {
-    Running running(*this); // the screen may be unloaded while it is waited for
+    const Running running(*this); // the screen may be unloaded while it is waited for
+    if (!holds(screen)) return;
     show(screen);
     desktop().wait_modal(screen);
 }
@@ -83,7 +96,7 @@ void Screens::bring_forward(Screen& screen) {
 }
 
 void Screens::unload(Screen& screen) {
-    Running running(*this);
+    const Running running(*this);
     const std::function<void()> last = std::exchange(screen.unload_event, nullptr); // runs once
     if (last) last();
     const auto at =
@@ -121,7 +134,7 @@ void Screens::bury() {
 }
 
 bool Screens::dispatch(const std::function<void()>& event) {
-    Running running(*this);
+    const Running running(*this);
     try {
         try {
             event();

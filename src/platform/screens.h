@@ -96,13 +96,11 @@ struct Screen {
 /// A loaded screen is visible: loading shows it, unless the class says
 ///   static constexpr bool shown_when_loaded = false;
 /// A screen unloaded while an event runs leaves the registry at once and is destroyed when the outermost
-/// event has returned.
+/// event has returned. A screen may unload itself while it loads: it is not shown then.
 class Screens {
   public:
-    template <class S> S& get() {
-        if (Screen* loaded = find(typeid(S))) return *static_cast<S*>(loaded->instance.get());
-        return load<S>();
-    }
+    /// The instance, loaded if need be. Fault 51 when, outside an event, it unloads itself while it loads.
+    template <class S> S& get() { return *static_cast<S*>(record<S>().instance.get()); }
     template <class S> bool is_loaded() const { return find(typeid(S)) != nullptr; }
     /// Whether this very instance is loaded: a screen that was closed while its own event waited, and perhaps
     /// opened anew, is not.
@@ -110,20 +108,28 @@ class Screens {
         const Screen* const loaded = find(typeid(S));
         return loaded != nullptr && loaded->instance.get() == static_cast<const void*>(&form);
     }
-    /// The registry's record of a screen, loading it if need be.
+    /// The registry's record of a screen, likewise.
     template <class S> Screen& record() {
-        get<S>();
-        Screen* const loaded = find(typeid(S));
-        return loaded != nullptr ? *loaded : *graveyard_.back();
+        const Running running(*this);
+        return lasting(record<S>(running));
     }
 
-    template <class S> void show() { show(record<S>()); }
+    template <class S> void show() {
+        const Running running(*this);
+        show(record<S>(running));
+    }
     /// Shows the screen and waits until it has been hidden or unloaded.
-    template <class S> void show_modal() { show_modal(record<S>()); }
+    template <class S> void show_modal() {
+        const Running running(*this);
+        show_modal(record<S>(running));
+    }
     template <class S> void hide() {
         if (Screen* loaded = find(typeid(S))) hide(*loaded);
     }
-    template <class S> void bring_forward() { bring_forward(record<S>()); }
+    template <class S> void bring_forward() {
+        const Running running(*this);
+        bring_forward(record<S>(running));
+    }
     /// Runs Form_Unload and destroys the instance; nothing happens when it is not loaded.
     template <class S> void unload() {
         if (Screen* loaded = find(typeid(S))) unload(*loaded);
@@ -151,7 +157,8 @@ class Screens {
     /// The same for an event of a screen by name; false when the screen has no such event.
     bool fire(Screen& screen, const std::string& control, const std::string& name, int index = -1);
     template <class S> bool fire(const std::string& control, const std::string& name, int index = -1) {
-        return fire(record<S>(), control, name, index);
+        const Running running(*this);
+        return fire(record<S>(running), control, name, index);
     }
     bool event_running() const { return depth_ > 0; }
 
@@ -175,22 +182,35 @@ class Screens {
     };
 
   private:
-    template <class S> S& load();
+    /// Keeps what is unloaded alive while it may still run. Whoever is handed one may rely on that.
+    class Running {
+      public:
+        explicit Running(Screens& screens) : screens_(screens) { ++screens_.depth_; }
+        ~Running() {
+            if (--screens_.depth_ == 0) screens_.bury();
+        }
+        Running(const Running&) = delete;
+        Running& operator=(const Running&) = delete;
+
+      private:
+        Screens& screens_;
+    };
+
+    /// The record, loaded or not any more: it lasts as long as `running`.
+    template <class S> Screen& load(const Running& running);
+    template <class S> Screen& record(const Running& running) {
+        Screen* const loaded = find(typeid(S));
+        return loaded != nullptr ? *loaded : load<S>(running);
+    }
+    /// The same record, if it outlives the call that loaded it; otherwise fault 51.
+    Screen& lasting(Screen& screen) const;
+    bool holds(const Screen& screen) const;
     Screen& enter(std::unique_ptr<Screen> screen);
     void bury();
 
     std::vector<std::unique_ptr<Screen>> loaded_;
     std::vector<std::unique_ptr<Screen>> graveyard_;
     int depth_ = 0;
-
-    /// Keeps what is unloaded alive while it may still run.
-    struct Running {
-        explicit Running(Screens& screens) : screens(screens) { ++screens.depth_; }
-        ~Running() {
-            if (--screens.depth_ == 0) screens.bury();
-        }
-        Screens& screens;
-    };
 };
 
 Screens& screens();
@@ -200,37 +220,49 @@ template <class S> S& screen() {
     return screens().get<S>();
 }
 
-template <class S> S& Screens::load() {
+namespace screen_events {
+
+template <class S> void load(S& form) {
+    if constexpr (requires { form.Form_Load(); }) form.Form_Load();
+}
+template <class S> std::function<void()> unload_of(S& form) {
+    if constexpr (requires { form.Form_Unload(); }) return [&form] { form.Form_Unload(); };
+    return {};
+}
+template <class S> std::function<void()> activate_of(S& form) {
+    if constexpr (requires { form.Form_Activate(); }) return [&form] { form.Form_Activate(); };
+    return {};
+}
+template <class S> constexpr bool shown_when_loaded() {
+    if constexpr (requires { S::shown_when_loaded; }) return S::shown_when_loaded;
+    return true;
+}
+
+} // namespace screen_events
+
+template <class S> Screen& Screens::load(const Running&) {
     auto made = std::make_unique<Screen>(typeid(S));
-    auto instance = std::make_shared<S>();
+    const auto instance = std::make_shared<S>();
     S& form = *instance;
     made->name = S::name;
     made->caption = Text(S::title);
     made->instance = instance;
     form.enumerate(made->map);
-    if constexpr (requires { form.Form_Unload(); }) made->unload_event = [&form] { form.Form_Unload(); };
-    if constexpr (requires { form.Form_Activate(); })
-        made->activate_event = [&form] { form.Form_Activate(); };
+    made->unload_event = screen_events::unload_of(form);
+    made->activate_event = screen_events::activate_of(form);
     if constexpr (requires { form.undo_delete(); }) {
         made->deletions = &form.deletions;
         made->undo_event = [&form] { form.undo_delete(); };
     }
-    // A screen may unload itself while it loads. Outside an event it is then destroyed when this returns, so
-    // whoever loads screens does so from within one.
-    Running running(*this);
     Screen& entered = enter(std::move(made));
-    if constexpr (requires { form.Form_Load(); }) {
-        try {
-            form.Form_Load();
-        } catch (...) {
-            if (find(typeid(S)) == &entered) unload(entered);
-            throw;
-        }
+    try {
+        screen_events::load(form);
+    } catch (...) {
+        unload(entered);
+        throw;
     }
-    bool shown = true;
-    if constexpr (requires { S::shown_when_loaded; }) shown = S::shown_when_loaded;
-    if (shown && find(typeid(S)) == &entered && !entered.visible) show(entered);
-    return form;
+    if (screen_events::shown_when_loaded<S>() && !entered.visible) show(entered);
+    return entered;
 }
 
 } // namespace twk

@@ -151,7 +151,8 @@ void Form12::analyse_body(PageAnalysis& page, const Text& html) {
     Text cuerpo = visible_text(html);
     std::int16_t words = 0;
     ignoring_faults([&] {
-        words = contar_palabras(cuerpo);
+        Text en_linea = Replace(cuerpo, vbCrLf, u" "); // a line end parts words, too
+        words = contar_palabras(en_linea);
         page.words = to_text(words);
     });
     KeywordCounts counts(keyword_set(), cuerpo);

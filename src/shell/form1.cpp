@@ -166,14 +166,16 @@ void Form1::Command4_Click() {
     if (pid_ != 0) say(u"Project " + project + u" deleted");
 }
 
-/// Empties and removes the folders in the project's folder, then that itself. Fault 75 before a file is
-/// touched for a name or a link that leads elsewhere, and at a folder that holds another one.
+/// Empties and removes the folders in the project's folder, then that itself. A name that no folder can bear
+/// is taken for a folder that is gone. Fault 75 before a file is touched for a link that leads elsewhere, and
+/// at a folder that holds another one.
 void Form1::delete_folder(const Text& project) {
-    const Fence fence(beside_program(u"Projects"), project);
-    if (!dir_exists(fence.folder())) {
+    const auto tell_gone = [] {
         MsgBox(u"The folder corresponding to this project no longer exist or it has been renamed.");
-        return;
-    }
+    };
+    if (!is_folder_name(project)) return tell_gone();
+    const Fence fence(beside_program(u"Projects"), project);
+    if (!dir_exists(fence.folder())) return tell_gone();
     Dir1.set_path(fence.folder());
     File1.set_pattern(u"*"); // names without a point, too
     const std::vector<Text> folders = Dir1.entries();

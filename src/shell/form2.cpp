@@ -230,8 +230,8 @@ bool Form2::store_new_project() {
     const Text project = txt_name[0].text();
     const Recordset same_name =
         base_datos_.OpenRecordset(u"SELECT * From Projects where name = '" + project + u"' ");
+    std::int16_t pid = 0; // none to be replaced
     if (!same_name.eof()) {
-        std::int16_t pid = 0;
         take_last_key(same_name, u"pid", pid);
         if (ask_before_loss(
                 u"There's another project named " + project +
@@ -241,9 +241,14 @@ bool Form2::store_new_project() {
                 u"Lost: the properties, keywords, content boxes and secondary hosts of " + project +
                     u"\nKept: the files in its folder") != Answer::ok)
             return false;
-        replace_project(pid);
     }
+    WriteTogether replaced(base_datos_); // never neither of the two
+    if (pid != 0) replace_project(pid);
     insert_project();
+    replaced.finish();
+    take_last_key(
+        base_datos_.OpenRecordset(u"select * from projects where name = '" + clean(txt_name[0]) + u"'"),
+        u"pid", module1().pid_actual);
     store_targets();
     return true;
 }
@@ -259,15 +264,12 @@ void Form2::replace_project(std::int16_t pid) {
 }
 
 void Form2::insert_project() {
-    const Text project = clean(txt_name[0]);
     base_datos_.Execute(
         u"insert into Projects ( name , site_name , site_url , title , category , description , "
         u"designer_name , designer_url )  values ( '" +
-        project + u"' , '" + clean(Text2[0]) + u"' , '" + preparar_texto(module1().url_sitio) + u"'  , '" +
-        clean(txt_dat[0]) + u"' , '" + clean(txt_dat[1]) + u"' ,  '" + clean(txt_dat[2]) + u"' , '" +
-        clean(Text7) + u"' , '" + preparar_texto(module1().url_webmaster) + u"' ) ");
-    take_last_key(base_datos_.OpenRecordset(u"select * from projects where name = '" + project + u"'"),
-                  u"pid", module1().pid_actual);
+        clean(txt_name[0]) + u"' , '" + clean(Text2[0]) + u"' , '" + preparar_texto(module1().url_sitio) +
+        u"'  , '" + clean(txt_dat[0]) + u"' , '" + clean(txt_dat[1]) + u"' ,  '" + clean(txt_dat[2]) +
+        u"' , '" + clean(Text7) + u"' , '" + preparar_texto(module1().url_webmaster) + u"' ) ");
 }
 
 /// Writes the whole row. A rename onto the name of another project is not looked for.

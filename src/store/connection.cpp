@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
+#include <cstdlib>
 #include <optional>
 #include <regex>
 #include <set>
@@ -28,7 +29,7 @@ std::string lower_case(std::string name) {
 }
 
 /// Lets through what the screens do: reading and changing rows of the nine tables.
-int authorize(void*, int action, const char* first, const char* second, const char*, const char*) {
+int authorize(void*, int action, const char* first, const char*, const char*, const char*) {
     static const std::set<std::string> tables{"projects", "keywords", "elements", "content", "ties",
                                               "host",     "host1",    "target",   "synonyms"};
     switch (action) {
@@ -42,8 +43,6 @@ int authorize(void*, int action, const char* first, const char* second, const ch
         const std::string table = lower_case(first != nullptr ? first : "");
         return table.empty() || tables.contains(table) ? SQLITE_OK : SQLITE_DENY;
     }
-    case SQLITE_PRAGMA: // no statement of a screen begins so
-        return std::string_view(first) == "data_version" && second == nullptr ? SQLITE_OK : SQLITE_DENY;
     default: return SQLITE_DENY;
     }
 }
@@ -83,21 +82,27 @@ void Connection::begin() {
 }
 
 void Connection::commit() {
-    const Statement keep = prepare_own("commit");
-    const Statement back = prepare_own("rollback");
-    const int code = sqlite3_step(keep.get());
-    if (code == SQLITE_DONE) return;
-    sqlite3_step(back.get());
+    const int code = sqlite3_exec(db_, "commit", nullptr, nullptr, nullptr);
+    if (code == SQLITE_OK) return;
+    rollback();
     fail(code);
 }
 
-void Connection::set_durable(bool each) {
-    // The store's own settings are none of the statements that the screens may run.
+void Connection::rollback() noexcept {
+    // A fault that ended the whole transaction has taken the writes back already.
+    if (sqlite3_get_autocommit(db_) == 0) sqlite3_exec(db_, "rollback", nullptr, nullptr, nullptr);
+}
+
+int Connection::settings(const char* sql, int (*each)(void*, int, char**, char**), void* into) {
     sqlite3_set_authorizer(db_, nullptr, nullptr);
-    const char* const settings =
-        each ? "PRAGMA synchronous = FULL; PRAGMA wal_checkpoint(PASSIVE)" : "PRAGMA synchronous = NORMAL";
-    const int code = sqlite3_exec(db_, settings, nullptr, nullptr, nullptr);
+    const int code = sqlite3_exec(db_, sql, each, into, nullptr);
     sqlite3_set_authorizer(db_, authorize, nullptr);
+    return code;
+}
+
+void Connection::set_durable(bool each) {
+    const int code = settings(each ? "PRAGMA synchronous = FULL; PRAGMA wal_checkpoint(PASSIVE)"
+                                   : "PRAGMA synchronous = NORMAL");
     if (code != SQLITE_OK) fail(code);
 }
 
@@ -145,9 +150,14 @@ Connection::Statement Connection::prepare(const Text& text) {
 }
 
 std::int64_t Connection::data_version() {
-    const Statement statement = prepare_own("pragma data_version");
-    step(statement.get());
-    return sqlite3_column_int64(statement.get(), 0);
+    std::int64_t version = 0;
+    const auto take = [](void* into, int, char** values, char**) {
+        *static_cast<std::int64_t*>(into) = std::atoll(values[0]);
+        return 0;
+    };
+    const int code = settings("pragma data_version", take, &version);
+    if (code != SQLITE_OK) fail(code);
+    return version;
 }
 
 int Connection::step(sqlite3_stmt* statement) {
@@ -179,12 +189,13 @@ void Connection::change(const Text& text) {
     step(statement.get());
 }
 
-/// Deletes the rows of both tables that the join matches, and no others, in one go.
+/// Deletes the rows of both tables that the join matches, and no others, in one go: one of its own, unless
+/// writes are held together already.
 void Connection::delete_joined(const JoinDelete& parts) {
     const std::string& a = parts.first;
     const std::string& b = parts.second;
-    const Statement back = prepare_own("rollback");
-    begin();
+    const bool own = sqlite3_get_autocommit(db_) != 0;
+    if (own) begin();
     try {
         const Statement matches = prepare_own("select " + a + ".rowid , " + b + ".rowid from " + a + " , " +
                                               b + " where " + parts.condition);
@@ -204,10 +215,10 @@ void Connection::delete_joined(const JoinDelete& parts) {
         remove(a, of_a);
         remove(b, of_b);
     } catch (...) {
-        sqlite3_step(back.get());
+        if (own) rollback();
         throw;
     }
-    commit();
+    if (own) commit();
 }
 
 void Connection::write_row(const std::string& table, std::int64_t row_id,

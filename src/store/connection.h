@@ -36,9 +36,11 @@ class Connection {
     Rows select(const Text& text);
     void change(const Text& text);
 
-    /// Holds the writes between them together. A commit that fails takes them back.
+    /// Hold the writes between them together. A commit that fails takes them back.
     void begin();
     void commit();
+    /// Takes the writes since `begin` back.
+    void rollback() noexcept;
 
     /// Whether each write is on the disk when its statement has returned, as at first. Turning it on again
     /// brings the writes since to the disk.
@@ -58,6 +60,8 @@ class Connection {
     Statement prepare(const Text& text);
     /// One that the store itself runs.
     Statement prepare_own(const std::string& sql);
+    /// Runs settings of the store, which are none of the statements that the authorizer lets through.
+    int settings(const char* sql, int (*each)(void*, int, char**, char**) = nullptr, void* into = nullptr);
     void delete_joined(const JoinDelete& parts);
     int step(sqlite3_stmt* statement);
     [[noreturn]] void fail(int code);

@@ -185,11 +185,7 @@ WriteTogether::WriteTogether(const Database& store) : connection_(store.connecti
 }
 
 WriteTogether::~WriteTogether() {
-    try {
-        finish();
-    } catch (const RuntimeFault&) {
-        // A fault is on its way already.
-    }
+    if (connection_) connection_->rollback();
 }
 
 void WriteTogether::finish() {

@@ -122,8 +122,8 @@ class BulkWrite {
 };
 
 /// Writes of which none may stand without the others: whenever the program ends, all of them are there or
-/// none. A fault among them leaves the earlier ones in force, as ever. Nothing else may run meanwhile: no
-/// message, no event.
+/// none. What has not been finished when it ends, after a fault for one, is taken back. Nothing else may run
+/// meanwhile: no message, no event.
 class WriteTogether {
   public:
     /// Fault 3260 when another process holds the store for more than five seconds.

@@ -82,11 +82,18 @@ TEST_F(HostileNames, StepOneMakesNoFolderElsewhere) {
 
 TEST_F(HostileNames, DeletingAProjectErasesNothingElsewhere) {
     take_pages_away();
+    app.run_unfenced("update Projects set name = 'link' where pid = 1");
+    EXPECT_EQ(fault_of_deleting(u"link"), fault_path_access);
+    EXPECT_EQ(app.count(u"select * from keywords where pid = 1"), 3);
+    // No folder can bear these: they are taken for one that is gone, and the rows go.
     for (const Text& name : {Text(u".."), Text(u"."), Text(u""), Text(u"../outside"), Text(u"..\\.."),
-                             Text(u"link"), Text(u"precious/main")}) {
-        app.run_unfenced("update Projects set name = '" + to_utf8(name) + "' where pid = 1");
-        EXPECT_EQ(fault_of_deleting(name), fault_path_access) << to_utf8(name);
-        EXPECT_EQ(app.count(u"select * from keywords where pid = 1"), 3) << to_utf8(name);
+                             Text(u"precious/main"), long_name}) {
+        app.run_unfenced("insert or replace into Projects (pid, name) values (1, '" + to_utf8(name) +
+                         "'); insert into keywords (pid, keyword) values (1, 'roof');");
+        EXPECT_EQ(fault_of_deleting(name), 0) << to_utf8(name);
+        EXPECT_EQ(app.desktop.last_message(),
+                  u"The folder corresponding to this project no longer exist or it has been renamed.");
+        EXPECT_EQ(app.count(u"select * from keywords where pid = 1"), 0) << to_utf8(name);
     }
 }
 

@@ -47,6 +47,10 @@ TEST(MainDirectory, MustBeTypedAndIsSavedAtNext) {
     refused(u"http://Other.com ", u"Main host can't be the same as Other Host!");
 
     step.app.run(u"insert into host1 ( pid , host ) values ( " + step.pid + u" , 'http://old.com' )");
+    step.form().Text2.text = u"http://o'hara.com";
+    step.app.desktop.expect(u"Run-time error '3075'");
+    EXPECT_FALSE(screens().fire<Form7>("Command1", "Click"));
+    EXPECT_EQ(step.app.value(u"select * from host1", u"host"), u"http://old.com");
     step.form().Text2.text = u" http://tea.com/pages ";
     step.next();
     EXPECT_EQ(step.app.value(u"select * from host1 where pid = " + step.pid, u"host"),

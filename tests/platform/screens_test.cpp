@@ -96,6 +96,13 @@ TEST_F(ScreensTest, MayUnloadThemselvesDuringTheirOwnEvent) {
     EXPECT_EQ(unloads, 1);
     screens().dispatch([] { screen<Hasty>(); });
     EXPECT_FALSE(screens().is_loaded<Hasty>());
+    desktop.on_modal = [](const Screen&) { FAIL() << "there is nothing to wait for"; };
+    screens().show<Hasty>(); // outside an event, too
+    screens().show_modal<Hasty>();
+    screens().bring_forward<Hasty>();
+    EXPECT_FALSE(screens().fire<Hasty>("Command", "Click"));
+    EXPECT_EQ(fault_of([] { screen<Hasty>(); }), fault_internal);
+    EXPECT_FALSE(screens().is_loaded<Hasty>());
 }
 
 TEST_F(ScreensTest, AreNotClosedByTheUserWhileTheyAreHeld) {

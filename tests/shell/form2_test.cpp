@@ -153,6 +153,33 @@ TEST(StepOneNext, ReplacesAProjectOfTheSameNameOnlyWhenTold) {
     EXPECT_EQ(step.app.value(u"select * from keywords where pid = " + old, u"keyword"), u"lonely");
 }
 
+TEST(StepOneNext, AStatementThatBreaksLeavesWhatWasStored) {
+    StepOne step;
+    step.form().List1.add_item(u"http://tea.com/c.htm");
+    step.next();
+    step.app.run(u"insert into keywords ( pid , keyword ) values ( 1 , 'parent' )");
+    step.app.run(u"insert into elements ( catid , element ) values ( 1 , 'child' )");
+    const std::string rows = step.app.all_rows();
+    screens().unload<Form2>();
+    module1().pid_actual = 0;
+    step.fill(u"tea");
+    step.form().Text7.text = u"O'Hara";
+    step.app.desktop.expect(u"Do you want to replace it?"); // the old project is not lost to the new one
+    step.app.desktop.expect(u"Run-time error '3075'");
+    step.next();
+    EXPECT_EQ(module1().pid_actual, 0);
+    EXPECT_EQ(step.app.all_rows(), rows);
+
+    module1().pid_actual = 1;
+    module1().proyecto_actual = u"tea";
+    step.form().Text7.text = u"";
+    step.form().txt_url[2].text = u"http://"; // the row is written as it was
+    step.form().List1.add_item(u"http://tea.com/o'hara");
+    step.app.desktop.expect(u"Run-time error '3075'");
+    step.next();
+    EXPECT_EQ(step.app.all_rows(), rows);
+}
+
 TEST(StepOneNext, ARenameKeepsTheOldFolder) {
     StepOne step;
     step.next();

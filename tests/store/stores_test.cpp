@@ -113,9 +113,9 @@ TEST(WriteTogether, StandsWhollyOrNotAtAll) {
     EXPECT_EQ(app.value(u"select * from keywords", u"keyword"), u"old");
     replace(u"newer");
     EXPECT_EQ(app.count(u"select * from keywords where pid = 1"), 2);
-    // A fault leaves what was written before it, and the store free.
+    // A fault takes back what was written before it, and leaves the store free.
     EXPECT_EQ(fault_of([&] { replace(u"it's"); }), fault_statement);
-    EXPECT_EQ(app.count(u"select * from keywords where pid = 1"), 1);
+    EXPECT_EQ(app.count(u"select * from keywords where pid = 1"), 2);
     app.run(keyword_of(1, u"last"));
     EXPECT_EQ(fault_of([] { WriteTogether(Database{}); }), fault_store);
 }
