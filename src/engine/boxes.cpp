@@ -56,6 +56,9 @@ void measure_boxes(Boxes& boxes, Project& project, const PageChoices& choices) {
     for (Recordset rows = project.base_datos.OpenRecordset(u"select * from content where pid = " +
                                                            to_text(choices.project_key()));
          !rows.eof(); rows.MoveNext(), ++i) {
+        if (i >= max_boxes)
+            throw told_fault(fault_subscript, u"The project has more than " + to_text(max_boxes) +
+                                                  u" content boxes; so many or fewer in Step 3 would do.");
         Text& kept = at(boxes.contenidos, i);
         Text raw = rows.Fields(u"content").text();
         Text t = limpiar_html(raw);

@@ -47,7 +47,8 @@ Text linking_sentence(const PageChoices& choices, const Text& keyword) {
     if (std::none_of(sentences.begin(), sentences.begin() + sentences_in_use, filled))
         throw RuntimeFault(
             fault_project_lacks,
-            u"The settings hold no sentence to insert: the first ten entries of 6.c are empty.");
+            u"The settings hold no sentence to insert: the first ten entries of 6.c are empty. One with *LINK* "
+            u"in it would do.");
     for (;;) {
         const int a = xrnum(sentences_in_use);
         Text f =
@@ -59,6 +60,21 @@ Text linking_sentence(const PageChoices& choices, const Text& keyword) {
 
 } // namespace
 
+int box_density(const PageChoices& choices) {
+    const Text& typed = choices.keyword_density();
+    try {
+        return CInt(typed);
+    } catch (const RuntimeFault& fault) {
+        const Text told =
+            trim_view(typed).empty()
+                ? Text(
+                      u"is empty; choose an entry, or type a whole number from 1 to 50. An entry that was typed "
+                      u"and is not in the list is not saved with the settings.")
+                : u"is \"" + typed + u"\"; a whole number from 1 to 50 would do.";
+        throw told_fault(fault.number(), u"\"Keyword Density (aprox.) for content boxes\" (3.a) " + told);
+    }
+}
+
 Text recalcular(Run& run, const Text& texto, const Text& keyword) {
     PageChoices& choices = run.choices;
     Text t = texto;
@@ -67,7 +83,7 @@ Text recalcular(Run& run, const Text& texto, const Text& keyword) {
     if (choices.grow_short_texts()) t = pocas_palabras(run.boxes, run.settings, t);
     if (choices.cut_long_texts()) t = muchas_palabras(run, t);
     if (!trim_view(t).empty()) {
-        const int d = CInt(choices.keyword_density());
+        const int d = box_density(choices);
         Text s = u"<p>" + t + u"<p>";
         t = Ajustar_KW(choices, s, keyword, d);
         replace_all(t, u"...-", u"...");
@@ -92,6 +108,11 @@ Text muchas_palabras(Run& run, Text& texto) {
     if (contar_palabras(texto) <= run.settings.max_palabras) return texto;
     const Text recortado = Trim(texto);
     const std::vector<TextView> piezas = split_views(recortado);
+    if (std::ssize(piezas) < kept_pieces)
+        throw told_fault(fault_subscript,
+                         u"The setting 1.b is " + to_text(run.settings.max_palabras) +
+                             u", and a text with more words is cut to its first 500: it has fewer. 500 or "
+                             u"more would do, or \"Decrease content (word count) if necessary?\" (3.c) off.");
     texto.clear();
     for (int i = 0; i < kept_pieces; ++i) texto.append(1, u' ').append(at(piezas, i));
     texto = Trim(texto);

@@ -13,6 +13,9 @@ struct GatewaySettings;
 struct Project;
 struct Run;
 
+/// The density that Step 5 asks for, in per cent. Faults 6 and 13, naming the control, for what is none.
+int box_density(const PageChoices& choices);
+
 /// The driver: grows a short text, moves a long one to a read-more page, spreads the linking sentences, and
 /// limits repetitions, each as Step 5 says. Faults 6, 9 and 13 come out; 1001 when the sentences of the
 /// settings are all empty.

@@ -15,6 +15,8 @@
 #include "platform/numbers.h"
 #include "platform/subscript.h"
 
+#include <algorithm>
+
 namespace twk {
 
 namespace {
@@ -79,6 +81,19 @@ int chosen_box(const Boxes& boxes, int k) {
 }
 
 } // namespace
+
+bool first_level_reads_density(Run& run) {
+    const auto blank = [](const Text& box) { return trim_view(box).empty(); };
+    const auto& boxes = run.boxes.contenidos;
+    if (std::any_of(boxes.begin(), boxes.begin() + run.boxes.ultima_caja + 1, blank))
+        return false; // a page may draw it
+    if (run.choices.fit_tied_texts()) return true;
+    int k = 0;
+    do
+        if (!tied_text(run, run.project.tabla_kw.at(k))) return true;
+    while (!run.project.tabla_kw.at(++k).empty());
+    return false;
+}
 
 void first_level_pages(Run& run) {
     run.indice_kw = 0;

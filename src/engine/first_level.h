@@ -10,6 +10,9 @@ struct Run;
 /// Phase 1: a page per keyword in the main folder.
 void first_level_pages(Run& run);
 
+/// Whether some page of the phase is certain to be fitted to the density that Step 5 asks for.
+bool first_level_reads_density(Run& run);
+
 /// The list of all first-level pages.
 Text TP1_linktoprimary(const Run& run);
 

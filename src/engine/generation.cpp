@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/generation.h"
 
+#include "engine/density.h"
 #include "engine/first_level.h"
 #include "engine/hallway.h"
 #include "engine/page_names.h"
@@ -54,6 +55,18 @@ bool list_pictures(PageChoices& choices) {
     if (pictures.size() >= 3) return true;
     MsgBox(folder + u" Must have more than 3 images (*.gif or *.jpg)");
     return false;
+}
+
+/// The faults that the pages are certain to end in, while the old ones still stand: 1001 for what the project
+/// lacks, 6 and 13 for a density that is none.
+void check_before_erasing(Run& run) {
+    if (run.boxes.ultima_caja < 0)
+        throw RuntimeFault(
+            fault_project_lacks,
+            u"The project has no content boxes: there is nothing to write on its pages. One in "
+            u"Step 3 would do.");
+    if (first_level_reads_density(run)) box_density(run.choices);
+    check_hallway(run);
 }
 
 void rebuild_output(Run& run) {
@@ -118,6 +131,7 @@ void run_all(Run& run) {
     run.page.written = [&run] { run.report.page_written(); };
     run.report.begin(run.project);
     measure_boxes(run.boxes, run.project, run.choices);
+    check_before_erasing(run);
     rebuild_output(run);
     if (!list_pictures(run.choices)) return;
     run_phases(run);

@@ -50,24 +50,51 @@ void fill_places(const Run& run, Text& text) {
 
 void write_from_template(Run& run) {
     Text text = read_template(run);
-    fill_places(run, text);
+    try {
+        fill_places(run, text);
+    } catch (const RuntimeFault& fault) {
+        const bool rows = fault.number() == fault_subscript;
+        if (!rows && fault.number() != fault_argument) throw;
+        throw told_fault(
+            fault.number(),
+            u"The hallway template " + run.choices.own_hallway() +
+                (rows ? Text(u" has more places for keywords than the project has keywords; as many "
+                             u"would do.")
+                      : u" has a \"" + Text(closing) +
+                            u"\" that has none of the opening ones in front, or ends the page; pairs "
+                            u"with a line behind them would do."));
+    }
     for (const TextView line : split_views(text, trim_view(line_mark))) run.page.writeline(line);
+}
+
+const Text& box_to_draw(const Boxes& boxes, int b) {
+    static const Text none;
+    return b < max_boxes ? boxes.box(b) : none;
+}
+
+void require_box(const Boxes& boxes, int n_keywords) {
+    for (int b = 1; b <= n_keywords; ++b)
+        if (!box_to_draw(boxes, b).empty()) return;
+    throw RuntimeFault(fault_project_lacks,
+                       u"The project needs a second content box with text for the links of the hallway "
+                       u"page to its other targets.");
 }
 
 /// A box between 1 and the number of keywords; drawn again while it is empty, as all past the last are.
 const Text& drawn_box(const Boxes& boxes, int n_keywords) {
-    static const Text none;
-    const auto box = [&](int b) -> const Text& { return b < max_boxes ? boxes.box(b) : none; };
-    bool any = false;
-    for (int b = 1; b <= n_keywords && !any; ++b) any = !box(b).empty();
-    if (!any)
-        throw RuntimeFault(fault_project_lacks,
-                           u"The project needs a second content box with text for the links of the hallway "
-                           u"page to its other targets.");
+    require_box(boxes, n_keywords);
     int b = 0;
     do b = static_cast<int>(Int(chance().Rnd() * n_keywords + 1));
-    while (box(b).empty());
-    return box(b);
+    while (box_to_draw(boxes, b).empty());
+    return box_to_draw(boxes, b);
+}
+
+/// The short list of first-level pages begins at a drawn row.
+void require_row(const Run& run) {
+    if (run.project.n_keywords <= 1 && !run.choices.link_all_from_hallway())
+        throw RuntimeFault(fault_project_lacks,
+                           u"The project has one keyword only: the hallway page needs a second one, or the "
+                           u"links to all first-level pages.");
 }
 
 /// The row of the short list of first-level pages. Without a second keyword none can be drawn, which matters
@@ -75,14 +102,8 @@ const Text& drawn_box(const Boxes& boxes, int n_keywords) {
 int drawn_row(const Run& run) {
     int r = 1;
     const int n_keywords = run.project.n_keywords;
-    if (n_keywords <= 1) {
-        if (!run.choices.link_all_from_hallway())
-            throw RuntimeFault(
-                fault_project_lacks,
-                u"The project has one keyword only: the hallway page needs a second one, or the "
-                u"links to all first-level pages.");
-        return r;
-    }
+    require_row(run);
+    if (n_keywords <= 1) return r;
     while (run.project.tabla_kw.at(r).empty()) r = static_cast<int>(Int(chance().Rnd() * n_keywords + 1));
     return r;
 }
@@ -172,6 +193,12 @@ void write_generated(Run& run) {
 }
 
 } // namespace
+
+void check_hallway(const Run& run) {
+    if (run.choices.use_own_hallway()) return;
+    if (!run.choices.other_targets().empty()) require_box(run.boxes, run.project.n_keywords);
+    require_row(run);
+}
 
 void hallway_page(Run& run) {
     run.report.status(u"Generating Site-Map");

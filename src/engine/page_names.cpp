@@ -8,23 +8,62 @@
 #include "engine/plan.h"
 #include "engine/project.h"
 #include "engine/text_toolkit.h"
+#include "platform/faults.h"
 #include "platform/module1.h"
 #include "platform/numbers.h"
 #include "platform/subscript.h"
 
+#include <limits>
 #include <unordered_set>
 
 namespace twk {
 
 namespace {
 
-/// S: every (S + 1)th page redirects. -1 when none does.
-int redirect_step(int total, int share) {
+constexpr TextView share_name =
+    u"\"Random pages using automatic Javacript redirection to the target site\" (2.b) is ";
+
+/// S: every (S + 1)th page redirects. -1 when none does. `share` is in per cent.
+int redirect_step(int total, double share) {
     if (share == 0) return -1;
     if (total == 0) return 0;
-    const double f = Int(static_cast<double>(total) * share / 100);
-    if (f == 0) throw RuntimeFault(fault_division);
+    const double f = Int(total * share / 100);
+    if (f == 0)
+        throw told_fault(fault_division, Text(share_name) + to_text(share) + u" % of " + to_text(total) +
+                                             u" pages, which is less than one page; " +
+                                             to_text((100 + total - 1) / total) +
+                                             u" or more would do, or 0.");
     return CInt((total - f) / f);
+}
+
+int redirect_step(const PageChoices& choices, int total) {
+    const Text& typed = choices.redirecting_share();
+    try {
+        return redirect_step(total, Int(Val(typed)));
+    } catch (const RuntimeFault& fault) {
+        if (fault.number() != fault_overflow) throw;
+        throw told_fault(fault_overflow,
+                         Text(share_name) + u"\"" + typed + u"\"; a number from 0 to 100 would do.");
+    }
+}
+
+/// How many random pages the settings say; infinity when that is too much to be held.
+double typed_pages(const PageChoices& choices) {
+    try {
+        return Int(Val(choices.random_pages()));
+    } catch (const RuntimeFault&) {
+        return std::numeric_limits<double>::infinity();
+    }
+}
+
+/// The same as the run counts them. Faults that name the setting: 6 outside 16 bits, 9 below 0.
+int wanted_pages(const PageChoices& choices) {
+    const double pages = typed_pages(choices);
+    const bool fits = pages >= -32768 && pages <= 32767;
+    if (fits && pages >= 0) return static_cast<int>(pages);
+    throw told_fault(fits ? fault_subscript : fault_overflow,
+                     u"\"How many random pages?\" (2.a) is \"" + choices.random_pages() +
+                         u"\"; a whole number from 0 to 32766 would do.");
 }
 
 /// Position 0 from the front, 1 from the end, 2 from the front ...: with an even count some names double and
@@ -38,9 +77,8 @@ void reorder(std::vector<Text>& names, std::size_t count) {
 } // namespace
 
 void build_page_names(Plan& plan, const Project& project, const PageChoices& choices) {
-    const int total = CInt(Int(Val(choices.random_pages())));
-    if (total < 0) throw RuntimeFault(fault_subscript);
-    const int s = redirect_step(total, static_cast<int>(Int(Val(choices.redirecting_share()))));
+    const int total = wanted_pages(choices);
+    const int s = redirect_step(choices, total);
     if (project.n_terminos == 0)
         throw RuntimeFault(fault_project_lacks,
                            u"The project has no keywords: there is nothing to name the pages after.");
@@ -71,7 +109,7 @@ void build_page_names(Plan& plan, const Project& project, const PageChoices& cho
 void distribute_pages(Plan& plan, const PageChoices& choices) {
     const std::vector<Text>& hosts = choices.secondary_hosts();
     const auto h = static_cast<int>(hosts.size());
-    const int total = CInt(Int(Val(choices.random_pages())));
+    const int total = wanted_pages(choices);
     plan.paginas_host = CInt(Int(h > 0 ? static_cast<double>(total) / (h + 1) : total));
     plan.paginas.assign(static_cast<std::size_t>(plan.n_nombres) + 1, {});
     int n = 0;
@@ -99,7 +137,7 @@ bool offer_page_names(Plan& plan, const PageChoices& choices) {
     form17.project_name = Trim(choices.project_name());
     form17.List1.clear();
     form17.List2.clear();
-    const int shown = static_cast<int>(Int(Val(choices.random_pages())));
+    const int shown = wanted_pages(choices);
     for (int n = 0; n < shown; ++n) {
         const PlannedPage& page = at(plan.paginas, n);
         if (trim_view(page.name).empty()) continue;

@@ -74,6 +74,10 @@ void read_keywords(Project& project, const PageChoices& choices) {
     for (Recordset keywords = project.base_datos.OpenRecordset(u"select * from keywords where pid = " +
                                                                to_text(choices.project_key()));
          !keywords.eof(); keywords.MoveNext(), ++row) {
+        if (row >= project.tabla_kw.rows())
+            throw told_fault(fault_subscript,
+                             u"The project has more keywords than Step 2 shows; opening it anew "
+                             u"from the project list would do.");
         project.tabla_kw.cell(row) = keywords.Fields(u"keyword").text();
         const int read = read_elements(project, row, CInt(keywords.Fields(u"keyid").number()));
         project.total_terminos += read + 1;

@@ -23,6 +23,13 @@ namespace {
 /// So many occurrences stay, whatever the settings say.
 constexpr int kept_occurrences = 15;
 
+/// Fault 5 for a count of occurrences from which so many cannot be kept.
+void check_surplus(const GatewaySettings& s, int found) {
+    if (found - kept_occurrences < -1)
+        throw told_fault(fault_argument, u"The setting 1.c (most occurrences of a keyword) is " +
+                                             to_text(s.max_repeticiones) + u"; 15 or more would do.");
+}
+
 /// Leaves the subkeyword as the count of its words does, for all that follows on the page.
 void write_title(Run& run, Text& sub) {
     const GatewaySettings& s = run.settings;
@@ -80,7 +87,10 @@ int hidden_box(const Boxes& boxes, int bound) {
     const auto empty = [&](int b) { return b >= max_boxes || boxes.box(b).empty(); };
     bool any = !empty(0);
     for (int b = 1; b < bound && !any; ++b) any = !empty(b);
-    if (!any) throw RuntimeFault(fault_project_lacks, u"All content boxes that a page could draw are empty.");
+    if (!any)
+        throw RuntimeFault(
+            fault_project_lacks,
+            u"All content boxes that a page could draw are empty; one with text in Step 3 would do.");
     int b = 0;
     do b = static_cast<int>(Int(chance().Rnd() * bound));
     while (empty(b));
@@ -146,8 +156,10 @@ void write_content_block(SecondLevelPage& sub, bool split_sentences, bool count_
     DoEvents();
     // The subkeyword is lower case from here on.
     const std::int16_t n = contar_kw(texto_pagina, sub.subkw_actual);
-    if (!sub.subkw_actual.empty() && n >= s.max_repeticiones && run.choices.limit_repetitions())
+    if (!sub.subkw_actual.empty() && n >= s.max_repeticiones && run.choices.limit_repetitions()) {
+        check_surplus(s, n);
         replace_last(texto_pagina, sub.subkw_actual, s.kw_sustituto, n - kept_occurrences);
+    }
     run.report.status(u"Updating Second-Level Page");
     DoEvents();
     if (count_file) ++run.cuenta_archivos;

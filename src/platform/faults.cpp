@@ -37,6 +37,10 @@ RuntimeFault::RuntimeFault(int number, Text text)
 
 RuntimeFault::RuntimeFault(int number) : RuntimeFault(number, Text(usual_text(number))) {}
 
+RuntimeFault told_fault(int number, TextView sentence) {
+    return {number, Text(sentence) + u"\n" + Text(usual_text(number))};
+}
+
 Text fault_message(const RuntimeFault& fault) {
     Text message = fault.advice;
     if (!message.empty()) message += u"\n\n";

@@ -68,6 +68,10 @@ template <class Step> void stepping_over(Step step) {
     }
 }
 
+/// A fault that the user can do something about: one sentence that names what is wrong and what would do, in
+/// front of the usual text of the number.
+RuntimeFault told_fault(int number, TextView sentence);
+
 /// "Run-time error 'N':", a blank line and the text, below the advice, when there is one; then the stage and
 /// the page, when there are any.
 Text fault_message(const RuntimeFault& fault);

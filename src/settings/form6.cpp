@@ -92,8 +92,13 @@ namespace {
 
 /// The number of random pages must be even.
 void make_even(ComboBox& how_many) {
-    const double pages = Val(how_many.text());
-    if (pages / 2 != Round(pages / 2) && pages > 0) how_many.text = to_text(CInt(Int(pages - 1)));
+    try {
+        const double pages = Val(how_many.text());
+        if (pages / 2 != Round(pages / 2) && pages > 0) how_many.text = to_text(CInt(Int(pages - 1)));
+    } catch (const RuntimeFault& fault) {
+        throw told_fault(fault.number(), u"\"How many random pages?\" (2.a) is \"" + how_many.text() +
+                                             u"\"; a whole number from 0 to 32766 would do.");
+    }
 }
 
 /// A name that leads elsewhere gets no settings file; the run will stop at its folder.

@@ -172,6 +172,33 @@ void load_line(Form6& form, const Key& key, const Text& raw) {
     }
 }
 
+/// What a line of the key may hold, for the user whose line could not be read.
+TextView usable_value(const Key& key, int fault) {
+    if (fault == fault_subscript) return u"no more than 11 entries would do";
+    const int* const record = std::get_if<int>(&key.target);
+    if (key.load == Load::number || (record != nullptr && *record == 1))
+        return u"whole numbers from -32768 to 32767 would do";
+    return u"0 or 1 would do";
+}
+
+/// Loads every line of the file that has a key. The faults of a value name file, line and what would do.
+void load_lines(Form6& form, TextStream& file) {
+    for (int number = 1; !file.AtEndOfStream(); ++number) {
+        const Text line = file.readline();
+        if (trim_view(line).empty() || line.starts_with(u'#')) continue;
+        for (const Key& key : key_table()) {
+            if (!line.starts_with(key.key)) continue;
+            try {
+                load_line(form, key, line);
+            } catch (const RuntimeFault& fault) {
+                throw told_fault(fault.number(), u"Line " + to_text(number) + u" of " + file.path() +
+                                                     u" cannot be used: " + Left(line, 200) + u" - " +
+                                                     Text(usable_value(key, fault.number())) + u".");
+            }
+        }
+    }
+}
+
 } // namespace
 
 void tomar_de_dat(Form6& form, const Text& nombre) {
@@ -186,12 +213,7 @@ void tomar_de_dat(Form6& form, const Text& nombre) {
         return;
     }
     const TextStreamPtr stream = fso.OpenTextFile(nombre, OpenMode::reading);
-    while (!stream->AtEndOfStream()) {
-        const Text line = stream->readline();
-        if (trim_view(line).empty() || line.starts_with(u'#')) continue;
-        for (const Key& key : key_table())
-            if (line.starts_with(key.key)) load_line(form, key, line);
-    }
+    load_lines(form, *stream);
     stream->Close();
     screens().record<Form6>().caption = u"Step 5 of 6 - Gateway Generation - Using " + nombre;
     if (by_user) MsgBox(u".dat Loaded");

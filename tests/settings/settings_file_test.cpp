@@ -63,6 +63,24 @@ TEST_F(SettingsFile, is_written_in_the_order_of_its_keys_with_its_own_forms) {
     EXPECT_FALSE(app.exists(u"saved.dataux"));
 }
 
+TEST_F(SettingsFile, names_file_number_and_text_of_a_line_that_cannot_be_used) {
+    const std::pair<std::string_view, const char16_t*> lines[] = {
+        {"1.b = abc",
+         u"'13':\n\nLine 3 of {} cannot be used: 1.b = abc - whole numbers from -32768 to 32767 would do.\nType"},
+        {"1.b = 32768", u"'6':\n\nLine 3 of {} cannot be used: 1.b = 32768 - whole numbers"},
+        {"6.a = 1 ; x", u"'13':\n\nLine 3 of {} cannot be used: 6.a = 1 ; x - whole numbers"},
+        {"6.b = 1;2;3;4;5;6;7;8;9;0;1;2",
+         u"'9':\n\nLine 3 of {} cannot be used: 6.b = 1;2;3;4;5;6;7;8;9;0;1;2 - no more than 11 entries would do."},
+        {"8.a = on", u"'13':\n\nLine 3 of {} cannot be used: 8.a = on - 0 or 1 would do."},
+    };
+    form().carga_inicial = false;
+    for (const auto& [line, told] : lines) {
+        app.write(u"test.dat", "1.a = 7\r\n# a comment\r\n" + std::string(line) + "\r\n");
+        app.desktop.expect(Replace(told, u"{}", app.path(u"test.dat")));
+        EXPECT_FALSE(screens().dispatch([&] { tomar_de_dat(form(), app.path(u"test.dat")); })) << line;
+    }
+}
+
 TEST_F(SettingsFile, loses_on_its_way_out_and_back_what_the_two_do_not_share) {
     ASSERT_EQ(load(all_keys), 0);
     GatewaySettings& settings = form().settings;
