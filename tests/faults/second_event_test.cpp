@@ -192,6 +192,7 @@ struct World {
         Form5& step3 = screen<Form5>();
         step3.List1.list_index = 1;
         step3.List1_Click();
+        screen<Form6>(); // may have been closed in the start before
         screen<Form7>();
         screen<Form12>();
         screen<Form19>();
