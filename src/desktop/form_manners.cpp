@@ -88,8 +88,11 @@ void FormManners::open_form() {
     const bool left_before = std::exchange(opened_, true) || times_focus_given() != wishes_before_;
     if (QWidget* const left = form_.focusWidget(); left_before && can_have_focus(left))
         left->setFocus(Qt::OtherFocusReason);
-    else if (QWidget* const first = first_field(form_))
+    else if (QWidget* const first = first_field(form_)) {
         first->setFocus(Qt::TabFocusReason);
+        if (auto* const line = qobject_cast<QLineEdit*>(first))
+            line->selectAll(); // it may have had the focus
+    }
 }
 
 void FormManners::open_frame(QWidget& frame) {

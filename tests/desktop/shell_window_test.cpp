@@ -95,25 +95,6 @@ TEST_F(Shell, EscClosesSideScreensAndCtrlF4WhateverIsInFront) {
     EXPECT_TRUE(part<QTreeWidget>("start_projects")->isVisible());
 }
 
-TEST_F(Shell, NoScreenNeedsAScrollBarInASmallWindow) {
-    qt.window().resize(1024, 640);
-    test::show_every_screen();
-    screens().dispatch([] {
-        for (Frame* each : {&screen<Form3>().Frame1, &screen<Form3>().Frame2, &screen<Form3>().Frame3,
-                            &screen<Form17>().Frame1, &screen<Form17>().Frame2, &screen<Form20>().Frame4})
-            each->visible = true;
-    });
-    for (ScreenWindow* window : qt.window().windows()) {
-        window->open();
-        User::settle();
-        const auto* const area = static_cast<FormArea*>(window->layout()->itemAt(0)->widget());
-        const QSize lacking = area->widget()->size() - area->viewport()->size();
-        EXPECT_TRUE(lacking.width() <= 0 && lacking.height() <= 0)
-            << window->objectName().toStdString() << " lacks " << lacking.width() << " by "
-            << lacking.height();
-    }
-}
-
 TEST_F(Shell, ThePanelOpenedLastIsInFrontAndTheFocusBringsAnotherForward) {
     test::show_each<Form2, Form3>();
     screens().dispatch([] {
