@@ -109,9 +109,10 @@ void ListBox::clear() {
 }
 
 void ListBox::set_entries(std::vector<Text> entries) {
+    const bool as_many = entries.size() == entries_.size();
     const int before = list_count();
     entries_ = std::move(entries);
-    if (list_count() != before) {
+    if (!as_many) {
         marks_.assign(entries_.size(), false);
         list_index.from_user(-1);
     }

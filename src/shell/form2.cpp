@@ -181,7 +181,7 @@ void Form2::Command2_Click() {
 }
 
 Form2::Refusal Form2::first_refusal() {
-    if (Text name = site_name_refusal(); !name.empty()) return {std::move(name), &Text2[0]};
+    if (Text project = site_name_refusal(); !project.empty()) return {std::move(project), &Text2[0]};
     if (Refusal field = field_refusal(); !field.message.empty()) return field;
     if (Text address = address_refusal(); !address.empty()) return {std::move(address), &txt_url[0]};
     return {slash_refusal(), &txt_url[0]};
