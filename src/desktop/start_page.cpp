@@ -84,7 +84,7 @@ StartPage::StartPage()
 
     connect(projects_, &QTreeWidget::itemActivated, this, [this] { open_selected(); });
     connect(projects_, &QTreeWidget::currentItemChanged, this,
-            [this](QTreeWidgetItem* current) { open_->setEnabled(current != nullptr); });
+            [this](const QTreeWidgetItem* current) { open_->setEnabled(current != nullptr); });
     connect(open_, &QPushButton::clicked, this, [this] { open_selected(); });
     connect(new_, &QPushButton::clicked, this, &StartPage::new_project_wanted);
     connect(sample_, &QPushButton::clicked, this,

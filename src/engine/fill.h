@@ -14,6 +14,7 @@ void a_fragment_names_each_of_its_values_and_no_other();
 /// The literal of a piece with places for so many values, each of them named once or more.
 template <std::size_t Values> class Fragment {
   public:
+    // cppcheck-suppress noExplicitConstructor ; a literal is meant to become one
     template <std::size_t Size> consteval Fragment(const char16_t (&html)[Size]) : html_(html, Size - 1) {
         bool named[Values + 1] = {};
         for (std::size_t at = 0; at < html_.size(); ++at) {

@@ -199,8 +199,9 @@ class Screens {
     /// The record, loaded or not any more: it lasts as long as `running`.
     template <class S> Screen& load(const Running& running);
     template <class S> Screen& record(const Running& running) {
-        Screen* const loaded = find(typeid(S));
-        return loaded != nullptr ? *loaded : load<S>(running);
+        // cppcheck-suppress constVariable ; it is returned as one that can be changed
+        if (Screen* const loaded = find(typeid(S))) return *loaded;
+        return load<S>(running);
     }
     /// The same record, if it outlives the call that loaded it; otherwise fault 51.
     Screen& lasting(Screen& screen) const;
