@@ -27,7 +27,8 @@ void store_project(TempApp& app, int keywords, int boxes) {
             u"designer_name , designer_url )  values ( 'shed' , 'OakShed' , 'http://o.example' , 's' , 'c' , "
             u"'d' , '' , '' )");
     for (int i = 0; i < keywords; ++i)
-        app.run(u"insert into keywords (pid, keyword) values ( 1 , 'oak shed " + Text(1, u'a' + i) + u"')");
+        app.run(u"insert into keywords (pid, keyword) values ( 1 , 'oak shed " +
+                Text(1, static_cast<char16_t>(u'a' + i)) + u"')");
     for (int i = 0; i < boxes; ++i)
         app.run(u"insert into content ( pid , content ) values ( 1 , 'some text' ) ");
 }

@@ -23,11 +23,12 @@ void put_store(const TempApp& app, const std::string& name) {
     app.write(u"hive.mdb", bytes_of(std::filesystem::path(TEST_OLD_STORES_DIR) / name));
 }
 
-/// Opens the store in yet another form, one that both libraries know.
+/// Opens the store in yet another form, one that both libraries know. Its pages are as large as the usual
+/// ones: 3.4 reads past the end of a smaller page when a broken-off change is undone with the wrong key.
 sqlite3* open_foreign(const std::string& file, int flags = SQLITE_OPEN_READWRITE) {
     sqlite3* db = nullptr;
     sqlite3_open_v2(file.c_str(), &db, flags, nullptr);
-    run_own(db, "PRAGMA key = " + quoted(key) + "; PRAGMA cipher_page_size = 1024; PRAGMA kdf_iter = 4000");
+    run_own(db, "PRAGMA key = " + quoted(key) + "; PRAGMA cipher_page_size = 4096; PRAGMA kdf_iter = 5000");
     return db;
 }
 
