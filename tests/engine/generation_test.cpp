@@ -134,6 +134,38 @@ TEST_F(GenerationRun, fault_in_a_later_phase_bears_its_stage) {
     EXPECT_EQ(project.run().cuenta1, 3);
 }
 
+TEST_F(GenerationRun, the_count_of_a_title_respaces_its_words_for_the_rest_of_the_page) {
+    test::SampleContent content;
+    content.site_name = u"SPA";
+    content.keywords[0] = {u"sheds<oak", {u"Cart  Rent Of"}};
+    test::SampleProject project(app, content);
+    project.form.Check12.value = true;
+    project.form.settings.palabras_extracto = 3;
+    project.form.settings.palabras_minimas = 4;
+    project.form.settings.meta_title = 1;
+    int reported = 0;
+    app.desktop.on_events = [&] { // a page that is whole is no longer under way
+        if (!screens().is_loaded<Form12>() || !screen<Form12>().Label2.caption().starts_with(u"Creating"))
+            return;
+        EXPECT_EQ(project.run().page.pagina_actual, u"");
+        ++reported;
+    };
+    ASSERT_TRUE(project.generate());
+    EXPECT_GT(reported, 0);
+    const auto page_with = [&](TextView part) {
+        for (const Text& name : list_files(app.path(project.main_folder()), u"*"))
+            if (const Text page = read_text_file(app.path(project.main_folder(name))); contains(page, part))
+                return page;
+        return Text();
+    };
+    const Text second = page_with(u"<title>Cart Rent Of SPA</title>");
+    EXPECT_TRUE(contains(second, u"name=\"Title\" content=\"Cart Rent Of\""));
+    EXPECT_TRUE(contains(second, u"<b>Cart  Rent Of</b>")); // the stack of links shows what is stored
+    const Text first = page_with(u"<title>sheds <oak");
+    EXPECT_TRUE(contains(first, u"<h1>sheds <oak > SPA</h1>"));
+    EXPECT_TRUE(contains(first, u"<b>sheds<oak</b>"));
+}
+
 TEST_F(GenerationRun, second_click_while_pages_are_written_does_nothing) {
     test::SampleProject project(app);
     int clicks = 0;
@@ -150,7 +182,6 @@ TEST_F(GenerationRun, second_click_while_pages_are_written_does_nothing) {
     EXPECT_TRUE(project.run().finished);
 }
 
-/// All keywords of a box are counted together; `densidad` counts one by one.
 TEST_F(GenerationRun, report_is_closed_to_the_user_while_it_is_written_and_open_behind_a_fault) {
     test::SampleProject project(app);
     EXPECT_TRUE(project.generate());
@@ -184,6 +215,7 @@ TEST_F(GenerationRun, report_is_closed_to_the_user_while_it_is_written_and_open_
     EXPECT_FALSE(screens().is_loaded<Form12>());
 }
 
+/// All keywords of a box are counted together; `densidad` counts one by one.
 TEST_F(GenerationRun, boxes_have_the_densities_of_one_count_after_the_other) {
     test::SampleContent content;
     const Text opening(highlight_opening);
