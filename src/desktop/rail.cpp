@@ -82,7 +82,9 @@ QSize RailEntry::sizeHint() const {
 }
 
 QSize RailEntry::minimumSizeHint() const {
-    return {2 * margin + mark_size(fontMetrics()) + gap + fontMetrics().averageCharWidth() * 14,
+    QFont strong = font();
+    strong.setBold(true);
+    return {2 * margin + mark_size(fontMetrics()) + gap + QFontMetrics(strong).horizontalAdvance(name_) + 2,
             sizeHint().height()};
 }
 

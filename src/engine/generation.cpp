@@ -126,7 +126,11 @@ void run_all(Run& run) {
     collect_terms(run.project);
     build_page_names(run.plan, run.project, run.choices);
     distribute_pages(run.plan, run.choices);
-    if (run.choices.offer_page_names() && !offer_page_names(run.plan, run.choices)) return;
+    if (run.choices.offer_page_names() && !offer_page_names(run.plan, run.choices)) {
+        // Also after a run that went well: its Step 6 leaves the mark of a cancel for the next one.
+        say(u"No pages written: Step 6 ended the run. Press Next once more for a new one.");
+        return;
+    }
     const auto begun = std::chrono::steady_clock::now();
     run.page.written = [&run] { run.report.page_written(); };
     run.report.begin(run.project);

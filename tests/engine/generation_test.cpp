@@ -78,6 +78,7 @@ TEST_F(GenerationRun, step_6_names_the_pages_and_its_cancel_leaves_the_old_ones)
     };
     EXPECT_TRUE(project.generate());
     EXPECT_EQ(module1().paso6_cancelado, u"0");
+    EXPECT_TRUE(app.desktop.said.back().starts_with(u"No pages written: Step 6 ended the run."));
     EXPECT_FALSE(screens().is_loaded<Form17>());
     EXPECT_TRUE(app.exists(project.folder(u"old.htm")));
     const twk::Run& run = project.run();
