@@ -69,10 +69,20 @@ void RailEntry::describe() {
     setAccessibleName(parts.join(QStringLiteral(", ")));
 }
 
+QFont RailEntry::name_font(bool here) const {
+    QFont name = font();
+    name.setBold(here);
+    return name;
+}
+
 QFont RailEntry::small_font() const {
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * 0.87);
     return small;
+}
+
+int RailEntry::words_begin() const {
+    return margin + 1 + mark_size(fontMetrics()) + gap;
 }
 
 QSize RailEntry::sizeHint() const {
@@ -82,10 +92,8 @@ QSize RailEntry::sizeHint() const {
 }
 
 QSize RailEntry::minimumSizeHint() const {
-    QFont strong = font();
-    strong.setBold(true);
-    return {2 * margin + mark_size(fontMetrics()) + gap + QFontMetrics(strong).horizontalAdvance(name_) + 2,
-            sizeHint().height()};
+    const int name = QFontMetrics(name_font(true)).horizontalAdvance(name_);
+    return {words_begin() + name + margin, sizeHint().height()};
 }
 
 void RailEntry::enterEvent(QEnterEvent*) {
@@ -140,13 +148,11 @@ void RailEntry::paintEvent(QPaintEvent*) {
     const QRect mark(margin + 2, (height() - size) / 2, size, size);
     paint_mark(painter, mark, text);
 
-    const QRect words(mark.right() + gap, 0, width() - mark.right() - gap - margin, height());
+    const QRect words(words_begin(), 0, width() - words_begin() - margin, height());
     const bool two_lines = number_ > 0 && !detail_.isEmpty();
-    QFont strong = font();
-    strong.setBold(here_);
-    painter.setFont(strong);
+    painter.setFont(name_font(here_));
     painter.setPen(text);
-    const QString name = QFontMetrics(strong).elidedText(name_, Qt::ElideRight, words.width());
+    const QString name = QFontMetrics(painter.font()).elidedText(name_, Qt::ElideRight, words.width());
     const int top = (height() - fontMetrics().height() - QFontMetrics(small_font()).height()) / 2;
     painter.drawText(two_lines ? words.adjusted(0, top, 0, 0) : words,
                      two_lines ? Qt::AlignTop | Qt::AlignLeft : Qt::AlignVCenter | Qt::AlignLeft, name);

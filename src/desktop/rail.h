@@ -36,7 +36,9 @@ class RailEntry : public QAbstractButton {
   private:
     void paint_mark(QPainter& painter, const QRect& place, const QColor& text) const;
     void describe();
+    QFont name_font(bool here) const;
     QFont small_font() const;
+    int words_begin() const;
 
     const QString name_;
     const int number_; ///< of the step, 0 for a tool

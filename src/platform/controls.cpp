@@ -109,14 +109,14 @@ void ListBox::clear() {
 }
 
 void ListBox::set_entries(std::vector<Text> entries) {
-    const bool as_many = entries.size() == entries_.size();
     const int before = list_count();
+    const int now = static_cast<int>(entries.size());
     entries_ = std::move(entries);
-    if (!as_many) {
+    if (now != before) {
         marks_.assign(entries_.size(), false);
         list_index.from_user(-1);
     }
-    tell(Prop::list, {0, before, list_count()});
+    tell(Prop::list, {0, before, now});
 }
 
 bool ListBox::selected(int index) const {

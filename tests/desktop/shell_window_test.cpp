@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "desktop/form_area.h"
 #include "desktop/qt_text.h"
 #include "desktop/rail.h"
 #include "support/every_screen.h"
@@ -8,10 +7,8 @@
 
 #include <QAction>
 #include <QLabel>
-#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabBar>
