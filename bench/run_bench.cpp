@@ -9,6 +9,11 @@
 //   --seed N       what the draws start from, 1 by default
 //   --keep DIR     the application folder, made anew and kept; else a temporary one
 //   --switches on  every switch of Step 5 on, other targets, secondary hosts; off: all off; else as delivered
+//   --every N      every Nth word of a box is a keyword; 0: one of forty, by chance, and as many anchor words
+//   --vocabulary N boxes draw from so many different words; 0: each word is made up
+//   --tags N       a tag behind every Nth word
+//   --keywords K   phrases ("garden topic 7"), words of their own, or words that share their beginning:
+//   shared
 //   --report FILE  what the report holds of every page
 //   --window yes   in the program's own windows, on whatever display Qt finds (QT_QPA_PLATFORM=offscreen:
 //   none)
@@ -17,15 +22,14 @@
 #include "engine/run.h"
 #include "inputs/form3.h"
 #include "inputs/form7.h"
-#include "platform/chance.h"
-#include "platform/clock.h"
-#include "platform/desktop.h"
-#include "platform/html.h"
+#include "platform/process.h"
+#include "platform/silent_desktop.h"
 #include "reports/form12.h"
 #include "settings/form6.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
 #include "store/store_setup.h"
+#include "text_shape.h"
 
 #ifdef BENCH_WINDOWS
 #include "desktop/qt_desktop.h"
@@ -51,77 +55,13 @@ using namespace twk;
 namespace fs = std::filesystem;
 
 /// Answers Yes to everything and shows nothing; messages go to the console.
-class BenchDesktop : public Desktop {
+class BenchDesktop : public SilentDesktop {
   public:
     Answer MsgBox(const Message& message) override {
         if (message.critical) std::fprintf(stderr, "%s\n", to_utf8(message.text).c_str());
         return message.buttons == Buttons::yes_no ? Answer::yes : Answer::ok;
     }
-    std::optional<Text> ask_open_file(const FileQuestion&) override { return {}; }
-    std::optional<Text> ask_save_file(const FileQuestion&) override { return {}; }
-    std::optional<std::uint32_t> ask_color(std::uint32_t) override { return {}; }
-    std::optional<FontChoice> ask_font(const FontChoice&) override { return {}; }
-    void DoEvents() override {}
-    void start(const Text&) override {}
-    Text get_setting(TextView, TextView, const Text& fallback) override { return fallback; }
-    void quit() override {}
-    void screen_loaded(Screen&) override {}
-    void screen_unloaded(Screen&) override {}
-    void screen_shown(Screen&) override {}
-    void screen_hidden(Screen&) override {}
-    void screen_forward(Screen&) override {}
-    void wait_modal(Screen&) override {}
-    void navigate(WebBrowser&, const Text&) override {}
-    void show_html(WebBrowser& browser, const Text& html) override { shown_[&browser] = html; }
-    void go_back(WebBrowser&) override {}
-    void go_forward(WebBrowser&) override {}
-    void go_home(WebBrowser&) override {}
-    bool busy(WebBrowser&) override { return false; }
-    Text inner_text(WebBrowser& browser) override { return visible_text(shown_[&browser]); }
-    std::vector<Link> links(WebBrowser&) override { return {}; }
-    Text fetch(Inet&, const Text&) override { throw RuntimeFault(fault_timed_out); }
-
-  private:
-    std::map<WebBrowser*, Text> shown_;
 };
-
-bool run_headless(const std::function<bool()>& run) {
-    BenchDesktop desktop;
-    set_desktop(&desktop);
-    const bool whole = run();
-    screens().unload_all();
-    set_desktop(nullptr);
-    return whole;
-}
-
-#ifdef BENCH_WINDOWS
-/// The windows as they are, with somebody at them who answers Yes to everything.
-class BenchWindows : public QtDesktop {
-  public:
-    Answer MsgBox(const Message& message) override {
-        if (message.critical) std::fprintf(stderr, "%s\n", to_utf8(message.text).c_str());
-        return message.buttons == Buttons::yes_no ? Answer::yes : Answer::ok;
-    }
-    void start(const Text&) override {}
-    void wait_modal(Screen&) override {}
-};
-
-/// Runs with the main window in sight, once everything has been drawn.
-bool run_in_windows(const std::function<bool()>& run, int argc, char** argv) {
-    qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1"); // it does not work for root
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QApplication app(argc, argv);
-    BenchWindows desktop;
-    set_desktop(&desktop);
-    screens().dispatch([] { screens().show<mdi1>(); });
-    desktop.window().show();
-    desktop.wait(std::chrono::seconds(2), {});
-    const bool whole = run();
-    screens().unload_all();
-    set_desktop(nullptr);
-    return whole;
-}
-#endif
 
 struct Size {
     int keywords = 100, subkeywords = 20, boxes = 50, words = 500, random_pages = 20, layout = 0;
@@ -135,45 +75,22 @@ struct Options {
     }
 };
 
-std::string keyword(int k) {
-    return "garden topic " + std::to_string(k);
-}
-
-/// Sentences of made-up words, here and there an anchor word and a keyword.
-std::string box_text(const Size& size, std::mt19937& draw) {
-    const auto below = [&draw](int n) { return static_cast<int>(draw() % static_cast<unsigned>(n)); };
-    std::string text;
-    for (int w = 0; w < size.words; ++w) {
-        const int kind = below(40);
-        if (kind == 0 && w + 3 < size.words) {
-            text += keyword(below(size.keywords));
-            w += 2;
-        } else if (kind < 4) {
-            text += "and";
-        } else {
-            for (int letters = 2 + below(8); letters > 0; --letters)
-                text += static_cast<char>('a' + below(26));
-        }
-        text += w % 12 == 11 ? ". " : " ";
-    }
-    return text;
-}
-
 /// The project's rows as one script; a store is made from it at once.
-std::string rows(const Size& size) {
+std::string rows(const Size& size, const TextShape& shape) {
     std::mt19937 draw(1);
     std::ostringstream sql;
     sql << "insert into Projects (name, site_name, site_url, title, category, description, designer_name, "
            "designer_url) values ('bench', 'Bench', 'http://target.example', 'Subject', 'Category', "
            "'Description', 'Name', 'http://');\n";
     for (int k = 0; k < size.keywords; ++k) {
-        sql << "insert into keywords (pid, keyword) values (1, '" << keyword(k) << "');\n";
+        sql << "insert into keywords (pid, keyword) values (1, '" << shape.keyword(k) << "');\n";
         for (int s = 0; s < size.subkeywords; ++s)
             sql << "insert into elements (catid, element) values (" << k + 1 << ", 'side path " << s << " of "
                 << k << "');\n";
     }
     for (int b = 0; b < size.boxes; ++b)
-        sql << "insert into content (pid, content) values (1, '" << box_text(size, draw) << "');\n";
+        sql << "insert into content (pid, content) values (1, '"
+            << shape.box_text(size.keywords, size.words, draw) << "');\n";
     return sql.str();
 }
 
@@ -183,10 +100,10 @@ std::string schema(const char* name) {
     return text.str();
 }
 
-void deliver(const fs::path& folder, const Size& size) {
+void deliver(const fs::path& folder, const Size& size, const TextShape& shape) {
     for (const char* name : {"twk.dat", "Images", "swf"})
         fs::copy(fs::path(BENCH_DATA_DIR) / name, folder / name, fs::copy_options::recursive);
-    create_store(app_path() + u"/hive.mdb", schema("schema_hive.sql") + rows(size), "lantern4821");
+    create_store(app_path() + u"/hive.mdb", schema("schema_hive.sql") + rows(size, shape), "lantern4821");
     create_store(app_path() + u"/synonyms.mdb",
                  schema("schema_synonyms.sql") +
                      "insert into synonyms (keyword, synonyms) values ('and', 'plus');",
@@ -194,14 +111,14 @@ void deliver(const fs::path& folder, const Size& size) {
 }
 
 /// Steps 1 to 4 as the wizard leaves them; gives Step 5.
-Form6& load_screens(const Size& size, const std::string& switches) {
+Form6& load_screens(const Size& size, const TextShape& shape, const std::string& switches) {
     module1().pid_actual = 1;
     module1().proyecto_actual = u"bench";
     screen<Form2>().txt_name[0].text = u"bench";
     screen<Form2>().Text2[0].text = u"Bench";
     ListBox& keywords = screen<Form3>().List1;
     keywords.clear();
-    for (int k = 0; k < size.keywords; ++k) keywords.add_item(from_utf8(keyword(k)));
+    for (int k = 0; k < size.keywords; ++k) keywords.add_item(from_utf8(shape.keyword(k)));
     screen<Form7>().Text2.text = u"http://main.example";
     screen<Form7>().List1.clear();
     Form6& form = screen<Form6>();
@@ -245,8 +162,8 @@ double processor_seconds(const rusage& usage) {
 }
 
 /// Runs; true when the run came to its end.
-bool timed_run(const Size& size, const Options& options) {
-    Form6& form = load_screens(size, options.value("--switches"));
+bool timed_run(const Size& size, const TextShape& shape, const Options& options) {
+    Form6& form = load_screens(size, shape, options.value("--switches"));
     rusage before{}, after{};
     getrusage(RUSAGE_SELF, &before);
     const auto start = std::chrono::steady_clock::now();
@@ -287,6 +204,61 @@ std::string application_folder(const Options& options) {
     return mkdtemp(folder.data()) == nullptr ? std::string() : folder;
 }
 
+/// How the texts are made: what the options say.
+TextShape shape_of(const Options& options) {
+    TextShape shape;
+    shape.every = std::stoi(options.value("--every", "0"));
+    shape.vocabulary = std::stoi(options.value("--vocabulary", "0"));
+    shape.tags = std::stoi(options.value("--tags", "0"));
+    shape.kind = options.value("--keywords", "phrases");
+    return shape;
+}
+
+struct Benchmark {
+    const Size& size;
+    const TextShape& shape;
+    const Options& options;
+    const std::string& folder;
+
+    /// Runs in a process state of its own, with the clock standing and the draws those of the seed; true when
+    /// the run came to its end.
+    bool on(Desktop& desktop, const std::function<void()>& before) const {
+        const ProcessGuard guard(desktop, from_utf8(folder),
+                                 std::make_shared<FixedClock>(LocalTime{2026, 11, 24, 10, 18, 5, 0}),
+                                 std::stoull(options.value("--seed", "1")));
+        deliver(folder, size, shape);
+        before();
+        bool finished = false;
+        return screens().dispatch([&] { finished = timed_run(size, shape, options); }) && finished;
+    }
+};
+
+#ifdef BENCH_WINDOWS
+/// The windows as they are, with somebody at them who answers Yes to everything.
+class BenchWindows : public QtDesktop {
+  public:
+    Answer MsgBox(const Message& message) override {
+        if (message.critical) std::fprintf(stderr, "%s\n", to_utf8(message.text).c_str());
+        return message.buttons == Buttons::yes_no ? Answer::yes : Answer::ok;
+    }
+    void start(const Text&) override {}
+    void wait_modal(Screen&) override {}
+};
+
+/// Runs with the main window in sight, once everything has been drawn.
+bool run_in_windows(const Benchmark& run, int argc, char** argv) {
+    qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1"); // it does not work for root
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QApplication app(argc, argv);
+    BenchWindows desktop;
+    return run.on(desktop, [&desktop] {
+        screens().dispatch([] { screens().show<mdi1>(); });
+        desktop.window().show();
+        desktop.wait(std::chrono::seconds(2), {});
+    });
+}
+#endif
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -295,21 +267,18 @@ int main(int argc, char** argv) {
     if (!read_arguments(argc, argv, size, options)) return 2;
     const std::string folder = application_folder(options);
     if (folder.empty()) return 1;
-    set_app_path(from_utf8(folder));
-    set_clock(std::make_shared<FixedClock>(LocalTime{2026, 11, 24, 10, 18, 5, 0}));
-    chance().fix_seed(static_cast<std::uint64_t>(std::atoll(options.value("--seed", "1").c_str())));
-    deliver(folder, size);
-    const auto run = [&] {
-        bool finished = false;
-        return screens().dispatch([&] { finished = timed_run(size, options); }) && finished;
-    };
+    const TextShape shape = shape_of(options);
+    const Benchmark run{size, shape, options, folder};
     bool finished = false;
 #ifdef BENCH_WINDOWS
     if (!options.value("--window").empty())
         finished = run_in_windows(run, argc, argv);
     else
 #endif
-        finished = run_headless(run);
+    {
+        BenchDesktop desktop;
+        finished = run.on(desktop, [] {});
+    }
     if (options.value("--keep").empty()) fs::remove_all(folder);
     return finished ? 0 : 1;
 }

@@ -4,7 +4,7 @@
 
 #include "engine/text_toolkit.h"
 #include "platform/desktop.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "platform/numbers.h"
 #include "store/store_setup.h"
 #include "store/stores.h"

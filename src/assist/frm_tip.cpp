@@ -3,7 +3,7 @@
 
 #include "platform/chance.h"
 #include "platform/desktop.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "platform/numbers.h"
 
 namespace twk {

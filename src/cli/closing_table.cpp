@@ -2,7 +2,7 @@
 #include "cli/closing_table.h"
 
 #include "platform/desktop.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -25,7 +25,7 @@ DestinationFigures measure_folder(const Text& path, const Text& name) {
     DestinationFigures figures{.folder = name};
     for (const Text& file : list_files(path, u"*")) {
         ++(is_page(file) ? figures.pages : figures.other_files);
-        figures.bytes += FileLen(path + Text(path_separator) + file);
+        figures.bytes += FileLen(joined_path(path, file));
     }
     return figures;
 }
@@ -48,8 +48,7 @@ std::string lines(const Json& object) {
 ClosingFigures measure_output(const Text& project_folder) {
     ClosingFigures figures;
     for (const Text& folder : list_folders(project_folder))
-        figures.destinations.push_back(
-            measure_folder(project_folder + Text(path_separator) + folder, folder));
+        figures.destinations.push_back(measure_folder(joined_path(project_folder, folder), folder));
     figures.destinations.push_back(measure_folder(project_folder, {}));
     for (const DestinationFigures& each : figures.destinations) {
         figures.total.pages += each.pages;

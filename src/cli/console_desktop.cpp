@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/console_desktop.h"
 
-#include "platform/files.h"
-#include "platform/html.h"
+#include "platform/file_system.h"
 #include "platform/screens.h"
 
 #include <ostream>
@@ -13,11 +12,6 @@ namespace {
 
 constexpr TextView question_save_names = u"Do you want to save this filename set?";
 constexpr auto line_interval = std::chrono::milliseconds(50);
-
-/// Name of the file: the path before it may have been cut in its middle.
-TextView file_name(TextView path) {
-    return path.substr(path.rfind(path_separator) + 1); // the whole text when there is no separator
-}
 
 } // namespace
 
@@ -49,8 +43,9 @@ void ConsoleDesktop::tell(const Text& status) {
     if (!telling_) return;
     const bool page = TextView(status).starts_with(u"Creating + Analizing ");
     if (!console_.terminal) {
-        // A file or a pipe gets a line for every page, none for the steps between.
-        if (page) console_.out << to_utf8(file_name(status)) << '\n';
+        // A file or a pipe gets a line for every page, none for the steps between. The path before the name
+        // may have been cut in its middle.
+        if (page) console_.out << to_utf8(last_name(TextView(status))) << '\n';
         return;
     }
     const auto now = std::chrono::steady_clock::now();
@@ -67,33 +62,13 @@ void ConsoleDesktop::end_progress() {
 
 void ConsoleDesktop::wait_modal(Screen& screen) {
     screens().fire(screen, "Command1", "Click");
-    if (screen.visible) screens().hide(screen); // its button did not leave it
-}
-
-void ConsoleDesktop::navigate(WebBrowser& browser, const Text& address) {
-    // A local page is read when its text is asked for; an address of the web stays empty.
-    shown_[&browser] = {address, {}};
-}
-
-void ConsoleDesktop::show_html(WebBrowser& browser, const Text& html) {
-    shown_[&browser] = {{}, html};
+    SilentDesktop::wait_modal(screen); // if its button did not leave it
 }
 
 Text ConsoleDesktop::inner_text(WebBrowser& browser) {
-    Shown& shown = shown_[&browser];
-    if (shown.html.empty() && file_exists(shown.address)) shown.html = read_text_file(shown.address);
-    return visible_text(shown.html);
-}
-
-std::vector<Link> ConsoleDesktop::links(WebBrowser& browser) {
-    const Shown& shown = shown_[&browser];
-    std::vector<Link> all;
-    for (Text& address : page_links(shown.html, shown.address)) all.push_back({std::move(address)});
-    return all;
-}
-
-Text ConsoleDesktop::fetch(Inet&, const Text& address) {
-    throw RuntimeFault(fault_device_io, u"There is no network here to fetch " + address);
+    Shown& page = shown(browser);
+    if (page.html.empty() && file_exists(page.address)) page.html = read_text_file(page.address);
+    return SilentDesktop::inner_text(browser);
 }
 
 } // namespace twk::cli

@@ -20,7 +20,7 @@ Json figure(const Text& field) {
 }
 
 std::string relative_path(const Text& path) {
-    const Text folder = app_path() + Text(path_separator);
+    const Text folder = joined_path(app_path(), u"");
     return to_utf8(TextView(path).starts_with(folder) ? TextView(path).substr(folder.size())
                                                       : TextView(path));
 }

@@ -5,7 +5,6 @@
 #include "inputs/form3.h"
 #include "inputs/form5.h"
 #include "inputs/form7.h"
-#include "platform/chance.h"
 #include "platform/screens.h"
 #include "settings/form6.h"
 #include "shell/form1.h"
@@ -19,7 +18,6 @@ namespace twk::cli {
 
 namespace {
 
-/// The system's time, with no waiting: the pauses of the screens are for people who look at them.
 class PromptClock : public SystemClock {
   public:
     void sleep(std::chrono::milliseconds) override {}
@@ -36,24 +34,13 @@ int find_project(const std::vector<Text>& names, const Text& project) {
 
 } // namespace
 
-Session::Session(const Console& console, const std::filesystem::path& application_folder,
-                 std::optional<std::uint64_t> seed, std::optional<LocalTime> now)
-    : desktop(console), desktop_before_(set_desktop(&desktop)), folder_before_(app_path()) {
-    set_app_path(from_utf8(std::filesystem::absolute(application_folder).lexically_normal().string()));
-    if (now)
-        set_clock(std::make_shared<FixedClock>(*now));
-    else
-        set_clock(std::make_shared<PromptClock>());
-    if (seed) chance().fix_seed(*seed);
+Text absolute_text(const std::filesystem::path& folder) {
+    return from_utf8(std::filesystem::absolute(folder).lexically_normal().string());
 }
 
-Session::~Session() {
-    screens().dispatch([] { screens().unload_all(); });
-    module1() = {};
-    chance().release_seed();
-    set_clock({});
-    set_app_path(folder_before_);
-    set_desktop(desktop_before_);
+std::shared_ptr<Clock> prompt_clock(std::optional<LocalTime> now) {
+    if (now) return std::make_shared<FixedClock>(*now);
+    return std::make_shared<PromptClock>();
 }
 
 Status Wizard::step(const std::function<bool()>& press, const std::function<bool()>& arrived,

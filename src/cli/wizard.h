@@ -3,26 +3,27 @@
 
 #include "cli/commands.h"
 #include "cli/console_desktop.h"
+#include "platform/process.h"
 
 #include <functional>
 
 namespace twk::cli {
 
-/// Everything global that a command needs: the console desktop, the application path, a clock that does not
-/// wait, a seed. It is all taken back at the end, and no screen stays loaded.
-class Session {
-  public:
+/// The folder's whole path.
+Text absolute_text(const std::filesystem::path& folder);
+/// The system's time, or the moment, without waiting: the pauses of the screens are for people who look at
+/// them.
+std::shared_ptr<Clock> prompt_clock(std::optional<LocalTime> now);
+
+/// What a command runs in: a desktop on the console, the application folder, a clock that does not wait, and
+/// stands at `now` when there is one, and a seed.
+template <class D = ConsoleDesktop> struct Session {
     Session(const Console& console, const std::filesystem::path& application_folder,
-            std::optional<std::uint64_t> seed = {}, std::optional<LocalTime> now = {});
-    ~Session();
-    Session(const Session&) = delete;
-    Session& operator=(const Session&) = delete;
+            std::optional<std::uint64_t> seed = {}, std::optional<LocalTime> now = {})
+        : desktop(console), guard(desktop, absolute_text(application_folder), prompt_clock(now), seed) {}
 
-    ConsoleDesktop desktop;
-
-  private:
-    Desktop* const desktop_before_;
-    const Text folder_before_;
+    D desktop;
+    ProcessGuard guard;
 };
 
 /// Walks the screens of the wizard as a user does, each Next with its checks.

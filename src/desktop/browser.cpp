@@ -2,7 +2,7 @@
 #include "desktop/browser.h"
 
 #include "desktop/qt_text.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "platform/html.h"
 
 #include <QApplication>

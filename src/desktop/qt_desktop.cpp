@@ -7,7 +7,7 @@
 #include "desktop/screen_window.h"
 #include "desktop/user_settings.h"
 #include "platform/faults.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -114,7 +114,7 @@ std::optional<Text> QtDesktop::ask_file(const FileQuestion& question, bool save)
 /// Whether nothing stands under that name, or the user lets it go.
 bool QtDesktop::may_write(const Text& path, const Text& title) {
     if (!file_exists(path)) return true;
-    const Text name = path.substr(path.rfind(path_separator) + 1);
+    const Text name = Text(last_name(TextView(path)));
     return MsgBox({.text = u"There is a file named " + name + u" already.\nDo you want to replace it?",
                    .buttons = Buttons::yes_no,
                    .title = title,

@@ -2,8 +2,8 @@
 #include "desktop/transfer.h"
 
 #include "desktop/qt_text.h"
+#include "platform/encoding.h"
 #include "platform/faults.h"
-#include "platform/files.h"
 
 #include <QEventLoop>
 #include <QNetworkReply>

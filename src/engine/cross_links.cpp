@@ -16,9 +16,8 @@ Text sibling_link(const Plan& plan, const Text& file) {
 }
 
 void append_links(OpenPage& page, const Text& path, const Text& links, bool index) {
-    page.fence->check(path);
-    const std::int64_t before = FileLen(path);
-    TextStreamPtr file = page.fso.OpenTextFile(path, OpenMode::appending, false, TextKind::page);
+    const TextStreamPtr file =
+        page.fso.OpenTextFile(page.fence->within(path), OpenMode::appending, false, TextKind::page);
     if (index)
         file->writeline(fill(u"<br><h3><li>{1}</h3>", Replace(Left(links, Len(links) - 2), u"|", u" <li> ")));
     else
@@ -27,7 +26,7 @@ void append_links(OpenPage& page, const Text& path, const Text& links, bool inde
     file->writeline(u"</body></html>");
     page.ultimo_texto = file->close_and_read();
     page.ultima_pagina = path;
-    page.bytes_written += file->size() - before;
+    page.bytes_written += file->grown();
 }
 
 /// The report gets the link that the last written page left, whatever this page holds.
@@ -51,7 +50,7 @@ void cross_link_pass(Run& run, const Text& folder) {
     for (const Text& file : files) links += sibling_link(run.plan, file);
     int position = 0;
     for (const Text& file : files) {
-        const Text path = folder + Text(path_separator) + file;
+        const Text path = joined_path(folder, file);
         run.page.pagina_actual = path;
         append_links(run.page, path, links, file == u"index" + run.plan.extension);
         run.page.pagina_actual.clear();

@@ -44,8 +44,7 @@ void perhaps_flash(OpenPage& page, const PageChoices& choices, const Text& folde
 }
 
 void copy_flash_movie(OpenPage& page, const Text& folder) {
-    const Text sep(path_separator);
-    page.copy_into_project(app_path() + sep + u"swf" + sep + u"twk.swf", folder + sep + u"twk.swf");
+    page.copy_into_project(beside_program(u"swf/twk.swf"), joined_path(folder, u"twk.swf"));
 }
 
 Text imagen(Run& run, int kind, TextView alt, const Text& folder, const Text& stem) {
@@ -60,13 +59,12 @@ Text imagen(Run& run, int kind, TextView alt, const Text& folder, const Text& st
     run.mensaje_error = u"Copying image + Creating Tag " + f;
     if (kind == 2) return {};
     const Text name = rspaces(run.choices, LCase(stem)) + ext;
-    const Text place = folder + Text(path_separator);
     // The test is for the name as it came, the copy goes to the cleaned one.
-    if (!run.page.fso.FileExists(place + stem + ext)) {
+    if (!run.page.fso.FileExists(joined_path(folder, stem + ext))) {
         chance().Randomize();
         // The picture is drawn anew, while the extension stays that of the first draw.
         run.page.copy_into_project(at(fotos, static_cast<int>(Round(chance().Rnd() * (count - 1)))),
-                                   place + name);
+                                   joined_path(folder, name));
     }
     return fill(uR"(<br><center><a href="{1}"><img src="{2}" alt="{3}" ></a><br>)", module1().url_principal,
                 name, alt);

@@ -4,7 +4,7 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "platform/module1.h"
 #include "platform/subscript.h"
 

@@ -29,7 +29,7 @@ bool confirmed(const PageChoices& choices) {
                            u"Are you sure you want to proceed?",
                            Buttons::yes_no, u"Create Pages?",
                            u"Erased first: all files in " +
-                               beside_program(u"Projects" + Text(path_separator) + choices.project_name())) ==
+                               joined_path(beside_program(u"Projects"), choices.project_name())) ==
            Answer::yes;
 }
 
@@ -50,7 +50,7 @@ bool list_pictures(PageChoices& choices) {
     std::vector<Text> pictures;
     for (const TextView pattern : {u"*.gif", u"*.jpg"})
         for (const Text& name : choices.files_in(folder, pattern))
-            pictures.push_back(folder + Text(path_separator) + name);
+            pictures.push_back(joined_path(folder, name));
     choices.set_pictures(pictures);
     if (pictures.size() >= 3) return true;
     MsgBox(folder + u" Must have more than 3 images (*.gif or *.jpg)");
@@ -108,8 +108,7 @@ void run_phases(Run& run) {
 
 void open_local_site_map(const Plan& plan) {
     try {
-        desktop().start(
-            ruta_corta(plan.project_folder + Text(path_separator) + u"sitemap-do-not-upload.htm"));
+        desktop().start(ruta_corta(joined_path(plan.project_folder, u"sitemap-do-not-upload.htm")));
     } catch (const RuntimeFault&) { // the pages are there, whether they can be shown or not
     }
 }

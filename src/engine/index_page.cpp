@@ -33,14 +33,13 @@ void index_page(Run& run, const Text& folder) {
     if (trim_view(run.lista_kw).empty())
         run.lista_kw = run.project.joined_keywords(); // keeps its first separator
     OpenPage& page = run.page;
-    const Text stem = folder + Text(path_separator) + u"index";
-    const Text path = stem + run.plan.extension;
-    const Text finished = stem + u".htm"; // whatever the extension
-    const Text aux = path + u"aux";
-    page.pagina_actual = path;
-    for (const Text& each : {path, finished, aux}) page.fence->check(each);
+    const Text stem = joined_path(folder, u"index");
+    page.pagina_actual = stem + run.plan.extension;
+    const FencedPath path = page.fence->within(page.pagina_actual);
+    const FencedPath finished = page.fence->within(stem + u".htm"); // whatever the extension
+    const FencedPath aux = page.fence->within(page.pagina_actual + u"aux");
     const TextStreamPtr origen =
-        page.fso.OpenTextFile(path, OpenMode::reading, !page.fso.FileExists(finished), TextKind::page);
+        page.fso.OpenTextFile(path, OpenMode::reading, !page.fso.FileExists(finished.text()), TextKind::page);
     page.salida = page.fso.OpenTextFile(aux, OpenMode::writing, true, TextKind::page);
     write_index(run);
     origen->Close();
@@ -48,7 +47,7 @@ void index_page(Run& run, const Text& folder) {
     page.bytes_written += page.salida->size();
     page.salida.reset();
     page.fso.DeleteFile(path);
-    page.fso.CopyFile(aux, finished);
+    page.fso.CopyFile(aux.text(), finished);
     page.fso.DeleteFile(aux);
     page.count();
     page.pagina_actual.clear();

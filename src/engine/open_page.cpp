@@ -7,20 +7,16 @@ namespace twk {
 
 void OpenPage::open(const Text& path) {
     pagina_actual = path;
-    const Text aux = path + u"aux";
-    fence->check(path);
-    fence->check(aux);
-    origen.emplace(path);
-    salida = fso.OpenTextFile(aux, OpenMode::writing, true, TextKind::page);
+    origen.emplace(fence->within(path), fence->within(path + u"aux"));
+    salida = origen->open(TextKind::page);
 }
 
 void OpenPage::close() {
-    const Text aux = salida->path();
     ultimo_texto = salida->close_and_read();
     ultima_pagina = pagina_actual;
     bytes_written += salida->size();
     salida.reset();
-    origen->replace_by(aux);
+    origen->replace();
     origen.reset();
     count();
     pagina_actual.clear();
@@ -37,8 +33,7 @@ void OpenPage::abandon() {
 }
 
 void OpenPage::copy_into_project(const Text& from, const Text& to) {
-    fence->check(to);
-    fso.CopyFile(from, to);
+    fso.CopyFile(from, fence->within(to));
 }
 
 void OpenPage::writelines(TextView lines) {
@@ -50,7 +45,7 @@ Text destination_folder(const Text& project_folder, TextView address) {
     Text name = Replace(address, u"http://", u"");
     replace_all(name, u"\\", u"-");
     replace_all(name, u"/", u"-");
-    return project_folder + Text(path_separator) + name;
+    return joined_path(project_folder, name);
 }
 
 } // namespace twk

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "engine/fill.h"
-#include "platform/files.h"
+#include "platform/fence.h"
 #include "platform/text.h"
 
 #include <cstdint>

@@ -8,7 +8,7 @@
 namespace twk {
 
 Text Plan::in_main_folder(TextView file) const {
-    return main_folder + Text(path_separator) + Text(file);
+    return joined_path(main_folder, file);
 }
 
 namespace {
@@ -33,13 +33,15 @@ void find_folders(Plan& plan, OpenPage& page, const PageChoices& choices) {
         check_destination(plan, choices.main_host() + behind, u"The main gateway directory");
     for (const Text& host : choices.secondary_hosts())
         check_destination(plan, host, u"A secondary gateway directory");
-    page.fence->check(plan.main_folder);
+    page.fence->within(plan.main_folder);
 }
 
 void rebuild_output_tree(const Plan& plan, OpenPage& page) {
-    if (dir_exists(plan.project_folder)) page.fso.DeleteFolder(plan.project_folder);
-    MkDir(plan.project_folder);
-    MkDir(plan.main_folder);
+    const FencedPath project = page.fence->itself();
+    if (dir_exists(plan.project_folder)) page.fso.DeleteFolder(project);
+    page.fence->forget();
+    MkDir(project.as_given());
+    MkDir(page.fence->within(plan.main_folder));
 }
 
 } // namespace twk

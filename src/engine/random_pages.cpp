@@ -29,7 +29,7 @@ Text take_name(RandomPhase& phase, int destination, int n, int c) {
     Text x = at(run.plan.paginas, n).name;
     const Text base = Replace(x, extension, u"");
     phase.es_js = base.ends_with(u"_js");
-    if (run.page.fso.FileExists(phase.carpeta + Text(path_separator) + x + extension))
+    if (run.page.fso.FileExists(joined_path(phase.carpeta, x + extension)))
         x = phase.es_js ? Left(base, Len(base) - 3) + to_text(c) + u"_js" : base + to_text(c);
     phase.url_pagina = phase.url_host + u"\\" + base + extension;
     const Text& host = destination == 0 ? run.choices.main_host() : phase.url_host;
@@ -71,7 +71,7 @@ void write_page(RandomPhase& phase, int destination, int n, int c) {
     const NameIndex::SoleWriter alone;
     Run& run = phase.run;
     OpenPage& page = run.page;
-    const Text path = phase.carpeta + Text(path_separator) + take_name(phase, destination, n, c);
+    const Text path = joined_path(phase.carpeta, take_name(phase, destination, n, c));
     draw_unused_list(run.project);
     page.open(path);
     write_title(run);
@@ -97,8 +97,8 @@ void enter_destination(RandomPhase& phase, int destination) {
     phase.carpeta =
         destination_folder(phase.run.plan.project_folder,
                            destination == 0 ? choices.main_host() + u"_More_Files" : phase.url_host);
-    phase.run.page.fence->check(phase.carpeta);
-    if (!dir_exists(phase.carpeta)) MkDir(phase.carpeta);
+    const FencedPath folder = phase.run.page.fence->within(phase.carpeta);
+    if (!dir_exists(phase.carpeta)) MkDir(folder);
 }
 
 /// A row below the first is there to be drawn.

@@ -16,10 +16,9 @@ Text read_more_path(const PageChoices& choices, const Plan& plan, Text stem, Tex
     replace_all(host, u"\\", u"-");
     for (const TextView drop : {u":", u"\\", u"/", u"+", uR"(")", u"'"}) replace_all(stem, drop, u"");
     const Text s = preparar_texto(Trim(stem));
-    const Text sep(path_separator);
-    Text file = rspaces(choices, s) + Text(mark) + u"_rm" + plan.extension;
-    Text path = app_path() + sep + u"Projects" + sep + choices.project_name() + sep +
-                Replace(host, u"/", u"-") + sep + file;
+    const Text file = rspaces(choices, s) + Text(mark) + u"_rm" + plan.extension;
+    Text path =
+        joined_path(beside_program(u"Projects"), choices.project_name(), Replace(host, u"/", u"-"), file);
     replace_all(path, u"<", u"");
     replace_all(path, u">", u"");
     while (replace_all(path, u"__", u"_")) path = Trim(path);
@@ -42,13 +41,12 @@ void write_lines(const Run& run, TextStream& out, const Text& t) {
 }
 
 void write_read_more(Run& run, const Text& path, const Text& t) {
-    run.page.fence->check(path);
-    ReplacedFile page(path);
-    const Text aux = path + u"aux2";
-    const TextStreamPtr out = run.page.fso.OpenTextFile(aux, OpenMode::writing, true, TextKind::page);
+    const Fence& fence = *run.page.fence;
+    ReplacedFile page(fence.within(path), fence.within(path + u"aux2"));
+    const TextStreamPtr out = page.open(TextKind::page);
     write_lines(run, *out, t);
     out->Close();
-    page.replace_by(aux);
+    page.replace();
     run.page.count();
     run.page.bytes_written += out->size();
 }

@@ -117,7 +117,7 @@ void write_random_row(Run& run, const Text& path, const Text& file) {
 
 /// What stands behind the folder of all projects.
 Text shown_folder(const Text& folder) {
-    const Text projects = Text(path_separator) + u"Projects" + Text(path_separator);
+    const Text projects = joined_path(u"", u"Projects", u"");
     const int at = InStr(folder, projects);
     return at == 0 ? folder : Mid(folder, at + Len(projects));
 }
@@ -138,7 +138,7 @@ void write_random_column(Run& run, const Text& folder) {
                        run.choices.main_host());
     page.writeline(u"<tr><td bgcolor=#FFBFBF>(pages in this color redirect to your main URL)</td></tr>");
     const std::vector<Text> files = run.choices.files_in(folder, u"*.htm*");
-    for (const Text& file : files) write_random_row(run, folder + Text(path_separator) + file, file);
+    for (const Text& file : files) write_random_row(run, joined_path(folder, file), file);
     write_totals(page, folder, files.size(), uR"(<font  color="#000000">)");
 }
 
@@ -174,7 +174,7 @@ void write_tail(Run& run) {
 
 void sitemap_local(Run& run) {
     run.mensaje_error = u"Error creating local SITEMAP";
-    run.page.open(run.plan.project_folder + Text(path_separator) + u"SITEMAP-DO-NOT-UPLOAD.HTM");
+    run.page.open(joined_path(run.plan.project_folder, u"SITEMAP-DO-NOT-UPLOAD.HTM"));
     write_head(run);
     write_legend(run.page);
     write_main_column(run);

@@ -5,7 +5,7 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "platform/numbers.h"
 #include "store/database.h"
 #include "store/stores.h"

@@ -56,14 +56,14 @@ void write_body_table(OpenPage& page) {
 }
 
 Text templates_folder() {
-    const Text sep(path_separator);
-    return app_path() + sep + u"images" + sep + u"templates";
+    return beside_program(u"images/templates");
 }
 
 bool copy_table2_background(OpenPage& page, const Text& folder) {
-    const Text file = Text(path_separator) + u"template2_back.gif";
-    if (page.fso.FileExists(folder + file)) return false;
-    page.copy_into_project(templates_folder() + file, folder + file);
+    constexpr TextView file = u"template2_back.gif";
+    const Text copy = joined_path(folder, file);
+    if (page.fso.FileExists(copy)) return false;
+    page.copy_into_project(joined_path(templates_folder(), file), copy);
     return true;
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "platform/screens.h"
 #include "platform/undo_stack.h"
 #include "store/database.h"

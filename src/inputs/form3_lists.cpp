@@ -172,7 +172,7 @@ void Form3::Command20_Click() {
 
 /// Durable when it returns. What was chosen is taken before events run, which may choose anew.
 void Form3::import_chosen() {
-    const Text path = File2.path() + Text(path_separator) + File2.list(File2.list_index());
+    const Text path = joined_path(File2.path(), File2.list(File2.list_index()));
     const bool general = op_imp[1].value();
     const Text separator = Trim(Cmb_separator.text());
     Frame4.visible = true;

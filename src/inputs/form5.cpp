@@ -7,6 +7,7 @@
 #include "inputs/form3.h"
 #include "inputs/form7.h"
 #include "platform/desktop.h"
+#include "platform/fence.h"
 #include "platform/numbers.h"
 #include "platform/subscript.h"
 #include "shell/form2.h"
@@ -269,13 +270,15 @@ void Form5::cmdshow_Click() {
     if (trim_view(rt1.text()).empty()) return;
     const Text path = preview_file();
     FileSystemObject fso;
+    const Fence own(app_path());
     stepping_over([&] {
-        const TextStreamPtr out = fso.OpenTextFile(path + u"aux", OpenMode::writing, true, TextKind::page);
+        const TextStreamPtr out =
+            fso.OpenTextFile(own.within(path + u"aux"), OpenMode::writing, true, TextKind::page);
         out->writeline(rt1.text());
         out->Close();
     });
-    stepping_over([&] { fso.CopyFile(path + u"aux", path); });
-    stepping_over([&] { fso.DeleteFile(path + u"aux"); });
+    stepping_over([&] { fso.CopyFile(path + u"aux", own.within(path)); });
+    stepping_over([&] { fso.DeleteFile(own.entry(path + u"aux")); });
     stepping_over([&] { desktop().navigate(screen<Form21>().WebBrowser1, path); });
     stepping_over([&] { screen<Form21>().Text1.text = rt1.text(); });
     stepping_over([] { screens().show<Form21>(); });
@@ -285,7 +288,7 @@ void Form5::cmdshow_Click() {
     };
     stepping_over([&] { esperar(2, read); });
     for (int round = 0; round < reading_rounds && !read(); ++round) stepping_over([&] { esperar(2, read); });
-    stepping_over([&] { fso.DeleteFile(path); });
+    stepping_over([&] { fso.DeleteFile(own.entry(path)); });
 }
 
 // Ties

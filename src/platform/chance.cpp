@@ -21,11 +21,6 @@ void Chance::fix_seed(std::uint64_t seed) {
     fixed_ = true;
 }
 
-Chance& chance() {
-    static Chance one;
-    return one;
-}
-
 int percent_draw() {
     return static_cast<int>(std::floor(chance().Rnd() * 100 + 1));
 }

@@ -7,15 +7,6 @@
 
 namespace twk {
 
-namespace {
-
-std::shared_ptr<Clock>& current() {
-    static std::shared_ptr<Clock> one = std::make_shared<SystemClock>();
-    return one;
-}
-
-} // namespace
-
 LocalTime SystemClock::now() {
     const auto moment = std::chrono::system_clock::now();
     const std::time_t seconds = std::chrono::system_clock::to_time_t(moment);
@@ -38,14 +29,6 @@ void SystemClock::sleep(std::chrono::milliseconds time) {
 double Clock::Timer() {
     const LocalTime at = now();
     return at.hour * 3600.0 + at.minute * 60.0 + at.second + at.millisecond / 1000.0;
-}
-
-Clock& clock() {
-    return *current();
-}
-
-void set_clock(std::shared_ptr<Clock> clock) {
-    current() = clock ? std::move(clock) : std::make_shared<SystemClock>();
 }
 
 Text ahora() {

@@ -2,7 +2,7 @@
 #include "platform/controls.h"
 
 #include "platform/desktop.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "platform/subscript.h"
 
 #include <algorithm>
@@ -29,12 +29,6 @@ std::size_t place(const std::vector<Text>& entries, int index) {
 
 std::ptrdiff_t offset(std::size_t at) {
     return static_cast<std::ptrdiff_t>(at);
-}
-
-Text parent_of(const Text& path) {
-    const std::size_t at = path.rfind(path_separator);
-    if (at == Text::npos || path.size() == 1) return {};
-    return at == 0 ? Text(path_separator) : path.substr(0, at);
 }
 
 } // namespace
@@ -229,8 +223,7 @@ const Text& FileListBox::list(int index) const {
 void DirListBox::set_path(Text path) {
     std::vector<Text> folders = list_folders(path);
     path_ = std::move(path);
-    for (Text& folder : folders)
-        folder.insert(0, path_.ends_with(path_separator) ? path_ : path_ + Text(path_separator));
+    for (Text& folder : folders) folder = joined_path(path_, folder);
     entries_ = std::move(folders);
     list_index.from_user(-1);
     observer(Prop::path);
@@ -244,7 +237,8 @@ void DirListBox::refresh() {
 Text DirListBox::list(int index) const {
     if (index >= 0) return entry(entries_, index);
     Text folder = path_;
-    for (int up = -1; up > index && !folder.empty(); --up) folder = parent_of(folder);
+    for (int up = -1; up > index && !folder.empty(); --up)
+        folder = folder == path_separator ? Text() : folder_of(folder);
     return folder;
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/controls.h"
 #include "platform/faults.h"
+#include "platform/paths.h"
 
 #include <chrono>
 #include <cstdint>
@@ -128,10 +129,7 @@ void say(const Text& what);
 const Text& app_path();
 void set_app_path(Text path);
 
-/// Separator of local paths.
-inline constexpr TextView path_separator = u"/";
-
-/// Path of a file in the application folder.
+/// Path of a file, or of what lies below it, in the application folder.
 Text beside_program(TextView file);
 
 } // namespace twk

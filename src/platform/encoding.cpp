@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/files.h"
+#include "platform/encoding.h"
 
 #include <algorithm>
 #include <iterator>
@@ -67,6 +67,19 @@ Text decode_text(std::string_view bytes) {
     std::transform(bytes.begin(), bytes.end(), text.begin(),
                    [](char byte) { return from_windows(static_cast<unsigned char>(byte)); });
     return text;
+}
+
+bool reads_back(TextView text) {
+    unsigned halves = 0;
+    for (const char16_t unit : text) halves += (unit & 0xF800u) == 0xD800u ? 1u : 0u;
+    if (halves == 0) return true;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] < 0xD800 || text[i] >= 0xE000) continue;
+        if (text[i] >= 0xDC00 || i + 1 == text.size() || text[i + 1] < 0xDC00 || text[i + 1] >= 0xE000)
+            return false;
+        ++i;
+    }
+    return true;
 }
 
 } // namespace twk

@@ -3,11 +3,6 @@
 
 namespace twk {
 
-Module1& module1() {
-    static Module1 one;
-    return one;
-}
-
 void marcar_forma(int number, bool loaded) {
     module1().formas_abiertas.at(static_cast<std::size_t>(number)) =
         loaded ? std::int16_t{-1} : std::int16_t{0};

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/name_index.h"
 
-#include "platform/files.h"
+#include "platform/file_system.h"
+#include "platform/process.h"
 
+#include <ctime>
+#include <memory>
+#include <tuple>
 #include <unordered_map>
 #include <utility>
 
@@ -15,41 +19,43 @@ namespace twk {
 
 namespace {
 
+using Names = std::unordered_map<std::string, std::string>; ///< lower case to the name on disk
+
 struct Folder {
     timespec changed{};
     ino_t inode = 0;
-    int checked = 0;    ///< number of the sole writer beside which it was found unchanged
-    bool stale = false; ///< changed by the program since it was stamped
-    std::unordered_map<std::string, std::string> names; ///< lower case to the name on disk
+    int checked = 0; ///< number of the sole writer beside which it was found unchanged
+    /// A sole writer has changed it since it was stamped, within this time.
+    bool stale = false;
+    timespec from{}, to{};
+    bool other_clock = false; ///< its times do not come from this machine's clock
+    Names names{};
 };
 
 constexpr std::size_t most_folders = 64;
 
-std::unordered_map<std::string, Folder>& folders() {
-    static std::unordered_map<std::string, Folder> all;
-    return all;
+/// What is kept for the process.
+struct KeptNames {
+    std::unordered_map<std::string, Folder> folders{};
+    int sole_writers = 0;
+    int sole_writer_number = 0;
+    timespec alone_since{};
+};
+
+KeptNames& kept_names() {
+    return process().part<KeptNames>();
 }
 
-int sole_writers = 0;
-int sole_writer_number = 0;
-
-std::string folded(const std::string& name) {
-    return to_utf8(LCase(from_utf8(name)));
+std::string folded(std::string_view name) {
+    if (!is_ascii(name)) return to_utf8(LCase(from_utf8(name)));
+    std::string lower(name);
+    for (char& unit : lower)
+        if (unit >= 'A' && unit <= 'Z') unit = static_cast<char>(unit + ('a' - 'A'));
+    return lower;
 }
 
 bool there(const std::string& path) {
     return ::faccessat(AT_FDCWD, path.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
-}
-
-std::string folder_of(const std::string& path) {
-    const std::size_t at = path.rfind('/');
-    if (at == std::string::npos) return ".";
-    return at == 0 ? "/" : path.substr(0, at);
-}
-
-std::string name_of(const std::string& path) {
-    const std::size_t at = path.rfind('/');
-    return at == std::string::npos ? path : path.substr(at + 1);
 }
 
 bool stamp(const std::string& folder, Folder& kept) {
@@ -60,31 +66,51 @@ bool stamp(const std::string& folder, Folder& kept) {
     return true;
 }
 
-/// The kept names of a folder, read again when it has changed; null when it cannot be read.
-const Folder* names_in(const std::string& folder) {
-    const auto kept = folders().find(folder);
-    if (sole_writers > 0 && kept != folders().end() && kept->second.checked == sole_writer_number)
-        return &kept->second;
-    Folder now;
-    if (!stamp(folder, now)) return nullptr;
-    now.checked = sole_writer_number;
-    if (kept != folders().end() && kept->second.inode == now.inode &&
-        kept->second.changed.tv_sec == now.changed.tv_sec &&
-        kept->second.changed.tv_nsec == now.changed.tv_nsec) {
-        kept->second.checked = sole_writer_number;
-        return &kept->second;
-    }
-    DIR* const open = ::opendir(folder.c_str());
-    if (open == nullptr) return nullptr;
-    while (const dirent* entry = ::readdir(open)) now.names.emplace(folded(entry->d_name), entry->d_name);
-    ::closedir(open);
-    if (folders().size() >= most_folders) folders().clear();
-    return &(folders()[folder] = std::move(now));
+bool at_or_before(const timespec& a, const timespec& b) {
+    return std::tie(a.tv_sec, a.tv_nsec) <= std::tie(b.tv_sec, b.tv_nsec);
 }
 
-/// The program has changed the folder itself. Its time is taken at once, or when the sole writer ends.
+/// Whether the folder's last change is one that the kept names know of.
+bool is_known(const Folder& kept, const Folder& now) {
+    if (kept.inode != now.inode) return false;
+    const timespec& from = kept.stale ? kept.from : kept.changed;
+    const timespec& to = kept.stale ? kept.to : kept.changed;
+    return at_or_before(from, now.changed) && at_or_before(now.changed, to);
+}
+
+bool read_names(const std::string& folder, Names& names) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> open(::opendir(folder.c_str()), ::closedir);
+    if (!open) return false;
+    while (const dirent* entry = ::readdir(open.get())) names.emplace(folded(entry->d_name), entry->d_name);
+    return true;
+}
+
+/// The kept names of a folder, read again when it has changed; null when it cannot be read.
+const Folder* names_in(const std::string& folder) {
+    KeptNames& all = kept_names();
+    const auto kept = all.folders.find(folder);
+    const bool known = kept != all.folders.end();
+    if (all.sole_writers > 0 && known && kept->second.checked == all.sole_writer_number) return &kept->second;
+    Folder now;
+    if (!stamp(folder, now)) return nullptr;
+    now.checked = all.sole_writer_number;
+    if (known && is_known(kept->second, now)) {
+        std::swap(now.names, kept->second.names);
+        now.other_clock = kept->second.other_clock;
+        return &(kept->second = std::move(now));
+    }
+    if (!read_names(folder, now.names)) return nullptr;
+    // A change outside the time in which it was made, and nothing new: the times are those of another clock.
+    if (known)
+        now.other_clock = kept->second.other_clock || (kept->second.stale && kept->second.names == now.names);
+    if (all.folders.size() >= most_folders) all.folders.clear();
+    return &(all.folders[folder] = std::move(now));
+}
+
+/// The program has changed the folder itself. Its time is taken at once, or asked for when it is looked at
+/// next.
 void changed_here(const std::string& folder, Folder& kept) {
-    if (sole_writers > 0)
+    if (kept_names().sole_writers > 0)
         kept.stale = true;
     else
         stamp(folder, kept);
@@ -92,25 +118,52 @@ void changed_here(const std::string& folder, Folder& kept) {
 
 } // namespace
 
+// The kernel stamps a folder with the time of its last tick or with the exact one: a change lies between the
+// coarse time before it and the exact time behind it.
+
 NameIndex::SoleWriter::SoleWriter() {
-    if (++sole_writers == 1) ++sole_writer_number;
+    KeptNames& all = kept_names();
+    if (++all.sole_writers > 1) return;
+    ++all.sole_writer_number;
+    ::clock_gettime(CLOCK_REALTIME_COARSE, &all.alone_since);
 }
 
 NameIndex::SoleWriter::~SoleWriter() {
-    if (--sole_writers > 0) return;
-    for (auto& [folder, kept] : folders())
-        if (std::exchange(kept.stale, false)) stamp(folder, kept);
+    KeptNames& all = kept_names();
+    if (--all.sole_writers > 0) return;
+    timespec now{};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    for (auto& [folder, kept] : all.folders) {
+        if (!kept.stale || kept.checked != all.sole_writer_number) continue;
+        kept.from = all.alone_since;
+        kept.to = now;
+        if (kept.other_clock) kept.stale = !stamp(folder, kept);
+    }
 }
 
 bool NameIndex::is_missing(const std::string& path) {
-    if (sole_writers == 0 || path.find('/') == std::string::npos) return false;
+    if (kept_names().sole_writers == 0 || path.find('/') == std::string::npos) return false;
     const Folder* const names = names_in(folder_of(path));
-    return names != nullptr && !names->names.contains(folded(name_of(path)));
+    return names != nullptr && !names->names.contains(folded(last_name(path)));
 }
 
+namespace {
+
+/// Whether the path is as it is found, by what a sole writer knows: it is there under this very name, or not
+/// at all.
+bool known_as_given(const std::string& path) {
+    if (kept_names().sole_writers == 0 || path.find('/') == std::string::npos) return false;
+    const Folder* const names = names_in(folder_of(path));
+    if (names == nullptr) return false;
+    const auto found = names->names.find(folded(last_name(path)));
+    return found == names->names.end() || found->second == last_name(path);
+}
+
+} // namespace
+
 std::string NameIndex::find(const std::string& path) {
-    if (path.empty() || is_missing(path) || there(path)) return path;
-    const std::string name = name_of(path);
+    if (path.empty() || known_as_given(path) || there(path)) return path;
+    const std::string name(last_name(path));
     if (name.empty()) return path;
     const std::string given = folder_of(path);
     const std::string folder = there(given) ? given : find(given);
@@ -125,27 +178,24 @@ std::string NameIndex::find(const std::string& path) {
 
 void NameIndex::entry_added(const std::string& path) {
     const std::string folder = folder_of(path);
-    const auto kept = folders().find(folder);
-    if (kept == folders().end()) return;
-    kept->second.names.insert_or_assign(folded(name_of(path)), name_of(path));
+    auto& folders = kept_names().folders;
+    const auto kept = folders.find(folder);
+    if (kept == folders.end()) return;
+    kept->second.names.insert_or_assign(folded(last_name(path)), std::string(last_name(path)));
     changed_here(folder, kept->second);
 }
 
 void NameIndex::entry_removed(const std::string& path) {
     const std::string folder = folder_of(path);
-    const auto kept = folders().find(folder);
-    if (kept == folders().end()) return;
-    kept->second.names.erase(folded(name_of(path)));
+    auto& folders = kept_names().folders;
+    const auto kept = folders.find(folder);
+    if (kept == folders.end()) return;
+    kept->second.names.erase(folded(last_name(path)));
     changed_here(folder, kept->second);
 }
 
 void NameIndex::forget() {
-    folders().clear();
-}
-
-std::string NameIndex::with_last_name(const std::string& path, const std::string& name) {
-    const std::size_t at = path.rfind('/');
-    return at == std::string::npos ? name : path.substr(0, at + 1) + name;
+    kept_names().folders.clear();
 }
 
 std::string disk_path(const Text& path) {

@@ -32,7 +32,4 @@ class SoleWriter {
     SoleWriter& operator=(const SoleWriter&) = delete;
 };
 
-/// The path with another last name.
-std::string with_last_name(const std::string& path, const std::string& name);
-
 } // namespace twk::NameIndex

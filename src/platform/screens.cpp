@@ -160,9 +160,4 @@ bool Screens::fire(Screen& screen, const std::string& control, const std::string
     return dispatch(event->run);
 }
 
-Screens& screens() {
-    static Screens all;
-    return all;
-}
-
 } // namespace twk

@@ -10,7 +10,7 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "platform/html.h"
 #include "platform/numbers.h"
 #include "platform/subscript.h"
@@ -37,8 +37,7 @@ template <class F> void ignoring_faults(F statement) {
 /// Bare name, with ".htm" behind it: an "x.html" comes out as "xl.htm".
 Text bare_file_name(const Text& path) {
     const Text name = Replace(path, u".htm", u"");
-    const std::size_t cut = name.rfind(path_separator);
-    return (cut == Text::npos ? name : name.substr(cut + path_separator.size())) + u".htm";
+    return Text(last_name(TextView(name))) + u".htm";
 }
 
 Text title_of(const Text& page) {
@@ -305,9 +304,8 @@ void Form12::Command2_Click() {
 
 void Form12::Command3_Click() {
     const Text& project = screen<Form2>().txt_name[0].text();
-    const Text sep(path_separator);
     try {
-        desktop().start(app_path() + sep + u"Projects" + sep + project + sep + u"sitemap-do-not-upload.htm");
+        desktop().start(joined_path(beside_program(u"Projects"), project, u"sitemap-do-not-upload.htm"));
     } catch (const RuntimeFault&) {
         Message message{u"Your pages are ready.Open your browser to see them \rProjects\\" + project +
                         u"\\sitemap-do-not-upload.htm"};

@@ -8,7 +8,7 @@
 #include "inputs/form7.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
-#include "platform/files.h"
+#include "platform/fence.h"
 #include "platform/numbers.h"
 #include "settings/settings_file.h"
 #include "shell/form2.h"
@@ -231,7 +231,7 @@ void Form6::File2_Click() {
     if (File2.list_index() < 0) return;
     const Text& file = File2.list(File2.list_index());
     Label52.caption = u"SiteMap to use: " + Trim(file);
-    plantilla_sitemap = Dir2.list(Dir2.list_index()) + Text(path_separator) + file;
+    plantilla_sitemap = joined_path(Dir2.list(Dir2.list_index()), file);
 }
 
 void Form6::cancelar() {

@@ -6,7 +6,7 @@
 #include "inputs/form10.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
-#include "platform/files.h"
+#include "platform/fence.h"
 #include "platform/numbers.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
@@ -147,8 +147,8 @@ void Form1::Command4_Click() {
     if (ask_before_loss(u"Are you sure you want to delete this project?\rAll data will be Lost.",
                         Buttons::ok_cancel, u"Replace project?",
                         u"Lost: the properties, keywords, content boxes and hosts of " + chosen +
-                            u"\nand all files in " +
-                            beside_program(u"Projects" + Text(path_separator) + chosen)) != Answer::ok)
+                            u"\nand all files in " + joined_path(beside_program(u"Projects"), chosen)) !=
+        Answer::ok)
         return;
     pid_ = 0;
     Text project;
@@ -179,15 +179,18 @@ void Form1::delete_folder(const Text& project) {
     Dir1.set_path(fence.folder());
     File1.set_pattern(u"*"); // names without a point, too
     const std::vector<Text> folders = Dir1.entries();
-    for (const Text& folder : folders) fence.check(folder);
+    for (const Text& folder : folders) fence.within(folder);
     FileSystemObject fso;
-    const auto remove_folder = [&](const Text& folder) {
+    const auto empty = [&](const Text& folder) {
         File1.set_path(folder);
-        for (const Text& file : File1.entries()) fso.DeleteFile(folder + Text(path_separator) + file);
-        RmDir(folder);
+        for (const Text& file : File1.entries()) fso.DeleteFile(fence.entry(joined_path(folder, file)));
     };
-    for (const Text& folder : folders) remove_folder(folder);
-    remove_folder(fence.folder());
+    for (const Text& folder : folders) {
+        empty(folder);
+        RmDir(fence.entry(folder));
+    }
+    empty(fence.folder());
+    RmDir(fence.itself());
 }
 
 void Form1::delete_rows(std::int16_t pid) {

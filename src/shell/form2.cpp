@@ -5,7 +5,7 @@
 #include "engine/text_toolkit.h"
 #include "inputs/form3.h"
 #include "platform/desktop.h"
-#include "platform/files.h"
+#include "platform/fence.h"
 #include "platform/numbers.h"
 #include "shell/form1.h"
 #include "shell/module1.h"
@@ -294,7 +294,7 @@ void Form2::store_targets() {
 /// A folder that is there is kept with all its content; a renamed project's old one stays where it is.
 void Form2::make_folder() const {
     const Fence fence(projects_folder(), txt_name[0].text());
-    if (!dir_exists(fence.folder())) MkDir(fence.folder());
+    if (!dir_exists(fence.folder())) MkDir(fence.itself());
 }
 
 } // namespace twk

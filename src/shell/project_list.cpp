@@ -2,7 +2,7 @@
 #include "shell/project_list.h"
 
 #include "platform/desktop.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "shell/form1.h"
 #include "store/stores.h"
 
@@ -27,9 +27,8 @@ std::map<int, int> rows_by_project(Database& store, const Text& table) {
 
 /// When the last page of a run was written, which is the local site map.
 Text last_run_of(const Text& project) {
-    const Text sep(path_separator);
     const std::filesystem::path page =
-        disk_path(beside_program(u"Projects") + sep + project + sep + u"sitemap-do-not-upload.htm");
+        disk_path(joined_path(beside_program(u"Projects"), project, u"sitemap-do-not-upload.htm"));
     std::error_code missing;
     const auto written = std::filesystem::last_write_time(page, missing);
     if (missing) return {};

@@ -2,8 +2,9 @@
 #include "store/database.h"
 
 #include "platform/faults.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "platform/numbers.h"
+#include "platform/process.h"
 #include "store/connection.h"
 
 #include <algorithm>
@@ -197,9 +198,17 @@ Database::RowState Database::row_state() const {
     return {connection.data_version(), connection.changed_rows()};
 }
 
+namespace {
+
+/// The connections of the process, by file, key and mode.
+struct OpenStores {
+    std::map<std::string, std::weak_ptr<Connection>> connections;
+};
+
+} // namespace
+
 Database OpenDatabase(const Text& path, bool exclusive, bool read_only, const Text& connect) {
     (void)exclusive; // stores are opened shared
-    static std::map<std::string, std::weak_ptr<Connection>> open;
     std::error_code error;
     const std::string file = std::filesystem::canonical(disk_path(path), error).string();
     if (error || !file_exists(path))
@@ -209,7 +218,8 @@ Database OpenDatabase(const Text& path, bool exclusive, bool read_only, const Te
     const std::string key =
         connect.starts_with(u";pwd=") ? to_utf8(TextView(connect).substr(5)) : std::string();
     // A handle with another key does not profit from one that is open.
-    std::weak_ptr<Connection>& kept = open[file + '\n' + key + (read_only ? "\nr" : "\nw")];
+    std::weak_ptr<Connection>& kept =
+        process().part<OpenStores>().connections[file + '\n' + key + (read_only ? "\nr" : "\nw")];
     Database database;
     database.connection_ = kept.lock();
     if (!database.connection_) {

@@ -2,7 +2,7 @@
 #include "store/store_setup.h"
 
 #include "platform/faults.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "store/carry_over.h"
 #include "store/store_file.h"
 

@@ -3,7 +3,7 @@
 
 #include "inputs/form5.h"
 #include "platform/desktop.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 
 namespace twk {
 

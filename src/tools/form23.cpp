@@ -4,7 +4,7 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/faults.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "platform/numbers.h"
 #include "store/stores.h"
 
@@ -78,8 +78,7 @@ void Form23::list_files_to_treat() {
     file_escondido.set_pattern(Trim(Text2.text()));
     if (file_escondido.list_count() == 0) throw RuntimeFault(fault_subscript);
     archivos.clear();
-    for (const Text& file : file_escondido.entries())
-        archivos.push_back(Dir2.path() + Text(path_separator) + file);
+    for (const Text& file : file_escondido.entries()) archivos.push_back(joined_path(Dir2.path(), file));
 }
 
 /// The newest entry stands at the top.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/run.h"
 #include "opened_addresses.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "settings/form6.h"
 #include "user.h"
 

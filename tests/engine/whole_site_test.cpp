@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "inputs/form7.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "platform/html.h"
 #include "reports/form12.h"
 #include "shell/form2.h"

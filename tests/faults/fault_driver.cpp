@@ -176,19 +176,15 @@ void lock_store(const Text& name) {
 int drive(const std::vector<std::string>& arguments) {
     std::ostringstream ignored;
     const cli::Console console{ignored, std::cerr};
-    const cli::Session session(console, arguments[0]);
-    SavingDesktop desktop(console);
-    Desktop* const before = set_desktop(&desktop);
+    cli::Session<SavingDesktop> session(console, arguments[0]);
     const std::string& action = arguments[1];
     const auto argument = [&](std::size_t i) { return i < arguments.size() ? arguments[i] : std::string(); };
     const Text project = from_utf8(argument(2));
     if (action == "import") import_words(project, argument(3));
-    if (action == "save") save_lists(desktop, project, std::stoi(argument(3)));
+    if (action == "save") save_lists(session.desktop, project, std::stoi(argument(3)));
     if (action == "copy") copy_project(project, std::stoi(argument(3)));
     if (action == "rows") print_stores();
     if (action == "lock") lock_store(project);
-    screens().dispatch([] { screens().unload_all(); });
-    set_desktop(before);
     return 0;
 }
 

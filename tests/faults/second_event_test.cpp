@@ -6,7 +6,7 @@
 #include "inputs/form3.h"
 #include "inputs/form5.h"
 #include "inputs/form7.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "reports/form12.h"
 #include "settings/form6.h"
 #include "shell/form2.h"

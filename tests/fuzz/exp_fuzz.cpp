@@ -3,7 +3,7 @@
 
 #include "fuzz_app.h"
 #include "inputs/form3.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/faults.h"
-#include "platform/files.h"
+#include "platform/fence.h"
 #include "support/faults.h"
 #include "support/temp_app.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
 namespace twk::test {
@@ -21,7 +22,7 @@ struct Projects : TempApp {
     }
     Text projects() const { return path(u"Projects"); }
     int checked(TextView relative) const {
-        return fault_of([&] { Fence(projects(), u"mine").check(path(relative)); });
+        return fault_of([&] { Fence(projects(), u"mine").within(path(relative)); });
     }
 };
 
@@ -47,13 +48,40 @@ TEST(Fence, LetsOnlyPathsInsideTheFolderThrough) {
         EXPECT_EQ(app.checked(path), fault_path_access) << to_utf8(path);
 }
 
+TEST(Fence, KeepsWorkInsideWhateverIsPutInTheWayMeanwhile) {
+    const Projects app;
+    const fs::path mine = app.folder() / "Projects" / "mine";
+    FileSystemObject files;
+    const Fence fence(app.projects(), u"mine");
+    const FencedPath page = fence.within(app.path(u"Projects/mine/main/precious.txt"));
+    const FencedPath last = fence.within(app.path(u"Projects/mine/last.htm"));
+    fs::create_symlink(app.folder() / "outside" / "precious.txt", mine / "last.htm");
+    EXPECT_EQ(fault_of([&] { files.OpenTextFile(last, OpenMode::writing, true); }), fault_path_access);
+    EXPECT_EQ(fault_of([&] { files.OpenTextFile(last, OpenMode::reading); }), fault_path_access);
+    fs::rename(mine / "main", mine / "moved");
+    fs::create_directory_symlink(app.folder() / "outside", mine / "main");
+    files.OpenTextFile(page, OpenMode::writing, true)->Close();
+    EXPECT_TRUE(fs::is_empty(mine / "moved" / "precious.txt"));
+    files.DeleteFile(page);
+    EXPECT_EQ(app.read(u"outside/precious.txt"), "precious");
+
+    const Descriptor root(::open(mine.c_str(), O_PATH));
+    for (const bool by_kernel : {true, false}) {
+        EXPECT_TRUE(open_beneath(root, ".", by_kernel));
+        EXPECT_TRUE(open_beneath(root, "moved", by_kernel));
+        for (const char* const out : {"main", "moved/../../other", "gone"})
+            EXPECT_FALSE(open_beneath(root, out, by_kernel)) << out;
+    }
+}
+
 TEST(DeleteFolder, RemovesLinksAndNeverFollowsThem) {
     const Projects app;
     fs::create_directory_symlink(app.folder() / "outside", app.folder() / "Projects" / "mine" / "out");
     fs::create_directory_symlink(app.folder() / "outside", app.folder() / "Projects" / "link");
     FileSystemObject files;
-    EXPECT_NE(fault_of([&] { files.DeleteFolder(app.path(u"Projects/link")); }), 0);
-    files.DeleteFolder(app.path(u"projects/Mine"));
+    const Fence own(app_path());
+    EXPECT_NE(fault_of([&] { files.DeleteFolder(own.entry(app.path(u"Projects/link"))); }), 0);
+    files.DeleteFolder(Fence(app.projects(), u"mine").itself());
     EXPECT_FALSE(dir_exists(app.path(u"Projects/mine")));
     EXPECT_EQ(app.read(u"outside/precious.txt"), "precious");
     MkDir(app.path(u"Projects/MINE")); // the name is free again, in any case

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/faults.h"
-#include "platform/files.h"
+#include "platform/fence.h"
 #include "platform/name_index.h"
 #include "support/faults.h"
 #include "support/temp_app.h"
@@ -103,6 +103,7 @@ TEST(Encodings, LoseNothing) {
 
 TEST(Names, AreFoundWithoutRegardToCase) {
     const TempApp app;
+    const Fence own(app_path());
     FileSystemObject files;
     MkDir(app.path(u"Projects"));
     write_page(app.path(u"PROJECTS/Página.HTM"), u"one");
@@ -117,10 +118,10 @@ TEST(Names, AreFoundWithoutRegardToCase) {
     EXPECT_EQ(read_text_file(app.path(u"projects/página.HTM")), u"exact");
     EXPECT_EQ(read_text_file(app.path(u"projects/Página.HTM")), u"two\r\n");
 
-    files.CopyFile(app.path(u"Projects/página.HTM"), app.path(u"projects/Copy.htm"));
-    files.CopyFile(app.path(u"Projects/página.HTM"), app.path(u"projects/COPY.htm"));
+    files.CopyFile(app.path(u"Projects/página.HTM"), own.within(app.path(u"projects/Copy.htm")));
+    files.CopyFile(app.path(u"Projects/página.HTM"), own.within(app.path(u"projects/COPY.htm")));
     EXPECT_EQ(list_files(app.path(u"projects"), u"c*"), (std::vector<Text>{u"COPY.htm"}));
-    files.DeleteFile(app.path(u"projects/copy.HTM"));
+    files.DeleteFile(own.within(app.path(u"projects/copy.HTM")));
     EXPECT_FALSE(file_exists(app.path(u"projects/COPY.htm")));
     write_page(app.path(u"projects/copy.htm"), u"again");
     EXPECT_TRUE(app.exists(u"Projects/copy.htm"));
@@ -128,6 +129,7 @@ TEST(Names, AreFoundWithoutRegardToCase) {
 
 TEST(Names, OfASoleWriterFollowTheProgramAndAfterwardsOthersToo) {
     const TempApp app;
+    const Fence own(app_path());
     MkDir(app.path(u"P"));
     app.write(u"P/Old.htm", "old");
     {
@@ -137,7 +139,7 @@ TEST(Names, OfASoleWriterFollowTheProgramAndAfterwardsOthersToo) {
         EXPECT_EQ(Dir(app.path(u"P/old.HTM")), u"Old.htm");
         write_page(app.path(u"P/New.htm"), u"one");
         EXPECT_EQ(Dir(app.path(u"P/new.htm")), u"New.htm");
-        FileSystemObject().MoveOver(app.path(u"P/New.htm"), app.path(u"P/OLD.htm"));
+        FileSystemObject().MoveOver(own.within(app.path(u"P/New.htm")), own.within(app.path(u"P/OLD.htm")));
         EXPECT_EQ(list_files(app.path(u"P"), u"*"), (std::vector<Text>{u"OLD.htm"}));
         EXPECT_TRUE(NameIndex::is_missing(to_utf8(app.path(u"P/New.htm"))));
     }
@@ -148,9 +150,10 @@ TEST(Names, OfASoleWriterFollowTheProgramAndAfterwardsOthersToo) {
 
 TEST(MoveOver, LeavesOneFileUnderTheNameAsGiven) {
     const TempApp app;
+    const Fence own(app_path());
     FileSystemObject files;
     const auto replace = [&](TextView sibling, TextView name) {
-        return fault_of([&] { files.MoveOver(app.path(sibling), app.path(name)); });
+        return fault_of([&] { files.MoveOver(own.within(app.path(sibling)), own.within(app.path(name))); });
     };
     MkDir(app.path(u"P"));
     app.write(u"P/Page.htm", "old");
@@ -198,6 +201,7 @@ TEST(Listings, MatchStarsInTimeThatAnyoneCanWaitFor) {
 
 TEST(Files, FaultsSayWhatIsWrong) {
     const TempApp app;
+    const Fence own(app_path());
     FileSystemObject files;
     MkDir(app.path(u"full"));
     app.write(u"full/x", "12345");
@@ -210,25 +214,29 @@ TEST(Files, FaultsSayWhatIsWrong) {
     EXPECT_EQ(fault_of([&] { write_page(app.path(u"none/x"), u""); }), fault_path_not_found);
     EXPECT_EQ(fault_of([&] { files.OpenTextFile(app.path(u"absent"), OpenMode::writing); }),
               fault_file_not_found);
-    EXPECT_EQ(fault_of([&] { files.DeleteFile(app.path(u"absent")); }), fault_file_not_found);
-    EXPECT_EQ(fault_of([&] { files.CopyFile(app.path(u"absent"), app.path(u"y")); }), fault_file_not_found);
-    EXPECT_EQ(fault_of([&] { files.DeleteFolder(app.path(u"absent")); }), fault_path_not_found);
+    EXPECT_EQ(fault_of([&] { files.DeleteFile(own.within(app.path(u"absent"))); }), fault_file_not_found);
+    EXPECT_EQ(fault_of([&] { files.CopyFile(app.path(u"absent"), own.within(app.path(u"y"))); }),
+              fault_file_not_found);
+    EXPECT_EQ(fault_of([&] { files.DeleteFolder(own.within(app.path(u"absent"))); }), fault_path_not_found);
     EXPECT_EQ(fault_of([&] { MkDir(app.path(u"Full")); }), fault_path_access);
     EXPECT_EQ(fault_of([&] { MkDir(app.path(u"none/sub")); }), fault_path_not_found);
-    EXPECT_EQ(fault_of([&] { RmDir(app.path(u"full")); }), fault_path_access);
+    EXPECT_EQ(fault_of([&] { RmDir(own.within(app.path(u"full"))); }), fault_path_access);
     EXPECT_EQ(fault_of([&] { FileLen(app.path(u"absent")); }), fault_file_not_found);
     EXPECT_EQ(fault_of([&] { write_page(app.path(Text(300, u'x')), u""); }), fault_path_access);
 }
 
 TEST(FullDisk, LeavesWhatWasThere) {
     const TempApp app;
+    const Fence own(app_path());
     const Text long_text(100000, u'x');
     app.write(u"old.htm", "old");
     app.write(u"big.gif", std::string(100000, 'x'));
     {
         const LengthLimit limit(50000);
         EXPECT_EQ(fault_of([&] { write_page(app.path(u"old.htm"), long_text); }), fault_disk_full);
-        EXPECT_EQ(fault_of([&] { FileSystemObject().CopyFile(app.path(u"big.gif"), app.path(u"copy.gif")); }),
+        EXPECT_EQ(fault_of([&] {
+                      FileSystemObject().CopyFile(app.path(u"big.gif"), own.within(app.path(u"copy.gif")));
+                  }),
                   fault_disk_full);
         EXPECT_EQ(fault_of([&] { write_page(app.path(u"new.htm"), long_text); }), fault_disk_full);
     }

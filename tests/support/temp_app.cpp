@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/temp_app.h"
 
-#include "platform/chance.h"
-#include "platform/screens.h"
-#include "shell/module1.h"
 #include "store/store_setup.h"
 
 #include <cstdlib>
@@ -47,12 +44,8 @@ void deliver(const fs::path& folder) {
 } // namespace
 
 TempApp::TempApp()
-    : clock(std::make_shared<FixedClock>(LocalTime{2026, 11, 24, 10, 18, 5, 0})), folder_(new_folder()),
-      app_path_before_(app_path()) {
-    set_app_path(from_utf8(folder_.string()));
-    set_clock(clock);
-    chance().fix_seed(1);
-    module1() = Module1();
+    : clock(std::make_shared<FixedClock>(LocalTime{2026, 11, 24, 10, 18, 5, 0})), folder_(new_folder()) {
+    guard_.emplace(desktop, from_utf8(folder_.string()), clock, 1);
     static const std::string hive_bytes = fresh_store("schema_hive.sql", "lantern4821");
     static const std::string synonyms_bytes = fresh_store("schema_synonyms.sql", "");
     write(u"hive.mdb", hive_bytes);
@@ -61,17 +54,13 @@ TempApp::TempApp()
 }
 
 TempApp::~TempApp() {
-    screens().unload_all();
-    set_clock(nullptr);
-    chance().release_seed();
-    module1() = Module1();
-    set_app_path(app_path_before_);
+    guard_.reset();
     std::error_code error;
     fs::remove_all(folder_, error);
 }
 
 Text TempApp::path(TextView relative) const {
-    return app_path() + Text(path_separator) + Text(relative);
+    return joined_path(app_path(), relative);
 }
 
 void TempApp::write(TextView relative, std::string_view bytes) const {

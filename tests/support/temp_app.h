@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/clock.h"
+#include "platform/process.h"
 #include "store/database.h"
 #include "support/test_desktop.h"
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 namespace twk::test {
 
@@ -48,7 +49,7 @@ class TempApp {
 
   private:
     std::filesystem::path folder_;
-    Text app_path_before_;
+    std::optional<ProcessGuard> guard_;
 };
 
 } // namespace twk::test

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/test_desktop.h"
 
-#include "platform/html.h"
 #include "platform/screens.h"
 
 #include <gtest/gtest.h>
@@ -45,11 +44,7 @@ Answer TestDesktop::MsgBox(const Message& message) {
         if (script.fits(message.text)) return script.answer;
     ADD_FAILURE() << "unexpected message: " << to_utf8(message.text)
                   << (expected_.empty() ? "" : "\n  expected: " + to_utf8(expected_.front().part));
-    switch (message.buttons) {
-    case Buttons::ok_cancel: return Answer::cancel;
-    case Buttons::yes_no: return Answer::no;
-    default: return Answer::ok;
-    }
+    return SilentDesktop::MsgBox(message);
 }
 
 namespace {
@@ -108,23 +103,8 @@ void TestDesktop::wait_modal(Screen& screen) {
 void TestDesktop::navigate(WebBrowser& browser, const Text& address) {
     navigated.push_back(address);
     const auto page = pages.find(address);
-    shown_[&browser] = page == pages.end() ? Text() : page->second;
+    shown(browser) = {address, page == pages.end() ? Text() : page->second};
     browser.location_url = address;
-}
-
-void TestDesktop::show_html(WebBrowser& browser, const Text& html) {
-    shown_[&browser] = html;
-}
-
-Text TestDesktop::inner_text(WebBrowser& browser) {
-    return visible_text(shown_[&browser]);
-}
-
-std::vector<Link> TestDesktop::links(WebBrowser& browser) {
-    std::vector<Link> all;
-    for (Text& address : page_links(shown_[&browser], browser.location_url()))
-        all.push_back({std::move(address)});
-    return all;
 }
 
 Text TestDesktop::fetch(Inet&, const Text& address) {

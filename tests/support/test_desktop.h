@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/desktop.h"
+#include "platform/silent_desktop.h"
 
 #include <deque>
 #include <functional>
@@ -12,7 +12,7 @@ namespace twk::test {
 
 /// A desktop that answers by a script and keeps all that it was asked. A message that no script expects fails
 /// the test and is answered as if the user wanted none of it.
-class TestDesktop : public Desktop {
+class TestDesktop : public SilentDesktop {
   public:
     TestDesktop();
     ~TestDesktop() override; ///< fails the test when a scripted message never came
@@ -60,20 +60,12 @@ class TestDesktop : public Desktop {
     Text get_setting(TextView section, TextView key, const Text& fallback) override;
     void say(const Text& what) override { said.push_back(what); }
     void quit() override { has_quit = true; }
-    void screen_loaded(Screen&) override {}
-    void screen_unloaded(Screen&) override {}
-    void screen_shown(Screen&) override {}
-    void screen_hidden(Screen&) override {}
-    void screen_forward(Screen&) override {}
     void wait_modal(Screen& screen) override;
     void navigate(WebBrowser& browser, const Text& address) override;
-    void show_html(WebBrowser& browser, const Text& html) override;
     void go_back(WebBrowser&) override { navigated.push_back(u"back"); }
     void go_forward(WebBrowser&) override { navigated.push_back(u"forward"); }
     void go_home(WebBrowser&) override { navigated.push_back(u"home"); }
     bool busy(WebBrowser&) override { return busy_rounds > 0 && busy_rounds-- > 0; }
-    Text inner_text(WebBrowser& browser) override;
-    std::vector<Link> links(WebBrowser& browser) override;
     Text fetch(Inet& inet, const Text& address) override;
 
   private:
@@ -85,7 +77,6 @@ class TestDesktop : public Desktop {
     };
     std::deque<Script> expected_;
     std::vector<Script> always_;
-    std::map<WebBrowser*, Text> shown_; ///< page per browser
     Desktop* before_;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "support/temp_app.h"
 #include "tools/form23.h"
 
