@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/closing_table.h"
 
-#include "platform/desktop.h"
-#include "platform/file_system.h"
+#include "reports/output_folders.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -14,21 +13,6 @@ namespace twk::cli {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-/// Pages may have any extension or none at all; pictures and movies are told by theirs.
-bool is_page(const Text& name) {
-    const Text lower = LCase(name);
-    return !lower.ends_with(u".gif") && !lower.ends_with(u".jpg") && !lower.ends_with(u".swf");
-}
-
-DestinationFigures measure_folder(const Text& path, const Text& name) {
-    DestinationFigures figures{.folder = name};
-    for (const Text& file : list_files(path, u"*")) {
-        ++(is_page(file) ? figures.pages : figures.other_files);
-        figures.bytes += FileLen(joined_path(path, file));
-    }
-    return figures;
-}
 
 std::string row(const std::string& name, std::size_t width, const std::string& pages,
                 const std::string& other, const std::string& bytes) {
@@ -47,9 +31,8 @@ std::string lines(const Json& object) {
 
 ClosingFigures measure_output(const Text& project_folder) {
     ClosingFigures figures;
-    for (const Text& folder : list_folders(project_folder))
-        figures.destinations.push_back(measure_folder(joined_path(project_folder, folder), folder));
-    figures.destinations.push_back(measure_folder(project_folder, {}));
+    for (const OutputFolder& each : measure_folders(project_folder))
+        figures.destinations.push_back({each.folder, each.pages, each.other_files, each.bytes});
     for (const DestinationFigures& each : figures.destinations) {
         figures.total.pages += each.pages;
         figures.total.other_files += each.other_files;

@@ -56,22 +56,41 @@ Status run_command(std::vector<std::string> arguments, const Console& console) {
     const auto* const list = app.add_subcommand("list", "List the projects");
 
     GenerateOptions options;
+    ExplainOptions explained;
     std::string now;
+    const auto add_now = [&now](::CLI::App* command) {
+        command->add_option("--now", now, "Moment that the run takes for the present")
+            ->type_name("\"YYYY-MM-DD HH:MM:SS\"")
+            ->check(::CLI::Validator(check_moment, ""));
+    };
     auto* const generate = app.add_subcommand("generate", "Generate the pages of a project");
     generate->add_option("project", options.project, "Name of the project")->type_name("PROJECT")->required();
     generate
         ->add_option("--seed", options.seed,
                      "Start of the random numbers: the same seed gives the same pages")
         ->type_name("N");
-    generate->add_option("--now", now, "Moment that the run takes for the present")
-        ->type_name("\"YYYY-MM-DD HH:MM:SS\"")
-        ->check(::CLI::Validator(check_moment, ""));
-    generate->add_option("--report", options.report, "Write the analysis of all pages to a file, as JSON")
+    add_now(generate);
+    generate
+        ->add_option("--report", options.report,
+                     "Write the report of all pages to a file: .html, .csv or .json by its ending, else JSON")
         ->type_name("FILE");
     generate->add_flag("--json", options.json, "Print the closing figures as JSON");
 
     auto* const check = app.add_subcommand("check", "Walk a project through the checks of the wizard");
     check->add_option("project", options.project, "Name of the project")->type_name("PROJECT")->required();
+
+    auto* const explain =
+        app.add_subcommand("explain", "Tell how a seeded run makes one page; no file of the project changes");
+    explain->add_option("project", explained.project, "Name of the project")
+        ->type_name("PROJECT")
+        ->required();
+    explain->add_option("page", explained.page, "The page: FILE, FOLDER/FILE or its address")
+        ->type_name("PAGE")
+        ->required();
+    explain->add_option("--seed", explained.seed, "The seed that `generate` was given")
+        ->type_name("N")
+        ->required();
+    add_now(explain);
 
     try {
         std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back
@@ -81,7 +100,8 @@ Status run_command(std::vector<std::string> arguments, const Console& console) {
     }
     if (list->parsed()) return list_projects(console, folder);
     if (check->parsed()) return check_project(console, folder, options.project);
-    options.now = parse_moment(now);
+    options.now = explained.now = parse_moment(now);
+    if (explain->parsed()) return explain_page(console, folder, explained);
     return generate_project(console, folder, options);
 }
 

@@ -10,7 +10,8 @@
 #include <string>
 #include <vector>
 
-/// The command line: `tarnwick-cli [--app DIR] list | generate PROJECT | check PROJECT`.
+/// The command line: `tarnwick-cli [--app DIR] list | generate PROJECT | check PROJECT |
+/// explain PROJECT PAGE`.
 namespace twk::cli {
 
 /// How a command ended, as the process tells it.
@@ -36,6 +37,12 @@ struct GenerateOptions {
     bool json = false;            ///< the closing figures as JSON, and nothing else, on `out`
 };
 
+struct ExplainOptions {
+    std::string project, page;
+    std::uint64_t seed = 0;
+    std::optional<LocalTime> now;
+};
+
 /// Names of all projects in the order of the store, one a line.
 Status list_projects(const Console& console, const std::filesystem::path& application_folder);
 
@@ -46,6 +53,11 @@ Status check_project(const Console& console, const std::filesystem::path& applic
 /// Walks the wizard and lets the run write its pages.
 Status generate_project(const Console& console, const std::filesystem::path& application_folder,
                         const GenerateOptions& options);
+
+/// Lets a seeded run write its pages into a folder of its own, which goes afterwards, and tells how one of
+/// them was made. Refused when there is no such page.
+Status explain_page(const Console& console, const std::filesystem::path& application_folder,
+                    const ExplainOptions& options);
 
 /// The whole program: reads the arguments (without the program's name) and runs the command. Returns the
 /// process's status; no exception comes out.

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/closing_table.h"
 #include "cli/commands.h"
-#include "cli/report_json.h"
 #include "cli/wizard.h"
 #include "engine/run.h"
 #include "platform/file_system.h"
+#include "reports/form12.h"
+#include "reports/report_file.h"
 #include "settings/form6.h"
 
 #include <chrono>
@@ -33,9 +34,11 @@ bool can_be_written(const std::filesystem::path& file) {
 }
 
 Status write_report(const Console& console, const std::filesystem::path& file) {
-    const Form12& report = screen<Form12>();
+    // An ending that is none of these has always been JSON.
+    const ReportFormat format = format_of(from_utf8(file.string())).value_or(ReportFormat::json);
+    const std::optional<std::string> written = written_report(screen<Form12>(), format);
     std::ofstream stream(file, std::ios::binary);
-    stream << report_as_json(report.informe, report.xKeyWords);
+    stream << written.value_or("");
     stream.close();
     if (stream) return Status::done;
     console.err << "The report could not be written to " << file.string() << ".\n";

@@ -2,12 +2,19 @@
 #include "engine/boxes.h"
 
 #include "engine/page_choices.h"
+#include "engine/page_record.h"
 #include "engine/project.h"
 #include "engine/text_toolkit.h"
 #include "platform/numbers.h"
 #include "platform/subscript.h"
 
 namespace twk {
+
+std::uint8_t Boxes::number_of(std::int32_t cid) const {
+    for (int i = 0; i <= ultima_caja; ++i)
+        if (at(cids, i) == cid) return static_cast<std::uint8_t>(i);
+    return PageRecord::no_box;
+}
 
 const Text& Boxes::box(int index) const {
     return at(contenidos, index);
@@ -61,6 +68,7 @@ void measure_boxes(Boxes& boxes, Project& project, const PageChoices& choices) {
                                                   u" content boxes; so many or fewer in Step 3 would do.");
         Text& kept = at(boxes.contenidos, i);
         Text raw = rows.Fields(u"content").text();
+        at(boxes.cids, i) = static_cast<std::int32_t>(rows.Fields(u"cid").number());
         Text t = limpiar_html(raw);
         const std::int16_t words = contar_palabras(t); // spaces the tags of what is kept
         at(boxes.palabras_caja, i) = words;

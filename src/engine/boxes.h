@@ -22,8 +22,11 @@ struct Boxes {
     std::array<Text, max_boxes> contenidos;
     std::array<std::int16_t, max_boxes> palabras_caja{};
     std::array<std::vector<std::int16_t>, max_boxes> densidades; ///< [box][keyword], per cent
+    std::array<std::int32_t, max_boxes> cids{};                  ///< their keys in the store
     std::int16_t ultima_caja = -1;
 
+    /// Number of the box with the key; `PageRecord::no_box` when none of these has it.
+    std::uint8_t number_of(std::int32_t cid) const;
     /// Prepared text of a box. Fault 9 outside 0 to 100.
     const Text& box(int index) const;
     /// The same with every sentence in a paragraph of its own, made when first asked for: many pages draw the

@@ -30,9 +30,12 @@ void append_links(OpenPage& page, const Text& path, const Text& links, bool inde
 }
 
 /// The report gets the link that the last written page left, whatever this page holds.
-void report_page(Run& run, const Text& path, const Text& file) {
+void report_page(Run& run, const Text& path, const Text& file, TextView links) {
+    static const PageRecord unknown;
     if (run.enlace_padre.empty()) run.enlace_padre = u"Not linking to any Main Target page.";
-    analizar_pagina(run, path, file.ends_with(u"_js" + run.plan.extension) ? u"YES" : u"NO");
+    const auto known = run.made_pages.find(LCase(path));
+    analizar_pagina(run, path, file.ends_with(u"_js" + run.plan.extension) ? u"YES" : u"NO",
+                    known == run.made_pages.end() ? unknown : known->second, links);
 }
 
 void move_progress(Run& run, int position) {
@@ -54,7 +57,7 @@ void cross_link_pass(Run& run, const Text& folder) {
         run.page.pagina_actual = path;
         append_links(run.page, path, links, file == u"index" + run.plan.extension);
         run.page.pagina_actual.clear();
-        report_page(run, path, file);
+        report_page(run, path, file, links);
         move_progress(run, position++);
     }
 }

@@ -19,6 +19,7 @@ void flash(OpenPage& page, Text& t) {
 }
 
 void write_flash_object(OpenPage& page, const Text& t) {
+    page.made.movie = true;
     page.writeline(uR"(<OBJECT classid="clsid:D27CDB6E-AE6D-11cf-96B8-444553540000" )"
                    uR"(codebase = "{1}/pub/shockwave/cabs/flash/swflash.cab#version=5,0,0,0" )"
                    uR"(WIDTH=450 HEIGHT=75>)",
@@ -58,6 +59,7 @@ Text imagen(Run& run, int kind, TextView alt, const Text& folder, const Text& st
     const Text ext = Right(f, 4);
     run.mensaje_error = u"Copying image + Creating Tag " + f;
     if (kind == 2) return {};
+    run.page.made.picture = true;
     const Text name = rspaces(run.choices, LCase(stem)) + ext;
     // The test is for the name as it came, the copy goes to the cleaned one.
     if (!run.page.fso.FileExists(joined_path(folder, stem + ext))) {

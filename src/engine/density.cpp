@@ -18,6 +18,13 @@ namespace {
 constexpr int sentences_in_use = 10; ///< the eleventh is kept, and never picked
 constexpr int kept_pieces = 500;
 
+/// The text with the first occurrence between blanks replaced, which is noted.
+Text replaced_once(PageRecord& made, const Text& text, const Text& keyword, const Text& with) {
+    const Text find = fill(u" {1} ", keyword);
+    if (contains(text, find)) made.count_replaced(1);
+    return Replace(text, find, fill(u" {1} ", with), 1);
+}
+
 /// At most one replacement is made: the choice is switched off by the first pass and on again at the end.
 Text limited(Run& run, Text t, const Text& keyword) {
     const GatewaySettings& s = run.settings;
@@ -30,7 +37,7 @@ Text limited(Run& run, Text t, const Text& keyword) {
         if (n <= s.max_repeticiones || !on) break;
         Text r;
         if (contains(Right(t, 100 * c), keyword))
-            r = Replace(Right(t, 50 * c), fill(u" {1} ", keyword), fill(u" {1} ", s.kw_sustituto), 1);
+            r = replaced_once(run.page.made, Right(t, 50 * c), keyword, s.kw_sustituto);
         // Without the keyword at the end the text just loses its last 50 units, inside a tag or not.
         if (50 * c < Len(t)) t = Left(t, Len(t) - 50 * c) + r;
         run.choices.set_limit_repetitions(false);
@@ -80,24 +87,27 @@ Text recalcular(Run& run, const Text& texto, const Text& keyword) {
     Text t = texto;
     Text medida = keyword;
     contar_kw(t, medida); // spaces the tags
-    if (choices.grow_short_texts()) t = pocas_palabras(run.boxes, run.settings, t);
+    if (choices.grow_short_texts()) t = pocas_palabras(run.boxes, run.settings, t, &run.page.made.added);
     if (choices.cut_long_texts()) t = muchas_palabras(run, t);
     if (!trim_view(t).empty()) {
         const int d = box_density(choices);
         Text s = u"<p>" + t + u"<p>";
-        t = Ajustar_KW(choices, s, keyword, d);
+        t = fitted_text(run, s, keyword, {.which = 0, .row = run.indice_kw, .density = d});
         replace_all(t, u"...-", u"...");
     }
     if (!choices.limit_repetitions()) return t;
     return limited(run, std::move(t), keyword);
 }
 
-Text pocas_palabras(const Boxes& boxes, const GatewaySettings& settings, Text& texto) {
+Text pocas_palabras(const Boxes& boxes, const GatewaySettings& settings, Text& texto,
+                    std::vector<std::uint8_t>* drawn) {
     std::int16_t w = contar_palabras(texto);
     for (int tries = 0; w < settings.min_palabras && tries < 5; ++tries) {
         const int need = settings.min_palabras - w;
         // The last box is never drawn.
-        const Text& b = boxes.box(static_cast<int>(Int(chance().Rnd() * boxes.ultima_caja)));
+        const auto number = static_cast<int>(Int(chance().Rnd() * boxes.ultima_caja));
+        const Text& b = boxes.box(number);
+        if (drawn != nullptr) drawn->push_back(static_cast<std::uint8_t>(number));
         if (!trim_view(b).empty()) texto += u" " + cortar_palabras(b, need + 1);
         w = contar_palabras(texto);
     }
@@ -120,22 +130,48 @@ Text muchas_palabras(Run& run, Text& texto) {
     return texto;
 }
 
-Text Ajustar_KW(const PageChoices& choices, Text& texto, const Text& keyword, int densidad_pedida) {
+Text Ajustar_KW(const PageChoices& choices, Text& texto, const Text& keyword, int densidad_pedida,
+                int* put_in) {
     if (trim_view(texto).empty() || densidad_pedida < 1) return {};
     SpacedText spaced(std::move(texto));
-    Text out = Ajustar_KW(choices, spaced, keyword, densidad_pedida);
+    Text out = Ajustar_KW(choices, spaced, keyword, densidad_pedida, put_in);
     texto = std::move(spaced.texto);
     return out;
 }
 
 Text Ajustar_KW(const PageChoices& choices, const SpacedText& spaced, const Text& keyword,
-                int densidad_pedida) {
+                int densidad_pedida, int* put_in) {
     const Text k = Trim(keyword);
-    LinkingSentences sentences{{}, [&] { return linking_sentence(choices, k); }};
+    LinkingSentences sentences{{}, [&] { return linking_sentence(choices, k); }, put_in};
     for (int i = 0; i < sentences_in_use; ++i)
         if (Text ancla = Trim(at(choices.settings().palabras_ancla, i)); !ancla.empty())
             sentences.anchors.push_back(std::move(ancla));
     return Ajustar_KW(spaced, k, densidad_pedida, sentences);
+}
+
+namespace {
+
+void note(PageRecord& made, const FittingTo& to, int sentences, bool emptied) {
+    made.fittings[to.which] = {static_cast<std::int16_t>(to.density), static_cast<std::int16_t>(to.row), true,
+                               emptied};
+    made.sentences = static_cast<std::int16_t>(made.sentences + sentences);
+}
+
+} // namespace
+
+Text fitted_text(Run& run, Text& texto, const Text& keyword, const FittingTo& to) {
+    int sentences = 0;
+    const bool before = !trim_view(texto).empty();
+    Text out = Ajustar_KW(run.choices, texto, keyword, to.density, &sentences);
+    note(run.page.made, to, sentences, before && out.empty());
+    return out;
+}
+
+Text fitted_text(Run& run, const SpacedText& spaced, const Text& keyword, const FittingTo& to) {
+    int sentences = 0;
+    Text out = Ajustar_KW(run.choices, spaced, keyword, to.density, &sentences);
+    note(run.page.made, to, sentences, !spaced.piezas.empty() && out.empty());
+    return out;
 }
 
 int xrnum2(int n) {

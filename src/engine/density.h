@@ -21,8 +21,10 @@ int box_density(const PageChoices& choices);
 /// settings are all empty.
 Text recalcular(Run& run, const Text& texto, const Text& keyword);
 
-/// Adds words from drawn boxes while the text has fewer than `min_palabras`, five times at most. In place.
-Text pocas_palabras(const Boxes& boxes, const GatewaySettings& settings, Text& texto);
+/// Adds words from drawn boxes while the text has fewer than `min_palabras`, five times at most. In place;
+/// `drawn` gets the numbers of the boxes.
+Text pocas_palabras(const Boxes& boxes, const GatewaySettings& settings, Text& texto,
+                    std::vector<std::uint8_t>* drawn = nullptr);
 
 /// Cuts a text of more than `max_palabras` words to its first 500 pieces, which go to a read-more page. In
 /// place. Fault 9 when there are fewer pieces.
@@ -31,11 +33,23 @@ Text muchas_palabras(Run& run, Text& texto);
 /// The text in segments of about 100 / `densidad_pedida` pieces, each with a sentence that links the keyword
 /// in front of its first anchor word. Empty when the text is, when the density is below 1, or above 50. The
 /// argument gets its tags spaced; a fault leaves it empty. Faults 6 (words times density past 16 bits), 9 (an
-/// anchor word past the last piece), 1001.
-Text Ajustar_KW(const PageChoices& choices, Text& texto, const Text& keyword, int densidad_pedida);
+/// anchor word past the last piece), 1001. `put_in` goes up by the sentences.
+Text Ajustar_KW(const PageChoices& choices, Text& texto, const Text& keyword, int densidad_pedida,
+                int* put_in = nullptr);
 /// The same for a text that is ready to get sentences.
 Text Ajustar_KW(const PageChoices& choices, const SpacedText& spaced, const Text& keyword,
-                int densidad_pedida);
+                int densidad_pedida, int* put_in = nullptr);
+
+/// What a page's text is fitted to, and where the page's record notes it.
+struct FittingTo {
+    std::size_t which; ///< 0 or 1, in the order of the page
+    int row;           ///< of the keyword table, -1 for a subkeyword
+    int density;       ///< per cent
+};
+
+/// `Ajustar_KW` of the text of the page under way.
+Text fitted_text(Run& run, Text& texto, const Text& keyword, const FittingTo& to);
+Text fitted_text(Run& run, const SpacedText& spaced, const Text& keyword, const FittingTo& to);
 
 /// The draw of `xrnum`.
 int xrnum2(int n);

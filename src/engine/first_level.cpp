@@ -38,6 +38,8 @@ void write_page(Run& run) {
     const Text path = run.plan.in_main_folder(rspaces(run.choices, keyword) + run.plan.extension);
     OpenPage& page = run.page;
     page.open(path);
+    page.made.keyword = run.indice_kw;
+    page.made.layout = run.choices.layout();
     write_title(run, keyword);
     meta(page, run.choices, run.project, keyword, run.lista_kw);
     page.writeline(u"");
@@ -55,28 +57,30 @@ void write_page(Run& run) {
     run.report.set_progress(run.report.progress() + Int(25.0 / run.project.n_keywords) / 1.7);
 }
 
-/// Text of the box that the keyword's ties lead to; nothing when it has none.
-std::optional<Text> tied_text(Run& run, const Text& keyword) {
+/// Text of the box that the keyword's ties lead to; nothing when it has none. `cid` gets the box's key.
+std::optional<Text> tied_text(Run& run, const Text& keyword, std::int16_t& cid) {
     const Text pid = to_text(run.choices.project_key());
     Database& store = run.project.base_datos;
     Recordset tie = store.OpenRecordset(u"select * from ties , keywords where ties.pid = " + pid +
                                         u" and ties.keyid = keywords.keyid and keywords.keyword = '" +
                                         keyword + u"' and keywords.pid = " + pid);
     if (tie.eof()) return std::nullopt;
+    cid = CInt(tie.Fields(u"cid").number());
     Text text;
-    for (Recordset box = store.OpenRecordset(u"select  *  from content where cid = " +
-                                             to_text(CInt(tie.Fields(u"cid").number())));
+    for (Recordset box = store.OpenRecordset(u"select  *  from content where cid = " + to_text(cid));
          !box.eof(); box.MoveNext())
         text = box.Fields(u"content").text();
     return text;
 }
 
-/// Box for a keyword without a tie.
-int chosen_box(const Boxes& boxes, int k) {
+/// Box for a keyword without a tie, noted in the page's record.
+int chosen_box(const Boxes& boxes, int k, PageRecord& made) {
     int b = 0;
     for (int i = 0; i <= boxes.ultima_caja; ++i)
         if (at(at(boxes.densidades, i), k) > b) b = i; // compared with the box held, not with its density
+    made.choice = b == 0 ? BoxChoice::drawn : BoxChoice::densest;
     if (b == 0) b = static_cast<int>(Int(chance().Rnd() * boxes.ultima_caja));
+    made.boxes.push_back(static_cast<std::uint8_t>(b));
     return b;
 }
 
@@ -89,8 +93,9 @@ bool first_level_reads_density(Run& run) {
         return false; // a page may draw it
     if (run.choices.fit_tied_texts()) return true;
     int k = 0;
+    std::int16_t cid = 0;
     do
-        if (!tied_text(run, run.project.tabla_kw.at(k))) return true;
+        if (!tied_text(run, run.project.tabla_kw.at(k), cid)) return true;
     while (!run.project.tabla_kw.at(++k).empty());
     return false;
 }
@@ -139,13 +144,18 @@ Text TP1_linktosecondary(const Run& run) {
 
 Text TP1_content(Run& run, int k) {
     const Text keyword = run.project.tabla_kw.at(k);
+    PageRecord& made = run.page.made;
     Text t;
-    if (std::optional<Text> tied = tied_text(run, keyword)) {
+    std::int16_t cid = 0;
+    if (std::optional<Text> tied = tied_text(run, keyword, cid)) {
         t = std::move(*tied); // as it was typed
+        made.choice = BoxChoice::tied;
+        made.boxes.push_back(run.boxes.number_of(cid));
         if (run.choices.fit_tied_texts()) t = recalcular(run, t, keyword);
     } else {
-        t = recalcular(run, run.boxes.box(chosen_box(run.boxes, k)), keyword);
+        t = recalcular(run, run.boxes.box(chosen_box(run.boxes, k, made)), keyword);
     }
+    made.empty_text = trim_view(t).empty();
     run.report.status(u"Optimizing First-Level Page");
     if (run.choices.highlight_keywords()) t = highLight(run.project, run.settings, t);
     Text s = fill(u"<p>{1}<p>{2}", t, list_comment(run.choices, run.lista_kw));

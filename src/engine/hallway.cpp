@@ -208,6 +208,7 @@ void hallway_page(Run& run) {
     else
         write_generated(run);
     run.page.close();
+    run.report.links_from(run.page.ultima_pagina, run.page.ultimo_texto);
     run.report.status(u"Displaying Results in Reports");
 }
 

@@ -35,6 +35,8 @@ void index_page(Run& run, const Text& folder) {
     OpenPage& page = run.page;
     const Text stem = joined_path(folder, u"index");
     page.pagina_actual = stem + run.plan.extension;
+    page.made = {};
+    page.made.index = true;
     const FencedPath path = page.fence->within(page.pagina_actual);
     const FencedPath finished = page.fence->within(stem + u".htm"); // whatever the extension
     const FencedPath aux = page.fence->within(page.pagina_actual + u"aux");
@@ -50,6 +52,7 @@ void index_page(Run& run, const Text& folder) {
     page.fso.CopyFile(aux.text(), finished);
     page.fso.DeleteFile(aux);
     page.count();
+    run.made_pages.insert_or_assign(LCase(finished.text()), page.made);
     page.pagina_actual.clear();
 }
 

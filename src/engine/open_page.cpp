@@ -7,6 +7,7 @@ namespace twk {
 
 void OpenPage::open(const Text& path) {
     pagina_actual = path;
+    made = {};
     origen.emplace(fence->within(path), fence->within(path + u"aux"));
     salida = origen->open(TextKind::page);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/fill.h"
+#include "engine/page_record.h"
 #include "platform/fence.h"
 #include "platform/text.h"
 
@@ -20,6 +21,8 @@ struct OpenPage {
     Text pagina_actual;                 ///< its path, for a fault's message; empty between pages
     Text ultima_pagina, ultimo_texto;   ///< path and text of the page written last
 
+    PageRecord made; ///< how the page under way, or the one written last, is made
+
     // What the end of a run tells.
     std::int64_t pages_written = 0;
     std::int64_t bytes_written = 0;
@@ -27,7 +30,8 @@ struct OpenPage {
     std::function<void()> written; ///< told of each page that is counted
 
     /// Proves that the page itself can be opened, one that is missing being made empty in the end, and starts
-    /// `salida` on its sibling, the name plus "aux". Fault 75 when the path leaves the project.
+    /// `salida` on its sibling, the name plus "aux", and an empty record. Fault 75 when the path leaves the
+    /// project.
     void open(const Text& path);
     /// Closes both streams; the sibling takes the page's place. Counts the page.
     void close();

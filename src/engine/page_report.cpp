@@ -5,7 +5,12 @@
 
 namespace twk {
 
-void analizar_pagina(Run& run, const Text& path, const Text& redirects) {
+void analizar_pagina(Run& run, const Text& path) {
+    analizar_pagina(run, path, {}, run.page.made, {});
+}
+
+void analizar_pagina(Run& run, const Text& path, const Text& redirects, const PageRecord& made,
+                     TextView siblings) {
     std::int16_t* const counts[] = {&run.cuenta1, &run.cuenta2, &run.cuenta3};
     if (run.fase < 1 || run.fase > 3) return;
     OpenPage& page = run.page;
@@ -14,7 +19,7 @@ void analizar_pagina(Run& run, const Text& path, const Text& redirects) {
     // The page's own redirection must not carry the preview away.
     replace_all(texto_informe, u"document.navigate", u"$$$document.navigate");
     std::int16_t& index = *counts[run.fase - 1];
-    run.report.analyse({path, texto_informe, run.fase, run.enlace_padre, redirects}, index);
+    run.report.analyse({path, texto_informe, run.fase, run.enlace_padre, redirects, made, siblings}, index);
     ++index;
 }
 

@@ -53,6 +53,19 @@ Text joined_boxes(Boxes& boxes, const ContentPool& pool, int m, std::size_t& who
     return s;
 }
 
+/// Notes the boxes of the page: those drawn and the one that an earlier page left. Without a word in any of
+/// them there is no text.
+void note_boxes(Run& run, const ContentPool& pool, int m) {
+    PageRecord& made = run.page.made;
+    made.empty_text = true;
+    for (int i = 0; i <= m; ++i) {
+        const int box = at(pool.seleccion, i);
+        made.boxes.push_back(box == ContentPool::nothing ? PageRecord::no_box
+                                                         : static_cast<std::uint8_t>(box));
+        if (box != ContentPool::nothing && !trim_view(run.boxes.box(box)).empty()) made.empty_text = false;
+    }
+}
+
 /// Draws the densities of a text of so many units; at exactly the limit those of the page before stay.
 void draw_densities(ContentPool& pool, const GatewaySettings& bounds, std::size_t units) {
     if (units > long_text) {
@@ -64,11 +77,13 @@ void draw_densities(ContentPool& pool, const GatewaySettings& bounds, std::size_
     }
 }
 
-/// Fits the text to a drawn keyword, in `below` of ten cases.
-void perhaps_adjust(Run& run, Text& s, int below, int density) {
+/// Fits the text to a drawn keyword, in `below` of ten cases. What was drawn is noted as fitting `which`.
+void perhaps_adjust(Run& run, Text& s, int below, int density, std::size_t which) {
+    run.page.made.fittings[which].density = static_cast<std::int16_t>(density);
     if (xrnum2(10) >= below) return;
-    const Text keyword = run.project.tabla_kw.at(xrnum2(run.project.n_keywords));
-    s = Ajustar_KW(run.choices, s, keyword, density);
+    const int row = xrnum2(run.project.n_keywords);
+    const Text keyword = run.project.tabla_kw.at(row);
+    s = fitted_text(run, s, keyword, {which, row, density});
 }
 
 } // namespace
@@ -82,8 +97,10 @@ ContentPool::ContentPool(const Boxes& boxes) : n_fuente(2 * boxes.ultima_caja) {
 
 Text tp3_content(Run& run, ContentPool& pool) {
     const PageChoices& choices = run.choices;
+    PageRecord& made = run.page.made;
     std::size_t units = 0;
     const int drawn = draw_boxes(pool);
+    note_boxes(run, pool, drawn);
     Text s = joined_boxes(run.boxes, pool, drawn, units);
     if (choices.animations() && percent_draw() < 35) {
         Text words = Trim(Replace(run.lista_kw, u",", u""));
@@ -95,17 +112,19 @@ Text tp3_content(Run& run, ContentPool& pool) {
         s += split_sentences(list); // begins with a tag
     }
     draw_densities(pool, run.settings, units);
-    perhaps_adjust(run, s, 7, pool.d1);
+    made.units = static_cast<std::int32_t>(units);
+    perhaps_adjust(run, s, 7, pool.d1, 0);
     run.report.status(u"Optimizing Random-Generated Pages [1/2] ");
     DoEvents();
     run.report.status(u"Optimizing Random-Generated Pages [2/2] ");
     DoEvents();
-    perhaps_adjust(run, s, 4, pool.d2);
+    perhaps_adjust(run, s, 4, pool.d2, 1);
+    made.empty_text = made.empty_text || s.empty();
     const int kept = xrnum(40);
     if (choices.limit_repetitions()) {
         ++run.cuenta_archivos;
-        limit_keywords(run.project, run.settings, run.report, s, kept,
-                       u" for file " + to_text(run.cuenta_archivos));
+        made.count_replaced(limit_keywords(run.project, run.settings, run.report, s, kept,
+                                           u" for file " + to_text(run.cuenta_archivos)));
     }
     if (choices.highlight_keywords()) s = highLight(run.project, run.settings, s);
     return fill(u"{1}<p>{2}<p></font>", font_line(choices), s);
@@ -113,7 +132,8 @@ Text tp3_content(Run& run, ContentPool& pool) {
 
 Text random_content(Run& run, ContentPool& pool) {
     const Text text = tp3_content(run, pool);
-    return run.choices.use_synonyms() ? run.synonyms.sinonimo(text) : text;
+    run.page.made.synonyms = run.choices.use_synonyms();
+    return run.page.made.synonyms ? run.synonyms.sinonimo(text) : text;
 }
 
 } // namespace twk

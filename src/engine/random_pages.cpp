@@ -75,7 +75,10 @@ void write_page(RandomPhase& phase, int destination, int n, int c) {
     draw_unused_list(run.project);
     page.open(path);
     write_title(run);
-    run.lista_kw = drawn_keyword(run.project) + u" , " + run.choices.category();
+    const int row = xrnum(run.project.n_keywords);
+    run.lista_kw = run.project.tabla_kw.at(row) + u" , " + run.choices.category();
+    page.made.keyword = static_cast<std::int16_t>(row);
+    page.made.layout = run.choices.layout();
     write_random_head(run, run.settings.meta_atributo);
     if (run.choices.animations()) copy_flash_movie(page, phase.carpeta);
     switch (run.choices.layout()) {
@@ -88,6 +91,7 @@ void write_page(RandomPhase& phase, int destination, int n, int c) {
     page.writeline(u"</td></tr></table><center>");
     page.writeline(font_line(run.choices)); // the cross-links bring the closing tags
     page.close();
+    run.made_pages.insert_or_assign(LCase(path), page.made);
 }
 
 /// Folder and host of a destination; the first one is the main host's second folder.
@@ -128,6 +132,7 @@ void random_pages(Run& run) {
         }
         cross_link_pass(run, phase.carpeta);
     }
+    run.made_pages.clear();
 }
 
 void write_random_head(Run& run, TextView revisit_attribute) {

@@ -62,6 +62,7 @@ Text fs_rm(Run& run, Text& t) {
         write_read_more(run, path, t);
     } catch (const RuntimeFault&) { // the link stays, whether there is a page behind it or not
     }
+    run.page.made.read_more = true;
     t +=
         fill(uR"(... <br><br><h4>To Read the Complete Article <a href="{1}">click Here</a>.</h4><br>)", path);
     run.mensaje_error.clear();

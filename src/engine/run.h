@@ -9,6 +9,8 @@
 #include "engine/run_report.h"
 #include "engine/synonyms.h"
 
+#include <unordered_map>
+
 namespace twk {
 
 /// State of one run, made anew by each: its parts, and where it stands. What one phase alone needs lives in
@@ -32,6 +34,8 @@ struct Run {
     Text lista_kw;                                      ///< keyword list of the page under way
     std::int16_t cuenta1 = 0, cuenta2 = 0, cuenta3 = 0; ///< next report index per page kind
     std::int16_t cuenta_archivos = 0;
+    /// Records of the random pages until they are reported, by path in lower case.
+    std::unordered_map<Text, PageRecord> made_pages;
     Text enlace_padre;     ///< what a page leaves for the report: where it links to
     Text mensaje_error;    ///< the stage under way
     double seconds = 0;    ///< from the empty report to the last page, once that is written

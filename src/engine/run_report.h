@@ -7,6 +7,7 @@
 
 namespace twk {
 
+struct PageRecord;
 struct Project;
 
 /// What the report is told of a page.
@@ -16,6 +17,8 @@ struct WrittenPage {
     int kind;              ///< 1 first-level, 2 second-level, 3 random
     const Text& links_to;  ///< where a second-level or random page links to
     const Text& redirects; ///< "YES" or "NO" for a random page
+    const PageRecord& made;
+    TextView siblings; ///< the links at the end of the text that all pages of its folder share; or empty
 };
 
 /// Report indices behind the last page of each kind; the kinds follow each other.
@@ -41,6 +44,8 @@ class RunReport {
     virtual void page_written() = 0;
     /// Analyses a page under an index that no other page has. No fault comes out.
     virtual void analyse(const WrittenPage& page, std::int16_t index) = 0;
+    /// A page that is written and not analysed: it links to others.
+    virtual void links_from(const Text& path, const Text& text) = 0;
     /// Lists the pages of each kind and lets the user at them.
     virtual void finish(int first_level_pages, const PageCounts& counts) = 0;
 };

@@ -42,7 +42,7 @@ void write_title(Run& run, Text& sub) {
     run.page.writeline(u"<html><head><title>{1}</title>", title);
 }
 
-void write_page(Run& run, const Text& keyword, const Text& subkeyword) {
+void write_page(Run& run, const Text& keyword, const Text& subkeyword, std::int16_t column) {
     const NameIndex::SoleWriter alone;
     OpenPage& page = run.page;
     SecondLevelPage sub{run, subkeyword};
@@ -51,6 +51,9 @@ void write_page(Run& run, const Text& keyword, const Text& subkeyword) {
     run.enlace_padre = keyword + run.plan.extension; // the keyword's blanks stay
     const Text path = run.plan.in_main_folder(sub.nombre_relativo);
     page.open(path);
+    page.made.keyword = run.indice_kw;
+    page.made.subkeyword = column;
+    page.made.layout = run.choices.layout();
     write_title(run, sub.subkw_actual);
     meta(page, run.choices, run.project, sub.subkw_actual, Mid(run.lista_kw, 4));
     page.writeline(u"");
@@ -99,17 +102,21 @@ int hidden_box(const Boxes& boxes, int bound) {
 
 /// Box `a`, a short one with the keyword list and box `b` behind it, and the sentences for the subkeyword.
 Text with_sentences(SecondLevelPage& page, int a, int b, bool split) {
-    const PageChoices& choices = page.run.choices;
-    Boxes& boxes = page.run.boxes;
+    Run& run = page.run;
+    Boxes& boxes = run.boxes;
     const Text& sub = page.subkw_actual;
     const Text& first = boxes.box(a);
     const bool is_short = Len(first) < 300;
+    std::vector<std::uint8_t>& drawn = run.page.made.boxes;
+    drawn = {static_cast<std::uint8_t>(a)};
+    if (is_short) drawn.push_back(static_cast<std::uint8_t>(b));
+    constexpr FittingTo to_subkeyword{.which = 0, .row = -1, .density = 3};
     if (split && !is_short) { // a short one keeps its sentences together
         const SpacedText& spaced = boxes.spaced(a);
-        return sub.empty() ? spaced.texto : Ajustar_KW(choices, spaced, sub, 3);
+        return sub.empty() ? spaced.texto : fitted_text(run, spaced, sub, to_subkeyword);
     }
-    Text text = is_short ? fill(u"{1}<p>{2}<p>{3}", first, page.run.lista_kw, boxes.box(b)) : first;
-    return sub.empty() ? text : Ajustar_KW(choices, text, sub, 3);
+    Text text = is_short ? fill(u"{1}<p>{2}<p>{3}", first, run.lista_kw, boxes.box(b)) : first;
+    return sub.empty() ? text : fitted_text(run, text, sub, to_subkeyword);
 }
 
 } // namespace
@@ -119,7 +126,8 @@ void second_level_pages(Run& run) {
     run.indice_kw = 0;
     do {
         run.lista_kw = list_of_keyword(run);
-        each_subkeyword(run, [&run](const Text& sub) { write_page(run, run.keyword(), sub); });
+        std::int16_t column = 0;
+        each_subkeyword(run, [&](const Text& sub) { write_page(run, run.keyword(), sub, ++column); });
         ++run.indice_kw;
     } while (!run.keyword().empty());
     run.report.set_progress(run.report.progress() + 30);
@@ -151,20 +159,24 @@ void write_content_block(SecondLevelPage& sub, bool split_sentences, bool count_
     const int a = xrnum2(run.boxes.ultima_caja);
     const int b = xrnum2(run.boxes.ultima_caja);
     Text texto_pagina = with_sentences(sub, a, b, split_sentences);
-    texto_pagina = Ajustar_KW(run.choices, texto_pagina, k, 2);
+    texto_pagina = fitted_text(run, texto_pagina, k, {.which = 1, .row = run.indice_kw, .density = 2});
+    PageRecord& made = run.page.made;
+    made.empty_text = trim_view(texto_pagina).empty();
     run.report.status(u"Updating Second-Level Page");
     DoEvents();
     // The subkeyword is lower case from here on.
     const std::int16_t n = contar_kw(texto_pagina, sub.subkw_actual);
+    made.own_count = n;
     if (!sub.subkw_actual.empty() && n >= s.max_repeticiones && run.choices.limit_repetitions()) {
         check_surplus(s, n);
-        replace_last(texto_pagina, sub.subkw_actual, s.kw_sustituto, n - kept_occurrences);
+        made.count_replaced(
+            replace_last(texto_pagina, sub.subkw_actual, s.kw_sustituto, n - kept_occurrences));
     }
     run.report.status(u"Updating Second-Level Page");
     DoEvents();
     if (count_file) ++run.cuenta_archivos;
     // The caption speaks of random pages here, too.
-    limit_keywords(run.project, s, run.report, texto_pagina, kept_occurrences);
+    made.count_replaced(limit_keywords(run.project, s, run.report, texto_pagina, kept_occurrences));
     replace_all(texto_pagina, u". ", run.lista_kw); // the sentence ends go
     if (run.choices.highlight_keywords()) texto_pagina = highLight(run.project, s, texto_pagina);
     run.page.writeline(u"<table border = 1 width=75% cellpadding=4><tr><td align=center><p>"

@@ -9,17 +9,20 @@
 
 namespace twk {
 
-void limit_keywords(Project& project, const GatewaySettings& settings, RunReport& report, Text& text,
-                    int kept, TextView tail) {
+int limit_keywords(Project& project, const GatewaySettings& settings, RunReport& report, Text& text, int kept,
+                   TextView tail) {
     KeywordCounts counts(project.keyword_set(), text);
     const Text of_all = u"/" + to_text(project.n_keywords) + u" done" + Text(tail);
+    int replaced = 0;
     for (int i = 0; i < project.n_keywords; ++i) {
         report.status(u"Updating Random-Generated Page " + to_text(i) + of_all);
         DoEvents();
         Text& keyword = project.tabla_kw.cell(i);
         const std::int16_t found = counts.contar(i, keyword);
-        if (!keyword.empty() && found >= kept) counts.replace_last(i, settings.kw_sustituto, found - kept);
+        if (!keyword.empty() && found >= kept)
+            replaced += counts.replace_last(i, settings.kw_sustituto, found - kept);
     }
+    return replaced;
 }
 
 } // namespace twk

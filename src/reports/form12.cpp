@@ -19,6 +19,7 @@
 #include "shell/module1.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace twk {
 
@@ -51,12 +52,6 @@ Text commented_url(const Text& page) {
     return Replace(Mid(page, from, InStr(page, u"-->") - from), u"<!-- url", u"");
 }
 
-int occurrences(TextView text, TextView find) {
-    int n = 0;
-    for (int at = 1; (at = InStr(text, find, at)) != 0; ++at) ++n;
-    return n;
-}
-
 } // namespace
 
 Form12::Form12() {
@@ -79,6 +74,8 @@ void Form12::begin_run() {
     enable_lists(false);
     Command2.enabled = false;
     pages_planned_ = pages_done_ = 0;
+    facts_.reset();
+    overview_.reset();
 }
 
 void Form12::page_done() {
@@ -127,6 +124,12 @@ void Form12::Reporte(const KeywordTable& tabla, int keywords) {
     xKeyWords.resize(static_cast<std::size_t>(n_kw));
     for (int k = 0; k < n_kw; ++k) at(xKeyWords, k) = tabla.at(k);
     plan_pages(tabla);
+    others_.clear();
+    facts_.reset();
+    overview_.reset();
+    std::vector<Text> servers = screen<Form7>().List1.entries();
+    servers.insert(servers.begin(), screen<Form7>().Text2.text());
+    book_.begin(servers, joined_path(beside_program(u"Projects"), screen<Form2>().txt_name[0].text()));
 }
 
 /// First-level, second-level and random pages, the hallway page and the local site map. What a division by
@@ -196,9 +199,12 @@ void Form12::reporte2_2(const Text& path, const Text& page, std::int16_t& index,
         desktop().show_html(wb1, page);
         DoEvents();
     });
+    const PageRecord made = std::exchange(next_made_, {});
+    const TextView siblings = std::exchange(next_siblings_, {});
     if (index < 0 || std::cmp_greater_equal(index, informe.size())) return;
     PageAnalysis& entry = at(informe, index);
     entry = {};
+    entry.made = made;
     entry.keywords.resize(static_cast<std::size_t>(n_kw));
     entry.path = path;
     entry.file = bare_file_name(path);
@@ -207,9 +213,46 @@ void Form12::reporte2_2(const Text& path, const Text& page, std::int16_t& index,
     analyse_body(entry, page);
     analyse_title(entry, page);
     if (contains(page, u"<!-- url")) ignoring_faults([&] { entry.url = commented_url(page); });
-    entry.links = to_text(occurrences(page, u"href") - 1); // leaves one out
+    entry.leads_to = book_.read(path, page, siblings);
+    entry.links = to_text(static_cast<int>(entry.leads_to.mentions) - 1); // leaves one out
     if (kind == 2 || kind == 3) entry.links_to = s1;
     if (kind == 3) entry.redirect = s2;
+}
+
+void Form12::keep_record(const PageRecord& made, TextView siblings) {
+    next_made_ = made;
+    next_siblings_ = siblings;
+}
+
+void Form12::links_from(const Text& path, const Text& page) {
+    others_.push_back({path, book_.read(path, page, {})});
+}
+
+void Form12::ended(RunFacts facts) {
+    facts_ = std::move(facts);
+    overview_.reset();
+}
+
+std::shared_ptr<const SiteReport> Form12::overview() {
+    if (facts_ && !overview_)
+        overview_ = std::make_shared<const SiteReport>(make_site_report(
+            informe, xKeyWords, others_, book_, *facts_, measure_folders(facts_->project_folder)));
+    return overview_;
+}
+
+void Form12::save_report(ReportFormat format) {
+    const std::shared_ptr<const SiteReport> site = overview();
+    if (!site) return;
+    const TextView ending = ending_of(format);
+    const std::optional<Text> file =
+        desktop().ask_save_file({.title = u"Save the report",
+                                 .start_folder = app_path(),
+                                 .filter = u"*" + Text(ending),
+                                 .file_name = site->facts.project + u"-report" + Text(ending),
+                                 .ending = Text(ending)});
+    if (!file) return;
+    write_report(*this, format, with_ending(*file, ending));
+    say(u"Report saved as " + *file);
 }
 
 /// Tails of the file names of a range of pages; past the analysis there is none.

@@ -3,36 +3,18 @@
 
 #include "engine/counting/keyword_counts.h"
 #include "platform/screens.h"
+#include "reports/page_analysis.h"
+#include "reports/page_table.h"
+#include "reports/report_file.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace twk {
 
 class KeywordTable;
-
-/// What one keyword is in one page; texts as the report shows them, empty where they could not be computed.
-struct KeywordAnalysis {
-    Text count, density;             ///< body: fields 4 and 5
-    Text title_count, title_density; ///< title: fields 8 and 9
-};
-
-/// The analysis of one page.
-struct PageAnalysis {
-    Text path;        ///< 0
-    Text kb;          ///< 1
-    Text kind;        ///< 2: 1 first-level, 2 second-level, 3 random, 4 site map
-    Text words;       ///< 3
-    Text title;       ///< 6
-    Text title_words; ///< 7
-    Text file;        ///< 10
-    Text url;         ///< 11
-    Text links;       ///< 12
-    Text links_to;    ///< 13
-    Text redirect;    ///< 14
-    std::vector<KeywordAnalysis> keywords;
-};
 
 /// The report: shows the progress of a run and the analysis of every page it wrote.
 class Form12 {
@@ -87,6 +69,18 @@ class Form12 {
     void reporte2_3(int first_level_pages);
     void reporte_nivel2(int first, int end);
     void reporte_nivel3(int first, int end);
+    /// Keeps how the page that is analysed next is made. `siblings` is the part of its text that other pages
+    /// share.
+    void keep_record(const PageRecord& made, TextView siblings);
+    /// Counts the links of a page that is not analysed.
+    void links_from(const Text& path, const Text& page);
+    /// The run has come to its end; the overview can be asked for.
+    void ended(RunFacts facts);
+    /// What the overview shows of the run, made when it is first asked for. Null until a run has ended. Fault
+    /// 76 when its pages are gone.
+    std::shared_ptr<const SiteReport> overview();
+    /// Asks for a name and writes the report of the run that has ended under it.
+    void save_report(ReportFormat format);
     /// Shows the report of the page at a position of list 1, 2 or 3.
     void Show_reporte(int position, int list);
 
@@ -110,6 +104,12 @@ class Form12 {
     int pages_done_ = 0;
     double first_page_ = 0;             ///< when the run began to write, in seconds since midnight
     std::optional<KeywordSet> counted_; ///< the keywords, to be counted together
+    LinkBook book_;
+    std::vector<OtherPage> others_;
+    PageRecord next_made_;
+    TextView next_siblings_;
+    std::optional<RunFacts> facts_; ///< once a run has ended
+    std::shared_ptr<const SiteReport> overview_;
 };
 
 } // namespace twk

@@ -3,6 +3,7 @@
 
 #include "engine/run_report.h"
 #include "platform/screens.h"
+#include "reports/page_table.h"
 
 #include <optional>
 
@@ -21,6 +22,7 @@ class ShownReport : public RunReport {
     double progress() const override;
     void set_progress(double per_cent) override;
     void analyse(const WrittenPage& page, std::int16_t index) override;
+    void links_from(const Text& path, const Text& text) override;
     void page_written() override;
     void finish(int first_level_pages, const PageCounts& counts) override;
 
@@ -28,6 +30,9 @@ class ShownReport : public RunReport {
     void end(bool finished);
 
   private:
+    /// What the run knows at its end.
+    RunFacts facts() const;
+
     std::optional<Screens::Hold> held_; ///< keeps the user from closing the report meanwhile
     Form6& form_;                       ///< knows whether reports are made
 };

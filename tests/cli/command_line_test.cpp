@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/commands.h"
 #include "platform/screens.h"
+#include "support/sample_project.h"
 #include "support/temp_app.h"
 
 #include <map>
@@ -238,6 +239,28 @@ TEST_F(CommandLine, ReportAndFiguresAreJson) {
     EXPECT_EQ(first.at("keyword"), "vegetable garden");
     EXPECT_GT(first.at("count"), 0);
     EXPECT_GT(first.at("density"), 0);
+}
+
+TEST_F(CommandLine, ReportsAreThePageTheTableAndTheArrayThatStandHere) {
+    fs::create_directory(app.folder() / "reports");
+    for (const char* const file : {"sample.html", "sample.csv", "sample.json"})
+        ASSERT_EQ(generate({"--report", (app.folder() / "reports" / file).string()}).status, 0);
+    expect_same_tree(app.path(u"reports"), "reports");
+}
+
+TEST_F(CommandLine, ExplainTellsHowAPageWasMadeAndLeavesTheProjectAlone) {
+    ASSERT_EQ(generate().status, 0);
+    const auto before = output();
+    const auto explain = [this](const std::string& page) {
+        return run({"explain", "garden-sample", page, "--seed", "9", "--now", "2026-11-24 10:18:05"});
+    };
+    const Outcome told = explain("Pages.greenspade.example/vegetable_garden.htm");
+    EXPECT_EQ(told.status, 0) << told.err;
+    EXPECT_NE(told.out.find("which is tied to the keyword"), std::string::npos) << told.out;
+    EXPECT_EQ(explain("index.htm").out.find("http://pages.greenspade.example/index.htm"), 0U)
+        << "and two more";
+    EXPECT_EQ(explain("nothing.htm").status, 3);
+    EXPECT_EQ(output(), before);
 }
 
 TEST_F(CommandLine, ARunThatEndsByItsOwnMessageIsRefused) {

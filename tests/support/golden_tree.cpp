@@ -17,7 +17,8 @@ using Tree = std::map<std::string, std::string>;
 
 bool is_text(const fs::path& file) {
     const Text extension = LCase(from_utf8(file.extension().string()));
-    return extension.starts_with(u".htm") || extension == u".txt" || extension.empty();
+    return extension.starts_with(u".htm") || extension == u".txt" || extension == u".csv" ||
+           extension == u".json" || extension.empty();
 }
 
 Tree read_tree(const fs::path& folder, const std::string& app) {

@@ -41,15 +41,15 @@ bool KeywordSet::same(const std::vector<Text>& keywords) const {
     return true;
 }
 
-void replace_last(Text& text, TextView find, TextView with, int count) {
+int replace_last(Text& text, TextView find, TextView with, int count) {
     if (count < -1) throw RuntimeFault(fault_argument);
-    if (count == 0 || find.empty()) return;
+    if (count == 0 || find.empty()) return 0;
     std::vector<std::size_t> all; // overlapping ones among them
     for (std::size_t at = 0; (at = position(text, find, at)) != TextView::npos; ++at) all.push_back(at);
     std::vector<std::size_t> places; // from the end
     for (auto at = all.rbegin(); at != all.rend() && static_cast<int>(places.size()) != count; ++at)
         if (places.empty() || *at + find.size() <= places.back()) places.push_back(*at);
-    if (places.empty()) return;
+    if (places.empty()) return 0;
     Text out;
     out.reserve(text.size());
     std::size_t from = 0;
@@ -59,6 +59,7 @@ void replace_last(Text& text, TextView find, TextView with, int count) {
         from = place + find.size();
     }
     text = out.append(text, from);
+    return static_cast<int>(places.size());
 }
 
 bool KeywordCounts::ready() {
@@ -114,18 +115,19 @@ bool KeywordCounts::survive_around(const std::vector<std::size_t>& places, std::
     return true;
 }
 
-void KeywordCounts::replace_last(int k, TextView with, int count) {
+int KeywordCounts::replace_last(int k, TextView with, int count) {
     if (count < -1) throw RuntimeFault(fault_argument);
-    if (count == 0 || set_.keyword(k).empty()) return;
+    if (count == 0 || set_.keyword(k).empty()) return 0;
     if (!set_.known(k) || !ready()) {
         changed();
         return twk::replace_last(text_, set_.keyword(k), with, count);
     }
     const auto most = count < 0 ? text_.size() : static_cast<std::size_t>(count);
     const std::vector<std::size_t> places = index_->from_right(k, most);
-    if (places.empty()) return;
+    if (places.empty()) return 0;
     index_->replace(k, places, with);
     if (!survive_around(places, set_.keyword(k).size(), with.size())) changed();
+    return static_cast<int>(places.size());
 }
 
 } // namespace twk

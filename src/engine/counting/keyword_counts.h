@@ -32,8 +32,9 @@ class KeywordSet {
 };
 
 /// Replaces the last `count` occurrences, case-sensitive, looked for from the end: what `plain::replace_last`
-/// gives without reversing the text. 0 leaves the text alone, -1 replaces all, below that is fault 5.
-void replace_last(Text& text, TextView find, TextView with, int count);
+/// gives without reversing the text. 0 leaves the text alone, -1 replaces all, below that is fault 5. Returns
+/// how many there were to replace.
+int replace_last(Text& text, TextView find, TextView with, int count);
 
 /// Counts in one text. Whatever else changes the text makes the object useless.
 class KeywordCounts {
@@ -46,7 +47,7 @@ class KeywordCounts {
     /// Whether the last count found the text in the form that it stays in, and no occurrence.
     bool absent() const { return absent_; }
     /// `replace_last` of keyword `k` in the text.
-    void replace_last(int k, TextView with, int count);
+    int replace_last(int k, TextView with, int count);
     /// The text has been changed by someone else.
     void changed() { index_.reset(); }
 

@@ -12,6 +12,7 @@ namespace twk {
 struct LinkingSentences {
     std::vector<Text> anchors;   ///< words, trimmed and not empty, in front of which a sentence may go
     std::function<Text()> drawn; ///< the next sentence; draws from chance
+    int* put_in = nullptr;       ///< counts every sentence that goes in, repeated ones too
 };
 
 } // namespace twk

@@ -21,7 +21,8 @@ struct Segments {
     std::uint64_t lengths; ///< a bit for the length of each anchor word, the last for all from 63 on
     int w;
     Text out{};
-    Text f{}; ///< the sentence chosen last
+    Text f{};       ///< the sentence chosen last
+    int put_in = 0; ///< sentences
 
     static std::uint64_t length_bit(TextView pieza) {
         return std::uint64_t{1} << std::min<std::size_t>(pieza.size(), 63);
@@ -46,10 +47,12 @@ struct Segments {
         if (p > last) { // no anchor word: the last sentence, glued to the last word
             append_pieces(first, last);
             append_single(f);
+            if (!f.empty()) ++put_in;
             return true;
         }
         append_pieces(first, p - 1);
         f = sentences.drawn();
+        ++put_in;
         append_single(u" ");
         append_single(f);
         const bool more = p == last || last < w;
@@ -120,6 +123,7 @@ Text Ajustar_KW(const SpacedText& spaced, const Text& keyword, int densidad_pedi
     for (int i = 0; i <= n; ++i)
         if (!segments.append(static_cast<std::int64_t>(i) * step, step)) break;
     check_densidad(segments.out, k);
+    if (sentences.put_in != nullptr) *sentences.put_in += segments.put_in;
     return Trim(segments.out);
 }
 
