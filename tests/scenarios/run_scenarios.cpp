@@ -2,7 +2,13 @@
 // Runs the scenario files of this folder, each scenario as a test of its own. README.txt beside it tells the
 // words.
 
+#include "platform/numbers.h"
+#include "scenarios/scenario_text.h"
+#include "shell/mdi1.h"
 #include "shell/module1.h"
+#include "shell/project_list.h"
+#include "shell/side_tools.h"
+#include "shell/wizard_state.h"
 #include "support/every_screen.h"
 #include "support/hand.h"
 #include "support/temp_app.h"
@@ -17,11 +23,9 @@
 namespace twk::test {
 namespace {
 
-namespace fs = std::filesystem;
-
 struct Line {
     int number = 0;
-    std::string word, rest;
+    std::string text;
 };
 
 struct Scenario {
@@ -29,210 +33,216 @@ struct Scenario {
     std::vector<Line> lines; ///< those of the file's opening first
 };
 
-/// "\r", "\n", "\t", "\s" for a blank at an end, "\\", and {APP} for the application folder.
-std::string unescaped(std::string_view text) {
-    std::string plain;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text.substr(i, 5) == "{APP}") {
-            plain += to_utf8(app_path());
-            i += 4;
-        } else if (text[i] == '\\' && i + 1 < text.size()) {
-            constexpr std::string_view marks = "rnts\\", meant = "\r\n\t \\";
-            const std::size_t at = marks.find(text[++i]);
-            if (at == std::string_view::npos) throw std::runtime_error("unknown escape");
-            plain += meant[at];
-        } else {
-            plain += text[i];
-        }
-    }
-    return plain;
-}
-
-Text text_of(std::string_view text) {
-    return from_utf8(unescaped(text));
-}
-
-std::pair<std::string, std::string> cut(const std::string& text, const std::string& at) {
-    const std::size_t found = text.find(at);
-    if (found == std::string::npos) return {text, ""};
-    return {text.substr(0, found), text.substr(found + at.size())};
-}
-
-/// "Command2(110)" is element 110 of Command2; "Text1.enabled" a property of Text1.
-struct Target {
-    std::string name, property;
-    int index = -1;
-
-    explicit Target(const std::string& text) {
-        std::tie(name, property) = cut(text, ".");
-        if (name.ends_with(')')) {
-            index = std::stoi(cut(name, "(").second);
-            name = cut(name, "(").first;
-        }
-    }
-};
-
-template <class... S> Screen* load_by_name(const std::string& name) {
-    Screen* loaded = nullptr;
-    screens().dispatch(
-        [&] { ((name == S::name ? static_cast<void>(loaded = &screens().record<S>()) : void()), ...); });
-    return loaded;
-}
-
 Screen& screen_by_name(const std::string& name) {
+    if (screens().find(name) == nullptr)
+        screens().dispatch(
+            [&] { name == mdi1::name ? void(screens().record<mdi1>()) : EveryScreen::load(name); });
     if (Screen* const loaded = screens().find(name)) return *loaded;
-    Screen* const made =
-        load_by_name<Form1, Form2, Form3, Form4, Form5, Form6, Form7, Form8, Form9, Form10, Form11, Form12,
-                     Form16, Form17, Form19, Form20, Form21, Form23, frmTip, frmVersion, disclaimer>(name);
-    if (made == nullptr) throw std::runtime_error("no screen " + name);
-    return *made;
+    throw std::runtime_error("no screen " + name);
+}
+
+Text u(const std::string& text) {
+    return from_utf8(text);
 }
 
 /// The open scenario: what its words do.
 class Stage {
   public:
-    void play(const Line& line) {
-        static const std::map<std::string, void (Stage::*)(const std::string&)> words = {
-            {"sql", &Stage::sql},           {"write", &Stage::write},   {"on", &Stage::on},
-            {"put", &Stage::put_in},        {"type", &Stage::type},     {"choose", &Stage::choose_in},
-            {"click", &Stage::click},       {"fire", &Stage::fire},     {"says", &Stage::says},
-            {"gives", &Stage::gives},       {"is", &Stage::is},         {"rows", &Stage::rows},
-            {"holds", &Stage::holds},       {"gone", &Stage::gone},     {"loaded", &Stage::loaded},
-            {"unloaded", &Stage::unloaded}, {"unload", &Stage::unload}, {"title", &Stage::title},
-            {"open", &Stage::open},         {"opened", &Stage::opened}, {"during", &Stage::during}};
-        const auto found = words.find(line.word);
-        if (found == words.end()) throw std::runtime_error("unknown word " + line.word);
-        (this->*found->second)(line.rest);
+    /// "put A = x & B = y then click C -> no: Sure?"
+    void play(const std::string& line) {
+        const auto [first, all] = cut(line, " ");
+        if (first == "during" || first == "repeat")
+            return words_.at(first)(cut(all, " ").first, cut(all, " ").second);
+        for (const std::string& step : parts(line, " then ")) {
+            const std::vector<std::string> told = parts(step, " -> ");
+            const auto [word, rest] = cut(told.front(), " ");
+            for (std::size_t i = 1; i < told.size(); ++i) answer(told[i]);
+            for (const std::string& each : parts(rest, " & ")) say(word, each);
+            EXPECT_TRUE(told.size() == 1 || desk_.all_said());
+        }
     }
 
   private:
-    // What stands before.
-    void sql(const std::string& statement) { app_.run_unfenced(unescaped(statement)); }
-    void write(const std::string& rest) {
-        const auto [name, bytes] = cut(rest, " = ");
-        const fs::path path = app_.folder() / unescaped(name);
-        fs::create_directories(path.parent_path());
-        app_.write(text_of(name), unescaped(bytes));
-    }
-    /// The project that the wizard has open: "open 1 tea".
-    void open(const std::string& rest) {
-        const auto [key, name] = cut(rest, " ");
-        module1().pid_actual = static_cast<std::int16_t>(std::stoi(key));
-        module1().proyecto_actual = text_of(name);
-        twk::screen<Form2>().txt_name[0].text = text_of(name);
+    using Is = const std::string&;
+
+    /// What stands behind a word is a name, and mostly a value behind " = " or " => ".
+    void say(const std::string& word, const std::string& rest) {
+        const std::string told = rest + (rest.ends_with("=") || rest.ends_with("=>") ? " " : "");
+        const auto [name, value] = cut(told, told.find(" => ") == std::string::npos ? " = " : " => ");
+        if (!words_.contains(word)) throw std::runtime_error("unknown word " + word);
+        words_.at(word)(unescaped(name), unescaped(value));
     }
 
-    // What a hand does.
-    void on(const std::string& name) { screen_ = screen_by_name(name).name; }
-    void put_in(const std::string& rest) {
-        const auto [target, value] = cut(rest, " = ");
-        put(control(target), text_of(value));
-    }
-    void type(const std::string& rest) {
-        put_in(rest);
-        const Target target(cut(rest, " = ").first);
-        screens().fire(screen(), target.name, "Change", target.index);
-    }
-    void choose_in(const std::string& rest) {
-        const auto [target, what] = cut(rest, " = ");
-        choose(control(target), unescaped(what));
-        screens().fire(screen(), Target(target).name, "Click", Target(target).index);
-    }
-    void click(const std::string& name) { raise(Target(name), "Click"); }
-    void fire(const std::string& rest) {
-        const auto [name, event] = cut(rest, " ");
-        raise(Target(name), event);
-    }
-    void unload(const std::string& name) {
-        screens().dispatch([&] { screens().unload(screen_by_name(name)); });
-    }
-    /// "during click Command3": within the next event that lets others run, once.
-    void during(const std::string& rest) {
-        app_.desktop.on_events = [this, rest] {
-            app_.desktop.on_events = nullptr;
-            play({0, cut(rest, " ").first, cut(rest, " ").second});
-        };
-    }
+    const std::map<std::string, std::function<void(Is, Is)>> words_{
+        // What stands before.
+        {"sql", [this](Is one, Is more) { app_.run_unfenced(one + (more.empty() ? "" : " = " + more)); }},
+        {"write", [this](Is file, Is bytes) { app_.write(u(file), bytes); }},
+        {"open",
+         [](Is key, Is name) {
+             module1().pid_actual = static_cast<std::int16_t>(std::stoi(key));
+             module1().proyecto_actual = u(name);
+             twk::screen<Form2>().txt_name[0].text = u(name);
+         }},
+        {"site", [](Is address, Is) { module1().url_sitio = u(address); }},
+        {"setting", [this](Is key, Is value) { desk_.settings[u(key)] = u(value); }},
+        {"page", [this](Is at, Is html) { desk_.pages[u(at)] = u(html); }},
+        {"fails", [this](Is at, Is fault) { desk_.faults[u(at)] = std::stoi(fault); }},
+        {"busy", [this](Is rounds, Is) { desk_.busy_rounds = std::stoi(rounds); }},
+        {"erase", [this](Is file, Is) { std::filesystem::remove(app_.folder() / file); }},
+        {"keep", [this](Is, Is) { kept_ = app_.all_rows(); }},
+        // What a hand does.
+        {"on", [this](Is name, Is) { screen_ = screen_by_name(name).name; }},
+        {"put", [this](Is name, Is value) { put(control(name), u(value)); }},
+        {"list", [this](Is name, Is value) { list(control(name), value); }},
+        {"mark", [this](Is name, Is value) { choose(control(name), value); }},
+        {"choose", [this](Is name, Is value) { choose(control(name), value), fire(name, "Click"); }},
+        {"type", [this](Is name, Is value) { put(control(name), u(value)), fire(name, "Change"); }},
+        {"enter", [this](Is name, Is value) { put(control(name), u(value)), fire(name, "Enter"); }},
+        {"leave", [this](Is name, Is value) { put(control(name), u(value)), fire(name, "LostFocus"); }},
+        {"click", [this](Is name, Is) { fire(name, "Click"); }},
+        {"fire", [this](Is name, Is event) { fire(name, event); }},
+        {"undo", [this](Is, Is) { screens().dispatch(screen().undo_event); }},
+        {"unload",
+         [](Is name, Is) {
+             if (Screen* const open = screens().find(name))
+                 screens().dispatch([&] { screens().unload(*open); });
+         }},
+        {"again", [this](Is name, Is) { play("unload " + name + " then on " + name); }},
+        {"project", [](Is name, Is) { open_listed_project(u(name)); }},
+        {"go", [](Is number, Is) { go_to_step(std::stoi(number)); }},
+        {"tool", [](Is name, Is) { open_tool(tool(name)); }},
+        {"during", [this](Is moment, Is line) { at_moment(moment, line); }},
+        {"repeat",
+         [this](Is times, Is line) {
+             for (int i = 1; i <= std::stoi(times); ++i)
+                 play(to_utf8(Replace(u(line), u"{i}", u(std::to_string(i)))));
+         }},
+        {"says", [this](Is message, Is) { answer(message); }},
+        {"gives", [this](Is dialog, Is value) { give(dialog, value); }},
+        // What must be.
+        {"is",
+         [this](Is name, Is value) {
+             EXPECT_EQ(shown(control(name), Target(name, "").property), value) << name;
+         }},
+        {"has", [this](Is name, Is part) { EXPECT_PRED2(holds, shown(control(name), ""), part) << name; }},
+        {"title", [this](Is text, Is) { EXPECT_EQ(to_utf8(screen().caption()), text); }},
+        {"rows", [this](Is sql, Is rows) { EXPECT_EQ(app_.rows_of(sql), rows) << sql; }},
+        {"kept", [this](Is, Is) { EXPECT_EQ(app_.all_rows(), kept_); }},
+        {"holds", [this](Is file, Is bytes) { EXPECT_EQ(app_.read(u(file)), bytes) << file; }},
+        {"within", [this](Is file, Is part) { EXPECT_PRED2(holds, app_.read(u(file)), part) << file; }},
+        {"there", [this](Is file, Is) { EXPECT_TRUE(app_.exists(u(file))) << file; }},
+        {"gone", [this](Is file, Is) { EXPECT_FALSE(app_.exists(u(file))) << file; }},
+        {"loaded", [](Is name, Is) { EXPECT_NE(screens().find(name), nullptr) << name; }},
+        {"unloaded", [](Is name, Is) { EXPECT_EQ(screens().find(name), nullptr) << name; }},
+        {"front", [](Is name, Is) { EXPECT_EQ(screens().open().back()->name, name); }},
+        {"opened",
+         [](Is key, Is name) {
+             EXPECT_EQ(std::to_string(module1().pid_actual), key);
+             EXPECT_EQ(to_utf8(module1().proyecto_actual), name);
+         }},
+        {"went", [this](Is addresses, Is) { all_of(desk_.navigated, addresses); }},
+        {"started", [this](Is addresses, Is) { all_of(desk_.started, addresses); }},
+        {"status", [this](Is text, Is) { EXPECT_EQ(to_utf8(desk_.said.back()), text); }},
+        {"slept",
+         [this](Is time, Is) { EXPECT_EQ(app_.clock->slept, std::chrono::seconds(std::stoi(time))); }},
+        {"asked", [this](Is title, Is) { EXPECT_EQ(to_utf8(desk_.messages.back().title), title); }},
+        {"warned", [this](Is lost, Is) { EXPECT_TRUE(desk_.warned_of(u(lost))) << lost; }},
+        {"deleted", [this](Is what, Is) { EXPECT_EQ(to_utf8(screen().deletions->description()), what); }},
+        {"step",
+         [](Is number, Is state) {
+             static const char* const states[] = {"not yet", "missing", "done"};
+             const WizardStep step =
+                 look_at_wizard().steps.at(static_cast<std::size_t>(std::stoi(number) - 1));
+             const std::string detail = step.detail.empty() ? "" : ", " + to_utf8(step.detail);
+             EXPECT_EQ(states[static_cast<int>(step.state)] + detail, state) << number;
+         }},
+        {"focus", [this](Is name, Is) { EXPECT_EQ(std::exchange(desk_.focused, ""), name); }},
+        {"listed",
+         [](Is lines, Is) {
+             std::string all;
+             for (const ProjectLine& each : project_lines())
+                 all += (all.empty() ? "" : "|") +
+                        to_utf8(each.name + u"," + to_text(each.keywords) + u"," + to_text(each.boxes) +
+                                (each.last_run.empty() ? u"," : u",run"));
+             EXPECT_EQ(all, lines);
+         }},
+        {"reachable", [](Is name, Is yes) { EXPECT_EQ(can_open(tool(name)) ? "yes" : "no", yes) << name; }}};
 
-    // What the user will answer: "says yes: Are you sure?", "gives save: {APP}/x.dat".
-    void says(const std::string& rest) {
+    static bool holds(Is text, Is part) { return text.find(part) != std::string::npos; }
+    static const SideTool& tool(Is name) {
+        for (const SideTool& each : side_tools())
+            if (to_utf8(each.name) == name) return each;
+        throw std::runtime_error("no tool " + name);
+    }
+    /// "no: Sure?", "Done" for ok, and the beginning of a message with "..." behind it.
+    void answer(Is told) {
         static const std::map<std::string, Answer> answers = {
-            {"ok", Answer::ok}, {"cancel", Answer::cancel}, {"yes", Answer::yes}, {"no", Answer::no}};
-        const auto [answer, words] = cut(rest, ": ");
-        app_.desktop.expect_exactly(text_of(words), answers.at(answer));
-    }
-    void gives(const std::string& rest) {
-        const auto [dialog, value] = cut(rest, ": ");
-        const bool cancelled = value == "cancel";
-        const auto file = cancelled ? std::nullopt : std::optional<Text>(text_of(value));
-        if (dialog == "open")
-            app_.desktop.open_files.push_back(file);
-        else if (dialog == "save")
-            app_.desktop.save_files.push_back(file);
-        else if (dialog == "colour")
-            app_.desktop.colors.push_back(
-                cancelled ? std::nullopt : std::optional(static_cast<std::uint32_t>(std::stoul(value))));
+            {"cancel", Answer::cancel}, {"yes", Answer::yes}, {"no", Answer::no}};
+        const auto found = answers.find(cut(told, ": ").first);
+        const std::string words = unescaped(found == answers.end() ? told : cut(told, ": ").second);
+        const Answer given = found == answers.end() ? Answer::ok : found->second;
+        if (words.ends_with("..."))
+            desk_.expect(u(words.substr(0, words.size() - 3)), given);
         else
-            throw std::runtime_error("no dialog " + dialog);
+            desk_.expect_exactly(u(words), given);
     }
-
-    // What must be.
-    void is(const std::string& rest) {
-        const auto [target, value] = cut(rest, " = ");
-        EXPECT_EQ(shown(control(target), Target(target).property), unescaped(value)) << target;
+    void give(Is dialog, Is value) {
+        const auto put_behind = [&](auto& answers, auto answer) {
+            answers.push_back(value == "cancel" ? std::nullopt : std::optional(answer));
+        };
+        if (dialog == "open") put_behind(desk_.open_files, u(value));
+        if (dialog == "save") put_behind(desk_.save_files, u(value));
+        if (dialog == "colour")
+            put_behind(desk_.colors, static_cast<std::uint32_t>(std::atoi(value.c_str())));
+        if (dialog == "font") put_behind(desk_.fonts, FontChoice{u(value), 10.5, true, true, true, true});
     }
-    void title(const std::string& value) { EXPECT_EQ(to_utf8(screen().caption()), unescaped(value)); }
-    void rows(const std::string& rest) {
-        const auto [statement, value] = cut(rest, " => ");
-        EXPECT_EQ(app_.rows_of(unescaped(statement)), unescaped(value)) << statement;
+    /// Plays the line within the next moment that lets events run, the next wait or fetch, once.
+    void at_moment(Is moment, const std::string& line) {
+        const auto once = [this, line](auto& hook) {
+            return [this, line, &hook](auto&&...) { std::exchange(hook, nullptr), play(line); };
+        };
+        if (moment == "wait") desk_.on_wait = once(desk_.on_wait);
+        if (moment == "fetch") desk_.on_fetch = once(desk_.on_fetch);
+        if (moment == "events") desk_.on_events = once(desk_.on_events);
     }
-    void holds(const std::string& rest) {
-        const auto [file, bytes] = cut(rest, " = ");
-        EXPECT_TRUE(app_.exists(text_of(file))) << file;
-        EXPECT_EQ(app_.read(text_of(file)), unescaped(bytes)) << file;
+    static void all_of(std::vector<Text>& seen, Is addresses) {
+        std::string all;
+        for (const Text& each : std::exchange(seen, {})) all += (all.empty() ? "" : "|") + to_utf8(each);
+        EXPECT_EQ(all, addresses);
     }
-    void gone(const std::string& file) { EXPECT_FALSE(app_.exists(text_of(file))) << file; }
-    void loaded(const std::string& name) { EXPECT_NE(screens().find(name), nullptr) << name; }
-    void unloaded(const std::string& name) { EXPECT_EQ(screens().find(name), nullptr) << name; }
-    /// The project that is open, by key and name.
-    void opened(const std::string& rest) {
-        EXPECT_EQ(std::to_string(module1().pid_actual) + " " + to_utf8(module1().proyecto_actual), rest);
-    }
-
     Screen& screen() { return screen_by_name(screen_); }
-    const ScreenMap::Control& control(const std::string& name) {
-        const Target target(name);
-        const auto* const found = screen().map.find_control(target.name, target.index);
-        if (found == nullptr) throw std::runtime_error(screen_ + " has no control " + name);
+    const ScreenMap::Control& control(Is name) {
+        const Target target(name, screen_);
+        const auto* const found = screen_by_name(target.screen).map.find_control(target.name, target.index);
+        if (found == nullptr) throw std::runtime_error(target.screen + " has no control " + name);
         return *found;
     }
-    void raise(const Target& target, const char* event) { raise(target, std::string(event)); }
-    void raise(const Target& target, const std::string& event) {
-        if (screen().map.find_event(target.name, event, target.index) == nullptr)
-            throw std::runtime_error(screen_ + " has no event " + target.name + "_" + event);
-        screens().fire(screen(), target.name, event, target.index);
-        EXPECT_TRUE(app_.desktop.all_said());
+    void fire(Is name, Is event) {
+        const Target target(name, screen_);
+        Screen& on = screen_by_name(target.screen);
+        if (on.map.find_event(target.name, event, target.index) == nullptr)
+            throw std::runtime_error(target.screen + " has no event " + target.name + "_" + event);
+        screens().fire(on, target.name, event, target.index);
     }
 
     TempApp app_;
-    std::string screen_;
+    TestDesktop& desk_ = app_.desktop;
+    std::string screen_, kept_;
 };
 
 /// A file is an opening, played before each of its scenarios, and scenarios that begin with "== name".
-std::vector<Scenario> read(const fs::path& path) {
+std::vector<Scenario> read(const std::filesystem::path& path) {
     std::ifstream in(path);
     std::vector<Line> opening;
     std::vector<Scenario> all;
     int number = 0;
     for (std::string text; std::getline(in, text);) {
         ++number;
-        text.erase(0, text.find_first_not_of(' '));
         if (text.empty() || text.starts_with('#')) continue;
-        const auto [word, rest] = cut(text, " ");
-        if (word == "==")
-            all.push_back({path.stem().string(), rest, opening});
+        if (text.starts_with("== "))
+            all.push_back({path.stem().string(), text.substr(3), opening});
         else
-            (all.empty() ? opening : all.back().lines).push_back({number, word, rest});
+            (all.empty() ? opening : all.back().lines).push_back({number, text});
     }
     return all;
 }
@@ -243,10 +253,9 @@ class ScenarioTest : public testing::Test {
     void TestBody() override {
         Stage stage;
         for (const Line& line : scenario_.lines) {
-            SCOPED_TRACE(scenario_.file + ".txt:" + std::to_string(line.number) + ": " + line.word + " " +
-                         line.rest);
+            SCOPED_TRACE(scenario_.file + ".txt:" + std::to_string(line.number) + ": " + line.text);
             try {
-                stage.play(line);
+                stage.play(line.text);
             } catch (const std::exception& wrong) {
                 FAIL() << wrong.what();
             }
@@ -262,8 +271,8 @@ class ScenarioTest : public testing::Test {
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    std::vector<twk::test::fs::path> files;
-    for (const auto& each : twk::test::fs::directory_iterator(SCENARIO_DIR))
+    std::vector<std::filesystem::path> files;
+    for (const auto& each : std::filesystem::directory_iterator(SCENARIO_DIR))
         if (each.path().extension() == ".txt" && each.path().filename() != "README.txt")
             files.push_back(each.path());
     std::sort(files.begin(), files.end());

@@ -17,6 +17,7 @@
 #include "settings/form6.h"
 #include "shell/form1.h"
 #include "shell/form2.h"
+#include "shell/mdi1.h"
 #include "tools/form11.h"
 #include "tools/form16.h"
 #include "tools/form19.h"
@@ -26,15 +27,26 @@
 
 namespace twk::test {
 
+template <class... S> struct ScreenList {
+    static void show() {
+        (screens().dispatch([] { screens().show<S>(); }), ...);
+    }
+    static void load(const std::string& name) {
+        ((name == S::name ? static_cast<void>(screens().record<S>()) : void()), ...);
+    }
+};
+using EveryScreen =
+    ScreenList<Form1, Form2, Form3, Form4, Form5, Form6, Form7, Form8, Form9, Form10, Form11, Form12, Form16,
+               Form17, Form19, Form20, Form21, Form23, frmTip, frmVersion, disclaimer>;
+
 template <class... S> void show_each() {
-    (screens().dispatch([] { screens().show<S>(); }), ...);
+    ScreenList<S...>::show();
+}
+
+inline void show_every_screen() {
+    EveryScreen::show();
 }
 
 inline constexpr int screen_count = 21; ///< without the main window
-
-inline void show_every_screen() {
-    show_each<Form1, Form2, Form3, Form4, Form5, Form6, Form7, Form8, Form9, Form10, Form11, Form12, Form16,
-              Form17, Form19, Form20, Form21, Form23, frmTip, frmVersion, disclaimer>();
-}
 
 } // namespace twk::test

@@ -103,4 +103,17 @@ void choose(const ScreenMap::Control& control, const std::string& what) {
         control.ref);
 }
 
+void list(const ScreenMap::Control& control, const std::string& entries) {
+    std::visit(
+        [&](auto* c) {
+            if constexpr (requires { c->add_item(Text()); }) {
+                c->clear();
+                for (const Text& entry : Split(from_utf8(entries), u"|")) c->add_item(entry);
+            } else {
+                throw std::runtime_error("no list " + control.object_name());
+            }
+        },
+        control.ref);
+}
+
 } // namespace twk::test

@@ -16,4 +16,7 @@ void put(const ScreenMap::Control& control, const Text& value);
 /// Chooses an entry by its text, several of a list as "A|B", none with "-"; no event is raised.
 void choose(const ScreenMap::Control& control, const std::string& what);
 
+/// Fills a list with these entries, "A|B", in place of those that it has.
+void list(const ScreenMap::Control& control, const std::string& entries);
+
 } // namespace twk::test

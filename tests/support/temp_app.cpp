@@ -64,7 +64,9 @@ Text TempApp::path(TextView relative) const {
 }
 
 void TempApp::write(TextView relative, std::string_view bytes) const {
-    std::ofstream(to_utf8(path(relative)), std::ios::binary) << bytes;
+    const fs::path file = to_utf8(path(relative));
+    fs::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << bytes;
 }
 
 std::string TempApp::read(TextView relative) const {
@@ -100,7 +102,9 @@ std::string TempApp::rows_of(const std::string& sql) const {
             text.append(i > 0 ? "," : "").append(values[i] != nullptr ? values[i] : "null");
         return 0;
     };
-    sqlite3* const db = open_store(to_utf8(path(u"hive.mdb")), SQLITE_OPEN_READONLY, "lantern4821");
+    const bool other = sql.find("from synonyms") != std::string::npos;
+    sqlite3* const db = open_store(to_utf8(path(other ? u"synonyms.mdb" : u"hive.mdb")), SQLITE_OPEN_READONLY,
+                                   other ? "" : "lantern4821");
     const int code = sqlite3_exec(db, sql.c_str(), add, &all, nullptr);
     sqlite3_close_v2(db);
     return code == SQLITE_OK ? all : "error " + std::to_string(code);

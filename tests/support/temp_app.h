@@ -29,7 +29,7 @@ class TempApp {
     const std::filesystem::path& folder() const { return folder_; }
     /// Path of a file in the folder, as the program names it.
     Text path(TextView relative) const;
-    void write(TextView relative, std::string_view bytes) const;
+    void write(TextView relative, std::string_view bytes) const; ///< makes the folders on its way
     std::string read(TextView relative) const;
     bool exists(TextView relative) const;
 
@@ -41,7 +41,8 @@ class TempApp {
     void run_unfenced(const std::string& sql) const;
     /// First column named `column` of the first row, empty when there is none.
     Text value(const Text& statement, TextView column) const;
-    /// What a statement finds in the project store: columns parted by ",", rows by "|".
+    /// What a statement finds in the project store, or in `synonyms` of the other: columns parted by ",",
+    /// rows by "|".
     std::string rows_of(const std::string& sql) const;
     /// All rows of the project store, one a line.
     std::string all_rows() const;

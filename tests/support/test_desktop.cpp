@@ -100,6 +100,17 @@ void TestDesktop::wait_modal(Screen& screen) {
     on_modal(screen);
 }
 
+void TestDesktop::screen_loaded(Screen& screen) {
+    for (const ScreenMap::Control& each : screen.map.all_controls())
+        std::visit(
+            [&](auto* control) {
+                control->observer.watch([this, name = each.name](Prop which) {
+                    if (which == Prop::focus) focused = name;
+                });
+            },
+            each.ref);
+}
+
 void TestDesktop::navigate(WebBrowser& browser, const Text& address) {
     navigated.push_back(address);
     const auto page = pages.find(address);

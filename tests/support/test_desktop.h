@@ -34,6 +34,7 @@ class TestDesktop : public SilentDesktop {
     std::vector<Text> said;      ///< what the status bar told
     std::vector<Text> navigated; ///< addresses the browsers were sent to
     bool has_quit = false;
+    std::string focused; ///< the control that asked for the focus last
 
     std::deque<std::optional<Text>> open_files, save_files;
     std::deque<std::optional<std::uint32_t>> colors;
@@ -60,6 +61,7 @@ class TestDesktop : public SilentDesktop {
     Text get_setting(TextView section, TextView key, const Text& fallback) override;
     void say(const Text& what) override { said.push_back(what); }
     void quit() override { has_quit = true; }
+    void screen_loaded(Screen& screen) override;
     void wait_modal(Screen& screen) override;
     void navigate(WebBrowser& browser, const Text& address) override;
     void go_back(WebBrowser&) override { navigated.push_back(u"back"); }
