@@ -58,22 +58,6 @@ TEST_F(Lifecycle, WindowsMayBeClosedInAnyOrder) {
     }
 }
 
-TEST_F(Lifecycle, AScreenMayUnloadItselfInItsOwnEvent) {
-    test::show_each<Form1, frmTip, Form10>();
-    const QPointer<ScreenWindow> tip = user.window("frmTip");
-    user.click("frmTip", "cmdOK");
-    EXPECT_TRUE(tip.isNull());
-    const QPointer<ScreenWindow> manager = user.window("Form1");
-    user.click("Form1", "Command1"); // New Project: unloads both of them
-    EXPECT_TRUE(manager.isNull());
-    EXPECT_FALSE(user.sees("Form10"));
-    ASSERT_TRUE(user.sees("Form2"));
-    user.type("Form2", "txt_url_2", QStringLiteral("typed, and lost"));
-    user.click("Form2", "Command1");
-    EXPECT_FALSE(user.sees("Form2"));
-    EXPECT_TRUE(user.sees("Form1"));
-}
-
 TEST_F(Lifecycle, ClosingStepSixCancelsTheRun) {
     test::SampleProject project(app);
     project.form.Check9.value = true;
@@ -106,15 +90,6 @@ TEST_F(Lifecycle, TheWindowsStayAliveInARunAndTakeNewProjectInTheMiddle) {
     EXPECT_FALSE(screens().event_running());
     EXPECT_TRUE(user.sees("Form2"));
     EXPECT_EQ(user.find<QLineEdit>("Form2", "txt_name_0")->text(), QString());
-}
-
-TEST_F(Lifecycle, QuitEndsAnIdleProgramAtOnce) {
-    test::show_each<Form1, Form2>();
-    bool about_to_quit = false;
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &qt.window(), [&] { about_to_quit = true; });
-    QTimer::singleShot(0, &qt.window(), [this] { qt.window().close(); });
-    EXPECT_EQ(QApplication::exec(), 0);
-    EXPECT_TRUE(about_to_quit);
 }
 
 TEST_F(Lifecycle, QuitDuringARunEndsTheProcessAndLeavesTheStoreWhole) {

@@ -18,18 +18,22 @@ using test::User;
 
 class Wizard : public test::WindowTest {
   protected:
+    using Typed = std::initializer_list<std::pair<const char*, const char*>>;
+    void type_all(const char* screen, Typed texts) {
+        for (const auto& [box, text] : texts) user.type(screen, box, QString::fromLatin1(text));
+    }
     void type_properties() {
         user.press(Qt::Key_N, Qt::ControlModifier);
         user.click("Form1", "Command1");
         ASSERT_TRUE(user.sees("Form2"));
         EXPECT_FALSE(user.sees("Form1"));
-        user.type("Form2", "txt_name_0", QStringLiteral("teahouse"));
-        user.type("Form2", "Text2_0", QStringLiteral("Tea-House"));
-        user.type("Form2", "txt_url_0", QStringLiteral("http://www.teahouse.example"));
-        user.type("Form2", "txt_url_1", QStringLiteral("http://www.teahouse.example/shop.htm"));
+        type_all("Form2", {{"txt_name_0", "teahouse"},
+                           {"Text2_0", "Tea-House"},
+                           {"txt_url_0", "http://www.teahouse.example"},
+                           {"txt_url_1", "http://www.teahouse.example/shop.htm"},
+                           {"txt_dat_0", "Fine teas"},
+                           {"txt_dat_1", "Shopping"}});
         user.click("Form2", "Command7");
-        user.type("Form2", "txt_dat_0", QStringLiteral("Fine teas"));
-        user.type("Form2", "txt_dat_1", QStringLiteral("Shopping"));
         user.expect(QStringLiteral("Subject, Category and Description can´t be empty"));
         user.click("Form2", "Command2");
         user.type("Form2", "txt_dat_2", QStringLiteral("Teas from small gardens."));

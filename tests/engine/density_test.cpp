@@ -43,12 +43,6 @@ class DensityAdjustment : public testing::Test, public test::LoneRun {
     const Text sentence = u"See <a href=\"http://main\">rose</a> now";
 };
 
-TEST_F(DensityAdjustment, writes_boundary_pieces_twice_and_drops_the_tail) {
-    // 100 words at 3 per cent: steps of 33 pieces, three segments.
-    EXPECT_EQ(adjusted(numbered(0, 99) + u" <p> <br>", 3),
-              utf8(numbered(0, 33) + u" " + numbered(33, 66) + u" " + numbered(66, 99)));
-}
-
 TEST_F(DensityAdjustment, gives_nothing_for_no_text_no_density_or_one_over_fifty) {
     Text untouched = u"a<p>b";
     EXPECT_EQ(utf8(Ajustar_KW(form.choices, untouched, u"rose", 0)), "");
@@ -60,55 +54,6 @@ TEST_F(DensityAdjustment, gives_nothing_for_no_text_no_density_or_one_over_fifty
     Text spaced = numbered(0, 99) + u"<p>";
     EXPECT_EQ(utf8(Ajustar_KW(form.choices, spaced, u"rose", 51)), "");
     EXPECT_EQ(utf8(spaced), utf8(numbered(0, 99) + u" <p> "));
-}
-
-TEST_F(DensityAdjustment, puts_one_sentence_a_segment_before_its_first_anchor) {
-    // Two segments of 50 pieces; the anchors are matched without regard to case, in the first only once.
-    const Text text = u"<p> " + numbered(0, 8) + u" AND " + numbered(10, 18) + u" and " + numbered(20, 58) +
-                      u" and " + numbered(60, 99) + u" <p>";
-    EXPECT_EQ(adjusted(text, 2), utf8(u"<p> " + numbered(0, 8) + u" " + sentence + u" AND " +
-                                      numbered(10, 18) + u" and " + numbered(20, 49) + u" " +
-                                      numbered(49, 58) + u" " + sentence + u" and " + numbered(60, 98)));
-}
-
-TEST_F(DensityAdjustment, glues_the_last_sentence_to_a_segment_without_anchor) {
-    const Text text = u"and " + numbered(1, 99) + u" <p>";
-    EXPECT_EQ(adjusted(text, 2),
-              utf8(sentence + u" and " + numbered(1, 50) + u" " + numbered(50, 99) + u" <p>" + sentence));
-}
-
-TEST_F(DensityAdjustment, ends_with_the_words_once_a_sentence_stands) {
-    // 104 pieces: the last segment leaves off at piece 100, the number of words.
-    const Text text = numbered(0, 59) + u" and " + numbered(61, 99) + u" <p> <br> <hr> <p>";
-    EXPECT_EQ(adjusted(text, 2), utf8(numbered(0, 50) + u" " + numbered(50, 59) + u" " + sentence + u" and " +
-                                      numbered(61, 99)));
-}
-
-TEST_F(DensityAdjustment, looks_past_the_last_piece_of_a_text_without_tags) {
-    EXPECT_EQ(fault_of([&] { adjusted(numbered(0, 99), 4); }), fault_subscript);
-    EXPECT_NE(adjusted(u"<p>" + numbered(0, 99) + u"<p>", 4), "");
-}
-
-TEST_F(DensityAdjustment, links_the_keyword_as_given_and_looks_for_it_in_lower_case) {
-    form.settings.frases_link[3] = u"*KEYWORD*:*LINK*";
-    const Text keyword = u" Red Rose ";
-    const std::string out = adjusted(u"and " + numbered(1, 100), 2, keyword);
-    EXPECT_TRUE(out.starts_with(" Red Rose :<a href=\"http://main\">Red Rose</a> and") ||
-                out.starts_with("Red Rose :<a href=\"http://main\">Red Rose</a> and"))
-        << out;
-    EXPECT_EQ(utf8(keyword), " Red Rose ");
-    EXPECT_EQ(adjusted(u"and " + numbered(1, 100), 2, u"  ").find("href"), std::string::npos);
-}
-
-TEST_F(DensityAdjustment, draws_until_a_sentence_is_not_empty) {
-    form.settings.frases_link[10] = u"never picked";
-    chance().fix_seed(77);
-    Chance same;
-    same.fix_seed(77);
-    adjusted(u"and " + numbered(1, 49) + u" <p>", 2);
-    while (static_cast<int>(same.Rnd() * 10) != 3) {
-    }
-    EXPECT_EQ(chance().Rnd(), same.Rnd());
 }
 
 TEST_F(DensityAdjustment, tells_what_the_settings_lack_when_every_sentence_is_empty) {
@@ -128,18 +73,6 @@ TEST_F(DensityAdjustment, holds_words_times_density_in_sixteen_bits) {
     EXPECT_EQ(with_letter(Text(40000, u'a') + u" one two"), fault_overflow);
     EXPECT_EQ(with_letter(Text(400, u'a')), fault_overflow);
     EXPECT_EQ(with_letter(Text(300, u'a')), 0);
-}
-
-TEST_F(DensityAdjustment, wraps_the_text_in_paragraphs_and_leaves_the_keyword_alone) {
-    const Text keyword = u"Rose";
-    EXPECT_EQ(utf8(recalcular(run, numbered(0, 99) + u"...-", keyword)),
-              utf8(u"<p> " + numbered(0, 32) + u" " + numbered(32, 65) + u" " + numbered(65, 98)));
-    EXPECT_EQ(utf8(keyword), "Rose");
-    form.Combo9.text = u"0";
-    EXPECT_EQ(utf8(recalcular(run, numbered(0, 99), keyword)), "");
-    form.Combo9.text = u"three";
-    EXPECT_EQ(fault_of([&] { recalcular(run, u"a", keyword); }), fault_type);
-    EXPECT_EQ(utf8(recalcular(run, u"  ", keyword)), " "); // no text, the density is not read
 }
 
 TEST_F(DensityAdjustment, replaces_one_surplus_keyword_at_the_end_or_cuts_fifty_units) {

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""An application folder for the fault scripts: made from the delivered files, looked into through fault_driver."""
+"""An application folder for the fault scripts: made from the delivered files, played on by lines of scenarios."""
 
 import argparse
 import os
@@ -9,12 +9,39 @@ import sys
 import tempfile
 
 PROJECT = "garden-sample"
+# A project is told with its numbers of keywords, subkeywords, boxes, units in them, secondary directories and targets.
+QUERIES = {
+    "hive integrity": "PRAGMA integrity_check",
+    "broken pages": "PRAGMA cipher_integrity_check",
+    "synonyms integrity": "PRAGMA integrity_check -- from synonyms",
+    "synonyms": "select count(*) from synonyms",
+    "project": "select name, (select count(*) from keywords k where k.pid = p.pid), "
+    "(select count(*) from elements e join keywords k on e.catid = k.keyid where k.pid = p.pid), "
+    "(select count(*) || ' ' || coalesce(sum(length(content)), 0) from content c where c.pid = p.pid), "
+    "(select count(*) from host h where h.pid = p.pid), (select count(*) from target t where t.pid = p.pid) from Projects p",
+    "keyword": "select keyword from keywords where pid = 1",
+    "subkeyword": "select k.keyword || '/' || element from elements join keywords k on catid = keyid where pid = 1",
+}
+STEP_2 = ["on Form1", f"choose combo1 = {PROJECT}", "click Command3", "click Form2!Command2", "on Form3"]
 SEED = ["--seed", "7", "--now", "2026-11-24 10:18:05"]
+
+
+def saving(rounds):
+    """Saves settings, keywords and page names; each file bears the number of its round."""
+    return [*STEP_2, f"repeat {rounds} put Form6!Text4 = round {{i}} then gives save = {{APP}}/{PROJECT}.dat then click "
+            "Form6!Command4 then tell dat {i} then list List1 = round {i}|roses then gives save = {APP}/kept.exp then click Command4 "
+            "then tell exp {i} then list Form17!List1 = round {i}|{200*page_#.htm|}x.htm then gives save = {APP}/kept.fnm then "
+            "click Form17!Command4 then tell fnm {i}"]
+
+
+def copying(rounds):
+    return [f"repeat {rounds} again Form1 then choose combo1 = {PROJECT} then put Text1 = copy{{i}} then click Command6 then "
+            "tell copy copy{i}"]
 
 
 def arguments(text):
     parser = argparse.ArgumentParser(description=text)
-    parser.add_argument("--driver", required=True, help="the program fault_driver")
+    parser.add_argument("--player", required=True, help="the program test_scenarios")
     parser.add_argument("--cli", required=True, help="the program tarnwick-cli")
     parser.add_argument("--data", required=True, help="folder of the delivered files")
     parser.add_argument("--stores", required=True, help="folder of the delivered stores")
@@ -67,14 +94,17 @@ class AppFolder:
         with open(self.file(*names), "rb") as stream:
             return stream.read()
 
-    def driver(self, *words):
-        return [self.options.driver, self.path, *words]
+    def player(self):
+        return [self.options.player, "--play", self.path]
+
+    def play(self, lines, expected=0, prefix=()):
+        return self.run(self.player(), expected, prefix, lines)
 
     def generating(self):
         return [self.options.cli, "--app", self.path, "generate", PROJECT, *SEED]
 
-    def run(self, command, expected=0, prefix=()):
-        done = subprocess.run([*prefix, *command], capture_output=True, timeout=300)
+    def run(self, command, expected=0, prefix=(), lines=()):
+        done = subprocess.run([*prefix, *command], input="\n".join(lines).encode(), capture_output=True, timeout=300)
         text = done.stdout.decode(errors="replace") + done.stderr.decode(errors="replace")
         require(expected is None or done.returncode == expected,
                 f"{' '.join(command)} ended with {done.returncode}:\n{text}")
@@ -82,14 +112,12 @@ class AppFolder:
 
     def rows(self):
         """What the stores hold, by name; a fault when one of them does not open or is not sound."""
-        rows = {}
-        for line in self.run(self.driver("rows")).splitlines():
-            name, _, value = line.partition(": ")
-            rows.setdefault(name, []).append(value)
+        answers = self.play(f"show {query}" for query in QUERIES.values()).split("\n")
+        rows = {name: answer.split("|") if answer else [] for name, answer in zip(QUERIES, answers)}
         for store in ("hive", "synonyms"):
             require(rows[f"{store} integrity"] == ["ok"], f"{store}: {rows[f'{store} integrity']}")
-        require("broken page" not in rows, f"broken pages: {rows.get('broken page')}")
-        require(rows.get("synonyms") == getattr(self, "synonyms", rows.get("synonyms")), "synonyms have gone")
+        require(rows["broken pages"] == [], f"broken pages: {rows['broken pages']}")
+        require(rows["synonyms"] == getattr(self, "synonyms", rows["synonyms"]), "synonyms have gone")
         return rows
 
     def pages(self):

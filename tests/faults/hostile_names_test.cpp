@@ -146,21 +146,6 @@ TEST_F(HostileNames, SubkeywordsFromTheStoreCannotLeaveTheFolder) {
     expect_runs(use, 0, {u"..", u"it''s"});
 }
 
-TEST_F(HostileNames, EditSubKeywordLetsAnythingInAndNothingOut) {
-    Form3& step2 = screen<Form3>();
-    step2.List1.list_index = 0;
-    screens().fire<Form3>("List1", "Click");
-    ASSERT_EQ(step2.List2.list_count(), 2);
-    for (const Text& word : {Text(u"../../escape"), Text(u"/../../../escape"), Text(u"..."), long_name}) {
-        step2.List2.set_selected(0, true);
-        step2.Text2.text = word;
-        EXPECT_EQ(fault_of_event<Form3>("Command22"), 0) << to_utf8(word);
-        EXPECT_EQ(step2.List2.list(0), word);
-        run_project(); // wherever it ends, what is precious stays
-        step2.List2.set_selected(0, true);
-    }
-}
-
 TEST_F(HostileNames, PageNamesOfStepSixStayInTheirFolder) {
     project->form.Check9.value = true;
     Text entry;
@@ -175,19 +160,6 @@ TEST_F(HostileNames, PageNamesOfStepSixStayInTheirFolder) {
     expect_runs(use, fault_path_access, {u"../../x.htm", u"../../precious/main/page.htm", u"..", long_name});
     expect_runs(use, fault_path_not_found, {u"/etc/x.htm"});
     expect_runs(use, 0, {u"../pages.oakshed.example-sheds/sitemap.htm", u"..\\..\\x.htm", u".htm"});
-}
-
-TEST_F(HostileNames, AListOfPageNamesIsReadAsItStands) {
-    fs::create_directories(app.folder() / "given");
-    app.write(u"given/bad.fnm", "# Host: x\r\n../../x.htm\r\n/etc/x.htm\r\n   \r\n#../y\r\n..\r\n");
-    Form17& step6 = screen<Form17>();
-    for (const char16_t* name : {u"a.htm", u"b.htm", u"c.htm"}) step6.List1.add_item(name);
-    app.desktop.open_files.push_back(app.path(u"given/bad.fnm"));
-    EXPECT_EQ(fault_of_event<Form17>("Command3"), 0);
-    EXPECT_EQ(step6.List1.entries(), (std::vector<Text>{u"../../x.htm", u"/etc/x.htm", u".."}));
-    app.write(u"given/bad.fnm", std::string("\0\xFF\xFE\r\n\x01", 6));
-    app.desktop.open_files.push_back(app.path(u"given/bad.fnm"));
-    EXPECT_EQ(fault_of_event<Form17>("Command3"), 0); // no text, and no harm
 }
 
 TEST_F(HostileNames, ExtensionsCannotLeadOut) {

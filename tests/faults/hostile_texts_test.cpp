@@ -101,23 +101,6 @@ TEST_F(HostileTexts, AHallwayTemplateOfMegabytes) {
     EXPECT_GE(hallway().size(), lines.size());
 }
 
-TEST_F(HostileTexts, SettingsFiles) {
-    const auto load = [&](const std::string& lines) {
-        const Text file = given(lines);
-        return fault_of_dispatch([&] { tomar_de_dat(project->form, file); });
-    };
-    EXPECT_EQ(load("1.a = 99999999999"), fault_overflow);
-    EXPECT_EQ(load("3.d = -32769"), fault_overflow);
-    EXPECT_EQ(load("1.a = ten"), fault_type);
-    EXPECT_EQ(load("6.a = 1;2;3;4;5;6;7;8;9;10;11;12;13;14;15;16;17;18;19;20"), fault_subscript);
-    EXPECT_EQ(load("9.c = 9\r\n9.d = x\r\n2.g = 1\r\n2.a = * * * ; ** ; *;\r\n5.g = \"/\" ; * \"..\"\r\n"),
-              0);
-    EXPECT_EQ(load(std::string("\0\0\0=\0;*\xFF\xFE\r\n4.a", 14) + std::string(100000, '*')), 0);
-    EXPECT_EQ(load(std::string(200000, '=')), 0);
-    EXPECT_EQ(load("3.d = -5\r\n3.e = -32768\r\n1.b = -1\r\n2.a = -40 ; * -40\r\n"), 0);
-    run_project(); // ends somehow; what is precious stays
-}
-
 TEST_F(HostileTexts, ASettingsFileWithEndlessListsStaysQuick) {
     std::string list = "2.a = * 10";
     for (int i = 0; i < 100000; ++i) list += " ; " + std::to_string(i);

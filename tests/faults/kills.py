@@ -12,14 +12,14 @@ import subprocess
 import time
 
 import app_folder
-from app_folder import PROJECT, AppFolder, Failure, require
+from app_folder import PROJECT, STEP_2, AppFolder, Failure, copying, require, saving
 
 
-def killed(command, seconds):
+def killed(command, seconds, lines=()):
     """Runs the command and kills it after so many seconds; returns its whole lines and whether it was killed."""
-    process = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+    process = subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
     try:
-        out, err = process.communicate(timeout=max(seconds, 0.001))
+        out, err = process.communicate("\n".join(lines).encode(), max(seconds, 0.001))
     except subprocess.TimeoutExpired:
         process.send_signal(signal.SIGKILL)
         out, err = process.communicate()
@@ -29,9 +29,9 @@ def killed(command, seconds):
     return lines, process.returncode != 0
 
 
-def seconds_of(app, command):
+def seconds_of(work):
     start = time.monotonic()
-    app.run(command)
+    work()
     return time.monotonic() - start
 
 
@@ -40,7 +40,7 @@ class Run:
 
     def __init__(self, app):
         self.app = app
-        self.length = seconds_of(app, app.generating())
+        self.length = seconds_of(lambda: app.run(app.generating()))
         self.settings = app.read(PROJECT + ".dat")
         self.rows = app.rows()
         self.pages = app.pages()
@@ -56,47 +56,44 @@ class Run:
 
 
 class Import:
-    """Every word that was told is in the store, once; the next import adds the rest."""
+    """Every word that was told is in the store, once; the next import adds the rest. Typed words are told one by one."""
 
     words = 60
 
     def __init__(self, app):
         self.app = app
-        self.before = app.rows()["keyword"]
         self.number = 0
-        self.length = seconds_of(app, self.command(self.write(".txt")))
+        self.length = seconds_of(lambda: app.play(self.lines(typed=False)))
 
-    def write(self, ending):
+    def lines(self, typed):
         self.number += 1
-        self.new = [f"imported word {self.number} {i}" for i in range(self.words)]
-        path = self.app.file("words" + ending)
-        with open(path, "w", encoding="ascii") as out:
-            for i, word in enumerate(self.new):
-                out.write(f" {i + 1}.= {word}\n" if ending == ".exp" else word + "\n")
-                if ending == ".exp":
-                    out.write(f" Subkeyword 1.= below {word}\n")
-        return path
-
-    def command(self, path):
-        return self.app.driver("import", PROJECT, path)
+        self.new = [f"imported word {self.number} {i + 1}" for i in range(self.words)]
+        if typed:
+            word = f"imported word {self.number} {{i}}"
+            return [*STEP_2, f"repeat {self.words} enter Text1 = {word} then tell keyword {word}"]
+        with open(self.app.file("words.exp"), "w", encoding="ascii") as out:
+            out.writelines(f" {i + 1}.= {word}\n Subkeyword 1.= below {word}\n" for i, word in enumerate(self.new))
+        return [*STEP_2, "click cmd_import & op_imp(0)", "mark File2 = words.exp", "click Command20"]
 
     def once(self, seconds):
-        ending = random.choice((".txt", ".exp"))
+        typed = random.random() < 0.5
         before = self.app.rows()["keyword"]
-        path = self.write(ending)
-        lines, was_killed = killed(self.command(path), seconds)
+        lines = self.lines(typed)
+        told, was_killed = killed(self.app.player(), seconds, lines)
+        told = [line.removeprefix("keyword ") for line in told if line.startswith("keyword ")]
         rows = self.app.rows()
-        told = [line.removeprefix("keyword ") for line in lines if line.startswith("keyword ")]
-        new = [word for word in rows["keyword"] if word not in before]
-        require([word for word in before if word not in rows["keyword"]] == [], "an older keyword is lost")
-        require(new[: len(told)] == told, f"told {told}, stored {new}")
-        require(len(new) <= len(told) + 1, "more is stored than was told and one word")
+        require(rows["keyword"][: len(before)] == before, "an older keyword is lost")
+        new = rows["keyword"][len(before):]
+        require(new == self.new[: len(new)], f"stored {new}")
+        require(not typed or len(told) <= len(new) <= len(told) + 1, f"told {told}, stored {new}")
         # A subkeyword follows its keyword, so that all but the last one have theirs.
-        if ending == ".exp":
-            for word in told[:-1]:
-                require(f"{word}/below {word}" in rows["subkeyword"], f"the subkeyword of {word} is lost")
-        self.app.run(self.command(path))
-        require(sorted(set(self.app.rows()["keyword"]) - set(before)) == sorted(self.new), "the next import lacks words")
+        for word in [] if typed else new[:-1]:
+            require(f"{word}/below {word}" in rows["subkeyword"], f"the subkeyword of {word} is lost")
+        self.number -= 1
+        if not typed:
+            self.app.play(self.lines(typed))
+            require(self.app.rows()["keyword"][len(before):] == self.new, "the next import lacks words")
+        self.number += 1
         if self.number % 10 == 0:
             self.app.deliver_hive()  # Step 2 loads all keywords, and takes its time with too many
         return was_killed
@@ -111,11 +108,8 @@ class Save:
 
     def __init__(self, app):
         self.app = app
-        self.length = seconds_of(app, self.command())
+        self.length = seconds_of(lambda: app.play(saving(self.rounds)))
         self.sizes = {kind: len(app.read(name)) for kind, name in self.names.items()}
-
-    def command(self):
-        return self.app.driver("save", PROJECT, str(self.rounds))
 
     def round_of(self, kind):
         text = self.app.read(self.names[kind])
@@ -125,16 +119,16 @@ class Save:
         return int(text[at:at + 1])
 
     def once(self, seconds):
-        lines, was_killed = killed(self.command(), seconds)
+        lines, was_killed = killed(self.app.player(), seconds, saving(self.rounds))
         self.app.rows()
-        told = dict(line.split() for line in lines if line != "saved")
+        told = dict(line.split() for line in lines if line[:4] in ("dat ", "exp ", "fnm "))
         for kind in self.names:
             found = self.round_of(kind)
             if told:  # nothing told: the file is that of the time before, in its last round, or the first new one
                 require(kind not in told or found in (int(told[kind]), int(told[kind]) + 1),
                         f"{kind}: round {found}, told {told}")
             require(1 <= found <= self.rounds, f"{kind}: round {found}")
-        self.app.run(self.command())
+        self.app.play(saving(self.rounds))
         for kind in self.names:
             require(self.round_of(kind) == self.rounds, f"{kind} was not saved again")
         return was_killed
@@ -147,26 +141,23 @@ class Copy:
 
     def __init__(self, app):
         self.app = app
-        self.length = seconds_of(app, self.command())
+        self.length = seconds_of(lambda: app.play(copying(self.rounds)))
         self.whole = self.projects()[PROJECT]
         self.app.deliver_hive()
 
-    def command(self):
-        return self.app.driver("copy", PROJECT, str(self.rounds))
-
     def projects(self):
-        return dict(line.split(" ", 1) for line in self.app.rows()["project"])
+        return dict(line.split(",", 1) for line in self.app.rows()["project"])
 
     def once(self, seconds):
-        lines, was_killed = killed(self.command(), seconds)
+        lines, was_killed = killed(self.app.player(), seconds, copying(self.rounds))
         told = [line.removeprefix("copy ") for line in lines if line.startswith("copy ")]
         found = self.projects()
         for name in [PROJECT, *told]:
             require(found.get(name) == self.whole, f"{name}: {found.get(name)}, whole is {self.whole}")
         require(len(found) <= len(told) + 2, f"told {told}, found {list(found)}")
-        self.app.run(self.command())
-        require(sum(row == self.whole for row in self.projects().values()) >= len(told) + self.rounds + 1,
-                "the next copies are not whole")
+        self.app.deliver_hive()
+        self.app.play(copying(self.rounds))
+        require(list(self.projects().values()) == [self.whole] * (self.rounds + 1), "the next copies are not whole")
         self.app.deliver_hive()
         return was_killed
 

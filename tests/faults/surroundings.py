@@ -13,7 +13,7 @@ import tempfile
 import time
 
 import app_folder
-from app_folder import PROJECT, AppFolder, require
+from app_folder import PROJECT, STEP_2, AppFolder, copying, require, saving
 
 NOBODY = 65534
 AS_NOBODY = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
@@ -83,11 +83,10 @@ def full_disk(options):
     try:
         app = AppFolder(options, parent=mount)
         whole = Undisturbed(app)
-        app.run(app.driver("save", PROJECT, "1"))
+        app.play(saving(1))
         kept = {name: app.read(name) for name in (PROJECT + ".dat", "kept.exp", "kept.fnm")}
         filler = os.path.join(mount, "filler")
-        words = app.file("words.txt")
-        with open(words, "w", encoding="ascii") as out:
+        with open(app.file("words.txt"), "w", encoding="ascii") as out:
             out.writelines(f"word on a full disk {i}\n" for i in range(400))
         for free in (0, 4, 8, 12, 16, 24, 40, 80):  # KB
             shutil.rmtree(app.file("Projects"), ignore_errors=True)
@@ -96,17 +95,17 @@ def full_disk(options):
                 out.write(b"x" * max(0, space - free * 1024))
             text = app.run(app.generating(), expected=None)
             require("Run-time error '61'" in text, f"{free} KB left, no word of a full disk: {text}")
-            text = app.run(app.driver("save", PROJECT, "2"), expected=None)
+            text = app.play(saving(2), expected=None)
             for name, before in kept.items():
                 # A list that is not saved is the old one; one that still had room is whole.
                 now = app.read(name)
                 require(now == before or abs(len(now) - len(before)) < 20,
                         f"{free} KB left: {name} has {len(now)} bytes, {len(before)} before\n{text}")
             before = whole.rows["keyword"]
-            text = app.run(app.driver("import", PROJECT, words), expected=None)
-            told = [line.removeprefix("keyword ") for line in text.splitlines() if line.startswith("keyword ")]
+            app.play([*STEP_2, "click op_imp(1)", "mark File2 = words.txt", "click Command20"], expected=None)
             os.remove(filler)
-            require(app.rows()["keyword"] == before + told, f"{free} KB left: told {told}")
+            words = app.rows()["keyword"]
+            require(words == (before + [f"word on a full disk {i}" for i in range(400)])[: len(words)], f"{free} KB left")
             app.deliver_hive()
             for name, old in kept.items():
                 with open(app.file(name), "wb") as out:
@@ -116,7 +115,7 @@ def full_disk(options):
                     os.remove(app.file(name))
             os.remove(app.file(PROJECT + ".dat"))
             whole.check_again(app)
-            app.run(app.driver("save", PROJECT, "1"))
+            app.play(saving(1))
     finally:
         subprocess.run(["umount", mount], check=True)
         os.rmdir(mount)
@@ -138,7 +137,7 @@ def read_only_folder(options):
         require(PROJECT in text, f"the projects are not listed: {text}")
         text = app.run(app.generating(), expected=1, prefix=prefix)
         require("Run-time error '70'" in text, f"no word of the missing permission: {text}")
-        text = app.run(app.driver("copy", PROJECT, "1"), expected=1, prefix=prefix)
+        text = app.play(copying(1), expected=None, prefix=prefix)
         require("Run-time error '70'" in text, f"no word of the missing permission: {text}")
         require(fingerprint(app.path) == before, "something in the folder has changed")
         modes(app.path, 0o755, 0o644)
@@ -176,8 +175,10 @@ def unreadable_picture(options):
 def locked_store(options):
     with AppFolder(options) as app:
         whole = Undisturbed(app)
-        locker = subprocess.Popen(app.driver("lock", "hive.mdb"), stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        locker = subprocess.Popen(app.player(), stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         try:
+            locker.stdin.write(b"lock\n")
+            locker.stdin.flush()
             require(locker.stdout.readline() == b"locked\n", "the store could not be locked")
             start = time.monotonic()
             text = app.run(app.generating(), expected=1)
@@ -185,7 +186,7 @@ def locked_store(options):
             require("Run-time error '3260'" in text, text)
             require(5 <= waited < 60, f"waited {waited:.1f} s")
         finally:
-            locker.communicate(b"\n")
+            locker.communicate()
         whole.check_again(app)
     return None
 

@@ -225,18 +225,4 @@ TEST(Controls, BoxesGrowAtTheirFront) {
     EXPECT_EQ(told, (std::vector<Text>{u"b", u"a", u"x", u"all"}));
 }
 
-TEST(CommonDialog, TakesOverTheChoiceAndFaultsOnCancelWhereAsked) {
-    TestDesktop desktop;
-    CommonDialog dialog;
-    dialog.file_name = u"before.dat";
-    desktop.open_files = {Text(u"chosen.dat"), std::nullopt, std::nullopt};
-    EXPECT_TRUE(dialog.show_open());
-    EXPECT_EQ(dialog.file_name, u"chosen.dat");
-    EXPECT_EQ(desktop.file_questions[0].file_name, u"before.dat");
-    EXPECT_FALSE(dialog.show_open());
-    dialog.cancel_error = true;
-    EXPECT_EQ(fault_of([&] { dialog.show_open(); }), fault_dialog_cancelled);
-    EXPECT_EQ(dialog.file_name, u"chosen.dat");
-}
-
 } // namespace twk::test

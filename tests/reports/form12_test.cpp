@@ -113,43 +113,5 @@ TEST_F(Report, shortens_long_paths_and_names) {
     EXPECT_EQ(form.informe[0].file, u"xl.htm");
 }
 
-TEST_F(Report, shows_a_page_of_each_list) {
-    analyse("<title>roof</title><body>garden shed</body>");
-    analyse("<body>x</body>", 2, 1);
-    analyse("<body>roof</body>", 3, 2);
-    form.reporte2_3(1);
-    form.reporte_nivel2(1, 2);
-    EXPECT_FALSE(form.List1.enabled());
-    form.reporte_nivel3(2, 3);
-    EXPECT_TRUE(form.List1.enabled() && form.RichTextBox1.enabled() && form.Command3.enabled());
-    form.List2.list_index = 0;
-    form.List1.list_index = 0;
-    ASSERT_TRUE(screens().fire<Form12>("List1", "Click"));
-    EXPECT_EQ(form.List2.list_index(), -1);
-    EXPECT_EQ(
-        to_utf8(Replace(form.RichTextBox1.text(), app_path(), u"{APP}")),
-        "File: page.htm\r\nLocal Path: {APP}/page.htm\r\nFileSize: 0.043 Kb.\r\n"
-        "Page Type: First-Level Page\r\nBody Word Count: 2 words\r\n"
-        "KeyWord Count for [garden shed]: 1 repetitions\r\n   KeyWord Density for [garden shed]: 50. %\r\n"
-        "No KeyWords for [roof]\r\nKeyWord Count for []:  repetitions\r\n   KeyWord Density for []:  %\r\n"
-        "\r\nTitle: roof\r\nTitle Word Count: 1 words\r\nNo KeyWords in title for [garden shed]\r\n"
-        "KeyWord Count in Title for [roof]: 1 repetitions\r\n"
-        "   KeyWord Density in Title for [roof]: 100 %\r\nNo KeyWords in title for []\r\n"
-        "URL: http://pages.example/sheds\\page.htm\r\n\r\n"
-        "Make sure this file is uploaded to the directory above. Otherwise generated-pages will not be "
-        "interlinked.\r\nAs you can see in the directory {APP}\\Projects\\ [project's name] \\ there are "
-        "several directories. Each directory indicates where you must upload your gateway pages. Consult the "
-        "Manual for help.\r\nLinks Count: -1\r\nReport Generated at 24/11/2026 10:18:05 a.m.");
-    EXPECT_EQ(app.desktop.navigated.back(), app.path(u"page.htm"));
-    screen<Form6>().Combo6.text = u"_";
-    form.informe[1].links_to = u"Garden Shed.htm";
-    form.Show_reporte(0, 2);
-    EXPECT_TRUE(contains(form.RichTextBox1.text(), u"Links to First-Level Page: garden_shed.htm\r\nBody"));
-    form.Show_reporte(0, 3);
-    EXPECT_TRUE(contains(form.RichTextBox1.text(),
-                         u"Page Type: Random-Generated Page\r\nJavaScript Redirection to Target Site?: "
-                         u"YES\r\n\r\nBody Word Count: 1 words"));
-}
-
 } // namespace
 } // namespace twk

@@ -49,4 +49,15 @@ inline void show_every_screen() {
 
 inline constexpr int screen_count = 21; ///< without the main window
 
+/// The loaded screen of that name, the main window among them; loads it if need be.
+inline Screen& screen_by_name(const std::string& name) {
+    if (screens().find(name) == nullptr)
+        screens().dispatch([&] {
+            EveryScreen::load(name);
+            ScreenList<mdi1>::load(name);
+        });
+    if (Screen* const loaded = screens().find(name)) return *loaded;
+    throw std::runtime_error("no screen " + name);
+}
+
 } // namespace twk::test

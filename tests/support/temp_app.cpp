@@ -43,9 +43,13 @@ void deliver(const fs::path& folder) {
 
 } // namespace
 
-TempApp::TempApp()
-    : clock(std::make_shared<FixedClock>(LocalTime{2026, 11, 24, 10, 18, 5, 0})), folder_(new_folder()) {
+TempApp::TempApp(fs::path folder)
+    : clock(std::make_shared<FixedClock>(LocalTime{2026, 11, 24, 10, 18, 5, 0})), folder_(std::move(folder)) {
     guard_.emplace(desktop, from_utf8(folder_.string()), clock, 1);
+}
+
+TempApp::TempApp() : TempApp(new_folder()) {
+    temporary_ = true;
     static const std::string hive_bytes = fresh_store("schema_hive.sql", "lantern4821");
     static const std::string synonyms_bytes = fresh_store("schema_synonyms.sql", "");
     write(u"hive.mdb", hive_bytes);
@@ -56,7 +60,7 @@ TempApp::TempApp()
 TempApp::~TempApp() {
     guard_.reset();
     std::error_code error;
-    fs::remove_all(folder_, error);
+    if (temporary_) fs::remove_all(folder_, error);
 }
 
 Text TempApp::path(TextView relative) const {

@@ -19,6 +19,8 @@ std::string bytes_of(const std::filesystem::path& file);
 class TempApp {
   public:
     TempApp();
+    /// The same on an application folder that stands, and stays.
+    explicit TempApp(std::filesystem::path folder);
     ~TempApp();
     TempApp(const TempApp&) = delete;
     TempApp& operator=(const TempApp&) = delete;
@@ -51,6 +53,7 @@ class TempApp {
   private:
     std::filesystem::path folder_;
     std::optional<ProcessGuard> guard_;
+    bool temporary_ = false;
 };
 
 } // namespace twk::test
