@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/files.h"
+#include "platform/process.h"
 #include "shell/module1.h"
 #include "support/temp_app.h"
 

@@ -34,8 +34,11 @@ inline void tell(const std::string& line) {
 class Stage {
   public:
     Stage() = default;
-    /// On an application folder that stands: whatever is asked is answered by OK and told.
-    explicit Stage(const char* folder) : app_(folder) { desk_.always(u"", Answer::ok); }
+    /// On an application folder that stands: whatever is asked is answered by Yes or OK, and told.
+    explicit Stage(const char* folder) : app_(folder) {
+        desk_.always(u"Are you sure", Answer::yes);
+        desk_.always(u"", Answer::ok);
+    }
 
     /// "put A = x & B = y then click C -> no: Sure?"
     void play(const std::string& line) {

@@ -3,7 +3,7 @@
 
 #include "inputs/form7.h"
 #include "platform/desktop.h"
-#include "platform/files.h"
+#include "platform/file_system.h"
 #include "platform/html.h"
 #include "shell/form2.h"
 
