@@ -187,6 +187,13 @@ TEST_F(Browser, TransfersFetchPagesWhileOtherEventsRun) {
     const auto fetch = [&](const char* path) { return qt.fetch(inet, from_qt(url(path))); };
     EXPECT_TRUE(contains(fetch("/one"), u"café"));
     EXPECT_TRUE(ran);
+    // Of a page that ends before its end what has come counts; a circle of redirections is a fault, no
+    // time-out.
+    server.page("/broken", "<p>begun", "text/html; charset=utf-8", 1000);
+    EXPECT_EQ(fetch("/broken"), u"<p>begun");
+    server.redirect("/moved", url("/one"));
+    EXPECT_TRUE(contains(fetch("/moved"), u"First page"));
+    server.redirect("/loop", url("/loop"));
     server.page("/large", QByteArray(9 * 1024 * 1024, 'x'));
     const Text large = fetch("/large");
     EXPECT_GT(large.size(), 1024u * 1024u);
@@ -195,6 +202,8 @@ TEST_F(Browser, TransfersFetchPagesWhileOtherEventsRun) {
     const auto fault_of = [&](const Text& address) {
         return test::fault_of([&] { qt.fetch(inet, address); });
     };
+    const int circle = fault_of(from_qt(url("/loop")));
+    EXPECT_TRUE(circle != 0 && circle != fault_timed_out) << circle;
     inet.request_timeout = 1;
     server.hold_back("/slow");
     EXPECT_EQ(fault_of(from_qt(url("/slow"))), fault_timed_out);
