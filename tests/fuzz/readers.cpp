@@ -21,7 +21,6 @@ test::TempApp& app() {
         made->desktop.always(u"", Answer::ok);
         return *made;
     }();
-    one.desktop.messages.clear();
     return one;
 }
 
@@ -80,6 +79,7 @@ bool settings(std::string_view bytes) {
 }
 
 int keywords(std::string_view bytes) {
+    app().desktop.messages.clear();
     static Store& store = *new Store;
     store.empty();
     app().write(u"lists/any.exp", bytes.substr(1));
@@ -104,6 +104,7 @@ int keywords(std::string_view bytes) {
 }
 
 int page_names(std::string_view bytes) {
+    app().desktop.messages.clear();
     app().write(u"any.fnm", bytes.substr(1));
     Form17& step = screen<Form17>();
     const int count = bytes[0] & 15;
