@@ -4,6 +4,7 @@
 #include "desktop/form_area.h"
 #include "desktop/forms.h"
 #include "desktop/qt_text.h"
+#include "desktop/report_overview.h"
 #include "desktop/room.h"
 #include "shell/wizard_state.h"
 
@@ -53,6 +54,7 @@ ScreenWindow::ScreenWindow(Screen& screen, Room& room)
     room_.add(*this);
 
     binding_ = std::make_unique<ScreenBinding>(screen, *form_);
+    add_report_overview(*form_, *binding_);
     const auto show_title = [this, &screen](Prop) {
         setWindowTitle(to_qt(screen.caption()));
         room_.retitle();
