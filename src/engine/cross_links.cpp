@@ -4,6 +4,7 @@
 #include "engine/page_report.h"
 #include "engine/run.h"
 #include "platform/desktop.h"
+#include "platform/name_index.h"
 #include "platform/numbers.h"
 
 namespace twk {
@@ -16,6 +17,7 @@ Text sibling_link(const Plan& plan, const Text& file) {
 }
 
 void append_links(OpenPage& page, const Text& path, const Text& links, bool index) {
+    const NameIndex::SoleWriter alone;
     const TextStreamPtr file =
         page.fso.OpenTextFile(page.fence->within(path), OpenMode::appending, false, TextKind::page);
     if (index)
@@ -27,6 +29,7 @@ void append_links(OpenPage& page, const Text& path, const Text& links, bool inde
     page.ultimo_texto = file->close_and_read();
     page.ultima_pagina = path;
     page.bytes_written += file->grown();
+    page.sizes[path] = file->size();
 }
 
 /// The report gets the link that the last written page left, whatever this page holds.

@@ -47,6 +47,7 @@ void index_page(Run& run, const Text& folder) {
     origen->Close();
     page.salida->Close();
     page.bytes_written += page.salida->size();
+    page.sizes[finished.text()] = page.salida->size();
     page.salida.reset();
     page.fso.DeleteFile(path);
     page.fso.CopyFile(aux.text(), finished);

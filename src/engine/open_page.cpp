@@ -16,6 +16,7 @@ void OpenPage::close() {
     ultimo_texto = salida->close_and_read();
     ultima_pagina = pagina_actual;
     bytes_written += salida->size();
+    sizes[ultima_pagina] = salida->size();
     salida.reset();
     origen->replace();
     origen.reset();
@@ -26,6 +27,11 @@ void OpenPage::close() {
 void OpenPage::count() {
     ++pages_written;
     if (written) written();
+}
+
+std::int64_t OpenPage::size_of(const Text& path) const {
+    const auto known = sizes.find(path);
+    return known == sizes.end() ? FileLen(path) : known->second;
 }
 
 void OpenPage::abandon() {

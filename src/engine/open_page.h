@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <unordered_map>
 
 namespace twk {
 
@@ -26,6 +27,7 @@ struct OpenPage {
     // What the end of a run tells.
     std::int64_t pages_written = 0;
     std::int64_t bytes_written = 0;
+    std::unordered_map<Text, std::int64_t> sizes; ///< bytes of each page that the run has written, by path
 
     std::function<void()> written; ///< told of each page that is counted
 
@@ -39,6 +41,8 @@ struct OpenPage {
     void count();
     /// Lets go of a page under way; one that was never replaced stands empty.
     void abandon();
+    /// Bytes of a file, without a question for a page of the run.
+    std::int64_t size_of(const Text& path) const;
     /// Copies a delivered file into a folder of the project, overwriting.
     void copy_into_project(const Text& from, const Text& to);
 

@@ -19,7 +19,9 @@ void analizar_pagina(Run& run, const Text& path, const Text& redirects, const Pa
     // The page's own redirection must not carry the preview away.
     replace_all(texto_informe, u"document.navigate", u"$$$document.navigate");
     std::int16_t& index = *counts[run.fase - 1];
-    run.report.analyse({path, texto_informe, run.fase, run.enlace_padre, redirects, made, siblings}, index);
+    run.report.analyse(
+        {path, texto_informe, page.size_of(path), run.fase, run.enlace_padre, redirects, made, siblings},
+        index);
     ++index;
 }
 

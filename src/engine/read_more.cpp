@@ -49,6 +49,7 @@ void write_read_more(Run& run, const Text& path, const Text& t) {
     page.replace();
     run.page.count();
     run.page.bytes_written += out->size();
+    run.page.sizes[path] = out->size();
 }
 
 } // namespace

@@ -14,6 +14,7 @@ struct Project;
 struct WrittenPage {
     const Text& path;
     const Text& text;
+    std::int64_t bytes;    ///< of the file
     int kind;              ///< 1 first-level, 2 second-level, 3 random
     const Text& links_to;  ///< where a second-level or random page links to
     const Text& redirects; ///< "YES" or "NO" for a random page

@@ -11,8 +11,8 @@ namespace twk {
 
 namespace {
 
-Text kilobytes(const Text& path) {
-    return to_text(static_cast<double>(FileLen(path)) / 1000);
+Text kilobytes(const OpenPage& page, const Text& path) {
+    return to_text(static_cast<double>(page.size_of(path)) / 1000);
 }
 
 // The legend's cells are left open, but for the headings and the empty one; "</font size=2 >" is meant.
@@ -88,7 +88,7 @@ void write_main_row(Run& run, const Text& path, const Text& file) {
         colour = u"#C0FFC0";
     run.page.writeline(
         uR"(<tr><td bgcolor={1}><a href="{2}">{3}</a><font  size=2  size=1> - ({4} Kb.)</td></tr>)", colour,
-        path, Replace(base, u"_", u" "), kilobytes(path));
+        path, Replace(base, u"_", u" "), kilobytes(run.page, path));
 }
 
 void write_main_column(Run& run) {
@@ -112,7 +112,7 @@ void write_random_row(Run& run, const Text& path, const Text& file) {
     else if (file.starts_with(u"index"))
         start = uR"(<tr><td bgcolor=#FF1F1F><font  color="#ffffff">)";
     run.page.writeline(uR"({1}<a href="{2}">{3}</a> <font  size=1> - ({4} Kb.)</td></tr>)", start, path, file,
-                       kilobytes(path));
+                       kilobytes(run.page, path));
 }
 
 /// What stands behind the folder of all projects.

@@ -86,7 +86,9 @@ FencedPath Fence::within(const Text& path) const {
     const std::string_view last = last_name(name);
     struct stat info {};
     int failed = ENOENT;
-    if (!NameIndex::is_missing(name)) failed = ::lstat(name.c_str(), &info) == 0 ? 0 : errno;
+    // A link that a sole writer takes for the entry it knows stops the work where it opens it.
+    if (!NameIndex::is_missing(name) && !NameIndex::is_there(name))
+        failed = ::lstat(name.c_str(), &info) == 0 ? 0 : errno;
     // What stands in a folder of the project under a plain name, and is no link, lies in it.
     const bool plain = !last.empty() && last != "." && last != "..";
     const bool link = failed == 0 && S_ISLNK(info.st_mode);

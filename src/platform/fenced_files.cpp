@@ -32,15 +32,13 @@ OpenFile open_to_write(const FencedPath& path, OpenMode mode, bool create) {
         Descriptor made(::openat(path.folder(), path.name(), access | O_CREAT | O_EXCL, 0666));
         if (made) {
             NameIndex::entry_added(path.on_disk());
-            return {std::move(made), true};
+            return {std::move(made), 0, true};
         }
         if (errno != EEXIST) fail_with(errno == ENOENT ? ENOTDIR : errno, path.text());
     }
     Descriptor file(::openat(path.folder(), path.name(), access));
     if (!file) fail_with(errno, path.text());
-    struct stat info {};
-    if (::fstat(file.number(), &info) == 0 && nobody_may_write(info)) fail_with(EACCES, path.text());
-    return {std::move(file), false};
+    return opened_to_write(std::move(file), path.text());
 }
 
 std::string read_fenced(const FencedPath& path) {

@@ -31,9 +31,7 @@ OpenFile open_to_write(const std::string& name, const Text& path, OpenMode mode)
     const int access = mode == OpenMode::appending ? O_RDWR : O_WRONLY;
     Descriptor file(::open(name.c_str(), access | O_CREAT | O_CLOEXEC, 0666));
     if (!file) fail_with(errno == ENOENT ? ENOTDIR : errno, path);
-    struct stat info {};
-    if (::fstat(file.number(), &info) == 0 && nobody_may_write(info)) fail_with(EACCES, path);
-    return {std::move(file), false};
+    return opened_to_write(std::move(file), path);
 }
 
 /// Writes the whole file. Where the disk is full nothing is written: what was there stays, and a file that

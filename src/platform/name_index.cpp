@@ -141,28 +141,34 @@ NameIndex::SoleWriter::~SoleWriter() {
     }
 }
 
-bool NameIndex::is_missing(const std::string& path) {
-    if (kept_names().sole_writers == 0 || path.find('/') == std::string::npos) return false;
-    const Folder* const names = names_in(folder_of(path));
-    return names != nullptr && !names->names.contains(folded(last_name(path)));
-}
-
 namespace {
 
-/// Whether the path is as it is found, by what a sole writer knows: it is there under this very name, or not
-/// at all.
-bool known_as_given(const std::string& path) {
-    if (kept_names().sole_writers == 0 || path.find('/') == std::string::npos) return false;
-    const Folder* const names = names_in(folder_of(path));
-    if (names == nullptr) return false;
-    const auto found = names->names.find(folded(last_name(path)));
-    return found == names->names.end() || found->second == last_name(path);
+enum class Known { nothing, missing, as_given, otherwise };
+
+/// What a sole writer knows of a path without asking.
+Known known(const std::string& path) {
+    if (kept_names().sole_writers == 0 || path.find('/') == std::string::npos) return Known::nothing;
+    const Folder* const folder = names_in(folder_of(path));
+    if (folder == nullptr) return Known::nothing;
+    const auto found = folder->names.find(folded(last_name(path)));
+    if (found == folder->names.end()) return Known::missing;
+    return found->second == last_name(path) ? Known::as_given : Known::otherwise;
 }
 
 } // namespace
 
+bool NameIndex::is_missing(const std::string& path) {
+    return known(path) == Known::missing;
+}
+
+bool NameIndex::is_there(const std::string& path) {
+    return known(path) == Known::as_given;
+}
+
 std::string NameIndex::find(const std::string& path) {
-    if (path.empty() || known_as_given(path) || there(path)) return path;
+    if (path.empty()) return path;
+    const Known known_of = known(path);
+    if (known_of == Known::missing || known_of == Known::as_given || there(path)) return path;
     const std::string name(last_name(path));
     if (name.empty()) return path;
     const std::string given = folder_of(path);

@@ -19,6 +19,9 @@ void entry_removed(const std::string& path);
 /// writer; false where it is not known.
 bool is_missing(const std::string& path);
 
+/// Whether what is kept tells that there is an entry of this very name. Only beside a sole writer.
+bool is_there(const std::string& path);
+
 /// Drops all that is kept.
 void forget();
 

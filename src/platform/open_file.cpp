@@ -57,11 +57,10 @@ int write_at(int file, std::string_view bytes, std::size_t offset) {
     return 0;
 }
 
-/// Cuts a file back to what it was before `error`; returns that, or why it could not be cut.
-int undone(const Descriptor& file, std::size_t old_size, int error) {
-    struct stat info {};
-    if (error == 0 || ::fstat(file.number(), &info) != 0 || !S_ISREG(info.st_mode)) return error;
-    return ::ftruncate(file.number(), static_cast<off_t>(old_size)) != 0 ? errno : error;
+/// Cuts a plain file back to what it was before `error`; returns that, or why it could not be cut.
+int undone(const OpenFile& file, std::size_t old_size, int error) {
+    if (error == 0 || file.size < 0) return error;
+    return ::ftruncate(file.descriptor.number(), static_cast<off_t>(old_size)) != 0 ? errno : error;
 }
 
 } // namespace
@@ -88,11 +87,11 @@ bool nobody_may_write(const struct stat& info) {
     return (info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
 }
 
-std::string read_open(const Descriptor& file, const Text& path) {
-    struct stat info {};
-    if (::fstat(file.number(), &info) != 0) fail_with(errno, path);
-    if (S_ISDIR(info.st_mode)) fail_with(EISDIR, path);
-    std::string bytes(static_cast<std::size_t>(std::max<off_t>(info.st_size, 0)) + 1, '\0');
+namespace {
+
+/// `size` is what the file is expected to hold, below 0 where that says nothing.
+std::string read_bytes(const Descriptor& file, const Text& path, std::int64_t size) {
+    std::string bytes(static_cast<std::size_t>(std::max<std::int64_t>(size, 0)) + 1, '\0');
     std::size_t have = 0;
     for (;;) {
         const std::size_t room = bytes.size() - have;
@@ -101,31 +100,52 @@ std::string read_open(const Descriptor& file, const Text& path) {
         if (got < 0) fail_with(errno, path);
         have += static_cast<std::size_t>(got);
         // A plain file that gave less than asked for has ended.
-        if (got == 0 || (S_ISREG(info.st_mode) && static_cast<std::size_t>(got) < room)) break;
+        if (got == 0 || (size >= 0 && static_cast<std::size_t>(got) < room)) break;
         if (have == bytes.size()) bytes.resize(bytes.size() + 4096);
     }
     bytes.resize(have);
     return bytes;
 }
 
+std::int64_t plain_size(const struct stat& info) {
+    return S_ISREG(info.st_mode) ? info.st_size : -1;
+}
+
+} // namespace
+
+std::string read_open(const Descriptor& file, const Text& path) {
+    struct stat info {};
+    if (::fstat(file.number(), &info) != 0) fail_with(errno, path);
+    if (S_ISDIR(info.st_mode)) fail_with(EISDIR, path);
+    return read_bytes(file, path, plain_size(info));
+}
+
+std::string read_open(const OpenFile& file, const Text& path) {
+    return read_bytes(file.descriptor, path, file.size);
+}
+
+OpenFile opened_to_write(Descriptor descriptor, const Text& path) {
+    struct stat info {};
+    if (::fstat(descriptor.number(), &info) != 0) return {std::move(descriptor), -1};
+    if (nobody_may_write(info)) fail_with(EACCES, path);
+    return {std::move(descriptor), plain_size(info)};
+}
+
 /// What lies behind the old end is written first: where the disk is full the file is cut back and stays as it
 /// was, and the rest needs no more room.
 int replace_content(const OpenFile& opened, std::string_view bytes) {
     const int file = opened.descriptor.number();
-    if (opened.made) return undone(opened.descriptor, 0, write_at(file, bytes, 0));
-    struct stat before {};
-    if (::fstat(file, &before) != 0) return errno;
-    const std::size_t old_size = static_cast<std::size_t>(std::max<off_t>(before.st_size, 0));
+    const std::size_t old_size = static_cast<std::size_t>(std::max<std::int64_t>(opened.size, 0));
     const std::size_t common = std::min(old_size, bytes.size());
     if (const int error = write_at(file, bytes.substr(common), common); error != 0)
-        return undone(opened.descriptor, old_size, error);
+        return undone(opened, old_size, error);
     if (const int error = write_at(file, bytes.substr(0, common), 0); error != 0) return error;
     if (bytes.size() < old_size && ::ftruncate(file, static_cast<off_t>(bytes.size())) != 0) return errno;
     return 0;
 }
 
 int append_content(const OpenFile& opened, std::string_view bytes, std::size_t old_size) {
-    return undone(opened.descriptor, old_size, write_at(opened.descriptor.number(), bytes, old_size));
+    return undone(opened, old_size, write_at(opened.descriptor.number(), bytes, old_size));
 }
 
 Descriptor open_beneath(const Descriptor& root, const std::string& relative, bool by_kernel) {

@@ -3,6 +3,7 @@
 
 #include "platform/text.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -35,7 +36,8 @@ class Descriptor {
 /// A file that is open for writing.
 struct OpenFile {
     Descriptor descriptor{};
-    bool made = false; ///< by opening it: it is empty
+    std::int64_t size = -1; ///< bytes when it was opened; below 0 for what is no plain file
+    bool made = false;      ///< by opening it
 };
 
 /// Throws the fault of an error number: 53 no such file, 76 no such folder, 70 permission denied, 61 disk
@@ -47,11 +49,15 @@ bool nobody_may_write(const struct stat& info);
 
 /// All bytes of a file that is open for reading. Fault 75 for a folder. `path` is for the message.
 std::string read_open(const Descriptor& file, const Text& path);
+std::string read_open(const OpenFile& file, const Text& path);
 
 /// Gives an open file its content, and adds at its end. Where the disk is full the file stays as it was. Both
 /// return an error number, 0 for none.
 int replace_content(const OpenFile& file, std::string_view bytes);
 int append_content(const OpenFile& file, std::string_view bytes, std::size_t old_size);
+
+/// What is known of a file behind its opening. Fault 70 when nobody may write it.
+OpenFile opened_to_write(Descriptor descriptor, const Text& path);
 
 /// The folder of that path below another one, for work relative to it. No link is followed and nothing leads
 /// out: an empty descriptor, and `errno`, when one would. `by_kernel` lets the kernel see to that where it

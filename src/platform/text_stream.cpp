@@ -62,7 +62,7 @@ Text TextStream::close_and_read() {
     if (!std::exchange(open_, false) || mode_ == OpenMode::reading) return {};
     int error = 0;
     std::string old;
-    if (mode_ == OpenMode::appending && !file_.made) old = read_open(file_.descriptor, path_);
+    if (mode_ == OpenMode::appending && file_.size != 0) old = read_open(file_, path_);
     std::string bytes = encode_text(content_, kind_);
     const bool appended = !old.empty() && is_ascii(old) && is_ascii(bytes);
     if (!old.empty()) content_.insert(0, decode_text(old));

@@ -191,7 +191,7 @@ void Form12::analyse_title(PageAnalysis& page, const Text& html) {
 }
 
 void Form12::reporte2_2(const Text& path, const Text& page, std::int16_t& index, int kind, const Text& s1,
-                        const Text& s2, const Text&) {
+                        const Text& s2, const Text&, std::int64_t bytes) {
     Label2.caption =
         u"Creating + Analizing " + (Len(path) < 71 ? path : Left(path, 10) + u"..." + Right(path, 50));
     ignoring_faults([&] {
@@ -208,7 +208,8 @@ void Form12::reporte2_2(const Text& path, const Text& page, std::int16_t& index,
     entry.keywords.resize(static_cast<std::size_t>(n_kw));
     entry.path = path;
     entry.file = bare_file_name(path);
-    ignoring_faults([&] { entry.kb = to_text(static_cast<double>(FileLen(path)) / 1000); });
+    ignoring_faults(
+        [&] { entry.kb = to_text(static_cast<double>(bytes < 0 ? FileLen(path) : bytes) / 1000); });
     entry.kind = to_text(kind);
     analyse_body(entry, page);
     analyse_title(entry, page);

@@ -63,9 +63,10 @@ class Form12 {
     void reporte2(int subkeywords);
     /// Sizes the analysis and takes the keywords over.
     void Reporte(const KeywordTable& tabla, int keywords);
-    /// Analyses a page; all faults are ignored, what cannot be computed stays empty.
+    /// Analyses a page; all faults are ignored, what cannot be computed stays empty. `bytes` of the file are
+    /// asked for when they are below 0.
     void reporte2_2(const Text& path, const Text& page, std::int16_t& index, int kind, const Text& s1,
-                    const Text& s2, const Text& s3);
+                    const Text& s2, const Text& s3, std::int64_t bytes = -1);
     void reporte2_3(int first_level_pages);
     void reporte_nivel2(int first, int end);
     void reporte_nivel3(int first, int end);

@@ -58,7 +58,7 @@ void ShownReport::analyse(const WrittenPage& page, std::int16_t index) {
     if (!form_.informe_activo) return;
     Form12& report = screen<Form12>();
     report.keep_record(page.made, page.siblings);
-    report.reporte2_2(page.path, page.text, index, page.kind, page.links_to, page.redirects, u"");
+    report.reporte2_2(page.path, page.text, index, page.kind, page.links_to, page.redirects, u"", page.bytes);
 }
 
 void ShownReport::links_from(const Text& path, const Text& text) {

@@ -27,60 +27,65 @@ std::optional<Hits> independent(const PatternSet& set, const Hits& hits) {
     return kept;
 }
 
-/// The marked form of each keyword, between blanks.
-std::vector<Text> marked(const std::vector<Text>& keywords, TextView opening, TextView closing) {
-    std::vector<Text> marks;
-    marks.reserve(keywords.size());
-    for (const Text& keyword : keywords)
-        marks.push_back(Text(u" ").append(opening).append(keyword).append(closing).append(u" "));
-    return marks;
+} // namespace
+
+void KeywordMarks::learn(const std::vector<Text>& keywords, TextView opening, TextView closing) {
+    if (between_blanks_ && keywords == keywords_ && opening == opening_ && closing == closing_) return;
+    std::vector<Text> patterns;
+    patterns.reserve(keywords.size());
+    for (const Text& keyword : keywords) patterns.push_back(u" " + Trim(keyword) + u" ");
+    const PatternSet& set = between_blanks_.emplace(std::move(patterns));
+    keywords_ = keywords;
+    opening_ = opening;
+    closing_ = closing;
+    closed_ =
+        !opening.empty() && !closing.empty() && !set.holds(opening.front()) && !set.holds(closing.back());
+    marks_.assign(keywords.size(), {});
+}
+
+const KeywordMarks::Mark& KeywordMarks::mark(int k) {
+    Mark& mark = at(marks_, k);
+    if (!mark.made) {
+        mark.text.append(u" ").append(opening_).append(at(keywords_, k)).append(closing_).append(u" ");
+        Hits within;
+        between_blanks_->find(mark.text, 0, mark.text.size(), within);
+        mark.plain = within.empty();
+        mark.made = true;
+    }
+    return mark;
 }
 
 /// Marks all keywords in one pass. That gives what one keyword after the other gives as long as no mark makes
 /// a new occurrence: it begins and ends, within its blanks, with units that no keyword holds, and holds no
 /// keyword between blanks itself. Nothing where that is not certain.
-std::optional<Text> marked_at_once(const PatternSet& set, const std::vector<Text>& marks, const Hits& all,
-                                   TextView text) {
-    const std::optional<Hits> hits = independent(set, all);
+std::optional<Text> KeywordMarks::marked_at_once(TextView text) {
+    const std::optional<Hits> hits = closed_ ? independent(*between_blanks_, hits_) : std::nullopt;
     if (!hits) return std::nullopt;
     std::size_t size = text.size();
-    for (const PatternSet::Hit& hit : *hits) size += at(marks, hit.pattern).size();
+    for (const PatternSet::Hit& hit : *hits) {
+        if (!mark(hit.pattern).plain) return std::nullopt;
+        size += at(marks_, hit.pattern).text.size();
+    }
     Text out;
     out.reserve(size);
-    Hits within;
     std::size_t from = 0;
     for (const PatternSet::Hit& hit : *hits) {
-        const TextView mark = at(marks, hit.pattern);
-        set.find(mark, 0, mark.size(), within);
-        if (!within.empty()) return std::nullopt;
+        const TextView mark = at(marks_, hit.pattern).text;
         const bool shares_blank = hit.at < from;
         if (!shares_blank) out.append(text, from, hit.at - from);
         out.append(mark.substr(shares_blank ? 1 : 0));
-        from = hit.at + set.pattern(hit.pattern).size();
+        from = hit.at + between_blanks_->pattern(hit.pattern).size();
     }
     return out.append(text, from);
 }
 
-} // namespace
-
 Text KeywordMarks::highLight(TextView texto, const std::vector<Text>& keywords, TextView opening,
                              TextView closing) {
-    if (!between_blanks_ || keywords != keywords_) {
-        std::vector<Text> patterns;
-        patterns.reserve(keywords.size());
-        for (const Text& keyword : keywords) patterns.push_back(u" " + Trim(keyword) + u" ");
-        between_blanks_.emplace(std::move(patterns));
-        keywords_ = keywords;
-    }
-    const PatternSet& set = *between_blanks_;
-    Hits hits;
-    set.find(texto, 0, texto.size(), hits);
-    if (hits.empty()) return Text(texto);
-    const bool closed =
-        !opening.empty() && !closing.empty() && !set.holds(opening.front()) && !set.holds(closing.back());
-    if (closed)
-        if (std::optional<Text> r = marked_at_once(set, marked(keywords, opening, closing), hits, texto))
-            return std::move(*r);
+    learn(keywords, opening, closing);
+    hits_.clear();
+    between_blanks_->find(texto, 0, texto.size(), hits_);
+    if (hits_.empty()) return Text(texto);
+    if (std::optional<Text> r = marked_at_once(texto)) return std::move(*r);
     return plain::highLight(Text(texto), keywords, opening, closing);
 }
 

@@ -14,8 +14,22 @@ class KeywordMarks {
     Text highLight(TextView texto, const std::vector<Text>& keywords, TextView opening, TextView closing);
 
   private:
+    /// The marked form of a keyword, between blanks, and whether it holds none between blanks itself.
+    struct Mark {
+        Text text{};
+        bool made = false, plain = false;
+    };
+
+    void learn(const std::vector<Text>& keywords, TextView opening, TextView closing);
+    const Mark& mark(int k);
+    std::optional<Text> marked_at_once(TextView text);
+
     std::vector<Text> keywords_;
+    Text opening_, closing_;
+    bool closed_ = false; ///< no keyword can begin or end in what a mark adds
     std::optional<PatternSet> between_blanks_;
+    std::vector<Mark> marks_;
+    std::vector<PatternSet::Hit> hits_; ///< room that is used again
 };
 
 } // namespace twk

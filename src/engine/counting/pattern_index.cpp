@@ -7,9 +7,9 @@
 namespace twk {
 
 PatternSet::PatternSet(std::vector<Text> patterns)
-    : patterns_(std::move(patterns)), nodes_(1), begins_(pairs), steps_(pairs) {
-    for (int number = 0; number < size(); ++number)
-        if (findable(number)) add(number);
+    : patterns_(std::move(patterns)), begins_(buckets), steps_(buckets) {
+    order_patterns();
+    grow_tree();
     measure_steps();
 }
 
@@ -18,30 +18,51 @@ bool PatternSet::holds(char16_t unit) const {
                        [unit](const Text& pattern) { return pattern.find(unit) != Text::npos; });
 }
 
-int PatternSet::child_of(int node, char16_t unit) const {
-    int child = nodes_[static_cast<std::size_t>(node)].child;
-    while (child != 0 && nodes_[static_cast<std::size_t>(child)].unit != unit)
-        child = nodes_[static_cast<std::size_t>(child)].next;
-    return child;
+void PatternSet::order_patterns() {
+    for (int number = 0; number < size(); ++number) {
+        if (!findable(number)) continue;
+        order_.push_back(number);
+        const std::size_t length = pattern(number).size();
+        longest_ = std::max(longest_, length);
+        shortest_ = shortest_ == 0 ? length : std::min(shortest_, length);
+    }
+    std::stable_sort(order_.begin(), order_.end(), [this](int a, int b) { return pattern(a) < pattern(b); });
+    for (const int number : order_) begins_[beginning_of(pattern(number), 0)] = 1;
 }
 
-void PatternSet::add(int number) {
-    const Text& added = pattern(number);
-    longest_ = std::max(longest_, added.size());
-    shortest_ = shortest_ == 0 ? added.size() : std::min(shortest_, added.size());
-    begins_[pair_of(added[0], added[1])] = 1;
-    int node = 0;
-    for (const char16_t unit : added) {
-        int child = child_of(node, unit);
-        if (child == 0) {
-            child = static_cast<int>(nodes_.size());
-            Node& parent = nodes_[static_cast<std::size_t>(node)];
-            const int before = std::exchange(parent.child, child);
-            nodes_.push_back({unit, 0, before, {}});
+/// Level by level, so that the children of a node stand side by side.
+void PatternSet::grow_tree() {
+    const auto nth = [this](int place) -> const Text& {
+        return pattern(order_[static_cast<std::size_t>(place)]);
+    };
+    nodes_.push_back({0, static_cast<int>(order_.size()), 0});
+    units_.push_back(0);
+    std::size_t depth = 0, level_end = nodes_.size();
+    for (std::size_t grown = 0; grown < nodes_.size(); ++grown) {
+        if (grown == level_end) {
+            ++depth;
+            level_end = nodes_.size();
         }
-        node = child;
+        Node node = nodes_[grown];
+        while (node.begin + node.ends < node.end && nth(node.begin + node.ends).size() == depth) ++node.ends;
+        node.child = static_cast<int>(nodes_.size());
+        for (int from = node.begin + node.ends; from < node.end; ++node.children) {
+            const char16_t unit = nth(from)[depth];
+            int end = from;
+            while (end < node.end && nth(end)[depth] == unit) ++end;
+            nodes_.push_back({from, end, 0});
+            units_.push_back(unit);
+            from = end;
+        }
+        nodes_[grown] = node;
     }
-    nodes_[static_cast<std::size_t>(node)].ends.push_back(number);
+}
+
+/// Index of the child; 0 when there is none.
+int PatternSet::child_of(const Node& node, char16_t unit) const {
+    const auto first = units_.begin() + node.child, end = first + node.children;
+    const auto found = node.children < 8 ? std::find(first, end, unit) : std::lower_bound(first, end, unit);
+    return found != end && *found == unit ? static_cast<int>(found - units_.begin()) : 0;
 }
 
 /// A pair that stands nowhere in the first units of any pattern lets the search pass over all places whose
@@ -68,7 +89,7 @@ void PatternSet::find(TextView text, std::size_t from, std::size_t end, std::vec
     end = std::min(end, text.size() - ahead);
     for (std::size_t at = from; at < end;) {
         const std::size_t step = steps_[pair_of(text[at + ahead - 1], text[at + ahead])];
-        if (step == 0 && begins_[pair_of(text[at], text[at + 1])] != 0) follow(text, at, hits);
+        if (step == 0 && begins_[beginning_of(text, at)] != 0) follow(text, at, hits);
         at += std::max<std::size_t>(step, 1);
     }
 }
@@ -76,28 +97,35 @@ void PatternSet::find(TextView text, std::size_t from, std::size_t end, std::vec
 void PatternSet::follow(TextView text, std::size_t at, std::vector<Hit>& hits) const {
     int node = 0;
     for (std::size_t i = at; i < text.size(); ++i) {
-        node = child_of(node, text[i]);
+        node = child_of(nodes_[static_cast<std::size_t>(node)], text[i]);
         if (node == 0) return;
-        for (const int number : nodes_[static_cast<std::size_t>(node)].ends) hits.push_back({at, number});
+        const Node& here = nodes_[static_cast<std::size_t>(node)];
+        for (int ended = here.begin; ended < here.begin + here.ends; ++ended)
+            hits.push_back({at, order_[static_cast<std::size_t>(ended)]});
     }
 }
 
 PatternIndex::PatternIndex(const PatternSet& set, Text& text) : set_(set), text_(text) {
     set_.find(text_, 0, text_.size(), hits_);
-    count();
+    link();
 }
 
-void PatternIndex::count() {
-    counts_.assign(static_cast<std::size_t>(set_.size()), 0);
-    for (const PatternSet::Hit& hit : hits_) ++counts_[static_cast<std::size_t>(hit.pattern)];
+void PatternIndex::link() {
+    ends_.assign(static_cast<std::size_t>(set_.size()), {});
+    next_.assign(hits_.size(), -1);
+    for (std::size_t hit = 0; hit < hits_.size(); ++hit) {
+        Ends& ends = ends_[static_cast<std::size_t>(hits_[hit].pattern)];
+        (ends.last < 0 ? ends.first : next_[static_cast<std::size_t>(ends.last)]) = static_cast<int>(hit);
+        ends.last = static_cast<int>(hit);
+    }
 }
 
 std::vector<std::size_t> PatternIndex::from_right(int number, std::size_t most) const {
-    std::vector<std::size_t> places;
+    std::vector<std::size_t> all, places;
     const std::size_t length = set_.pattern(number).size();
-    for (auto hit = hits_.rbegin(); hit != hits_.rend() && places.size() < most; ++hit)
-        if (hit->pattern == number && (places.empty() || hit->at + length <= places.back()))
-            places.push_back(hit->at);
+    each_hit(number, [&all](std::size_t at) { all.push_back(at); });
+    for (auto at = all.rbegin(); at != all.rend() && places.size() < most; ++at)
+        if (places.empty() || *at + length <= places.back()) places.push_back(*at);
     std::reverse(places.begin(), places.end());
     return places;
 }
@@ -137,7 +165,7 @@ void PatternIndex::replace(int number, const std::vector<std::size_t>& places, T
     const std::size_t last_old = places.back() + length, last_new = put.back() + with.size();
     for (; old != hits_.end(); ++old) hits.push_back({old->at - last_old + last_new, old->pattern});
     hits_ = std::move(hits);
-    count();
+    link();
 }
 
 } // namespace twk

@@ -33,24 +33,36 @@ class PatternSet {
     void find(TextView text, std::size_t from, std::size_t end, std::vector<Hit>& hits) const;
 
   private:
-    /// A node of the tree of all patterns; its children are a chain.
+    /// A node of the tree of all patterns: those that begin alike, as a range of `order_`. Its children stand
+    /// side by side, by their units.
     struct Node {
-        char16_t unit = 0;
-        int child = 0, next = 0; ///< 0 is none
-        std::vector<int> ends;   ///< patterns that end here
+        int begin, end; ///< in `order_`
+        int ends;       ///< so many of them, the first, end here
+        int child = 0;  ///< the first one
+        int children = 0;
     };
 
-    static constexpr std::size_t pairs = 4096; ///< few enough to stay close to the processor
+    static constexpr std::size_t buckets = 4096; ///< few enough to stay close to the processor
 
-    static std::size_t pair_of(char16_t first, char16_t second) { return (first * 0x9E37u + second) % pairs; }
-    int child_of(int node, char16_t unit) const;
-    void add(int number);
+    static std::size_t pair_of(char16_t first, char16_t second) {
+        return (first * 0x9E37u + second) % buckets;
+    }
+    /// Bucket of what a pattern begins with: three units, where none has less.
+    std::size_t beginning_of(TextView text, std::size_t at) const {
+        const std::size_t pair = pair_of(text[at], text[at + 1]);
+        return shortest_ < 3 ? pair : (pair * 0x9E37u + text[at + 2]) % buckets;
+    }
+    void order_patterns();
+    void grow_tree();
     void measure_steps();
+    int child_of(const Node& node, char16_t unit) const;
     void follow(TextView text, std::size_t at, std::vector<Hit>& hits) const;
 
     std::vector<Text> patterns_;
+    std::vector<int> order_; ///< the patterns that can be found, by their units, then by number
     std::vector<Node> nodes_;
-    std::vector<std::uint8_t> begins_; ///< whether a pattern begins with a pair of units, by `pair_of`
+    std::vector<char16_t> units_;      ///< that lead to each node
+    std::vector<std::uint8_t> begins_; ///< whether a pattern begins so, by `beginning_of`
     /// How far the pair that ends the shortest pattern's length lets the search step; 0 where it must look.
     std::vector<std::uint8_t> steps_;
     std::size_t longest_ = 0;
@@ -63,16 +75,16 @@ class PatternIndex {
     PatternIndex(const PatternSet& set, Text& text);
 
     /// Whether the pattern occurs at all.
-    bool occurs(int number) const { return counts_[static_cast<std::size_t>(number)] != 0; }
+    bool occurs(int number) const { return ends_[static_cast<std::size_t>(number)].first >= 0; }
     /// Calls `visit` with the places of the pattern from the left, none overlapping the one before.
     template <class Visit> void each_from_left(int number, Visit visit) const {
         const std::size_t length = set_.pattern(number).size();
         std::size_t end = 0;
-        for (const PatternSet::Hit& hit : hits_) {
-            if (hit.pattern != number || hit.at < end) continue;
-            end = hit.at + length;
-            visit(hit.at);
-        }
+        each_hit(number, [&](std::size_t at) {
+            if (at < end) return;
+            end = at + length;
+            visit(at);
+        });
     }
     /// Places from the right, at most `most`, none overlapping the one before; the leftmost comes first.
     std::vector<std::size_t> from_right(int number, std::size_t most) const;
@@ -80,12 +92,23 @@ class PatternIndex {
     void replace(int number, const std::vector<std::size_t>& places, TextView with);
 
   private:
-    void count();
+    template <class Visit> void each_hit(int number, Visit visit) const {
+        for (int hit = ends_[static_cast<std::size_t>(number)].first; hit >= 0;
+             hit = next_[static_cast<std::size_t>(hit)])
+            visit(hits_[static_cast<std::size_t>(hit)].at);
+    }
+    void link();
+
+    /// The first and last hit of a pattern; -1 for none.
+    struct Ends {
+        int first = -1, last = -1;
+    };
 
     const PatternSet& set_;
     Text& text_;
     std::vector<PatternSet::Hit> hits_; ///< by place
-    std::vector<int> counts_;           ///< hits of each pattern
+    std::vector<int> next_;             ///< the next hit of the same pattern, -1 behind the last
+    std::vector<Ends> ends_;            ///< by pattern
 };
 
 } // namespace twk
