@@ -15,12 +15,12 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSplitter>
 #include <QTableView>
 #include <QTableWidget>
@@ -78,8 +78,8 @@ QWidget* ReportOverview::build_head() {
     connect(findings_, &QListWidget::currentRowChanged, this, [this] { filter_by_finding(); });
     connect(charts_, &QComboBox::currentIndexChanged, this, [this] { show_chart(); });
     charts_->setAccessibleName(QStringLiteral("Which chart"));
-    destinations_->setHorizontalHeaderLabels({QStringLiteral("Folder"), QStringLiteral("Goes to"),
-                                              QStringLiteral("Pages"), QStringLiteral("Bytes"), QString()});
+    destinations_->setHorizontalHeaderLabels({QStringLiteral("Folder"), QString(), QStringLiteral("Goes to"),
+                                              QStringLiteral("Pages"), QStringLiteral("Bytes")});
     destinations_->verticalHeader()->hide();
     destinations_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     destinations_->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -140,15 +140,17 @@ void ReportOverview::build_table(QVBoxLayout& column) {
     connect(table_, &QTableView::doubleClicked, this, [this] {
         if (const PageRow* const page = current()) open(page->path);
     });
-    auto* const copy = new QShortcut(QKeySequence::Copy, table_);
-    copy->setContext(Qt::WidgetShortcut);
-    connect(copy, &QShortcut::activated, this,
-            [this] { QApplication::clipboard()->setText(chosen_as_text()); });
+    table_->installEventFilter(this);
     column.addWidget(table_, 1);
 }
 
 bool ReportOverview::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &ended_ && event->type() == QEvent::EnabledChange) reload();
+    if (watched == table_ && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) { // the view itself copies one cell
+        QApplication::clipboard()->setText(chosen_as_text());
+        return true;
+    }
     return QWidget::eventFilter(watched, event);
 }
 
@@ -227,13 +229,16 @@ void ReportOverview::show_destinations() {
     for (const Destination& each : report_->destinations) {
         const int row = destinations_->rowCount();
         destinations_->insertRow(row);
-        const QString cells[] = {to_qt(each.folder), to_qt(each.server), QString::number(each.pages),
+        const QString cells[] = {to_qt(each.folder),
+                                 {},
+                                 to_qt(each.server),
+                                 QString::number(each.pages),
                                  QLocale().toString(static_cast<qlonglong>(each.bytes))};
-        for (int c = 0; c < 4; ++c) destinations_->setItem(row, c, new QTableWidgetItem(cells[c]));
+        for (int c = 0; c < 5; ++c) destinations_->setItem(row, c, new QTableWidgetItem(cells[c]));
         auto* const button = new QPushButton(QStringLiteral("Open folder"));
         const Text path = report_->facts.project_folder + Text(path_separator) + each.folder;
         connect(button, &QPushButton::clicked, this, [this, path] { open(path); });
-        destinations_->setCellWidget(row, 4, button);
+        destinations_->setCellWidget(row, 1, button);
     }
     destinations_->resizeColumnsToContents();
 }
