@@ -2,6 +2,7 @@
 #include "cli/commands.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <exception>
 #include <ostream>
@@ -12,13 +13,6 @@ namespace twk::cli {
 
 namespace {
 
-bool is_date(int year, int month, int day) {
-    if (year < 1900 || month < 1 || month > 12 || day < 1) return false;
-    static constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    const bool leap = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-    return day <= days[month - 1] + (month == 2 && leap ? 1 : 0);
-}
-
 /// "2026-11-24 10:18:05"; nothing when it is no such moment.
 std::optional<LocalTime> parse_moment(const std::string& text) {
     LocalTime at;
@@ -27,7 +21,7 @@ std::optional<LocalTime> parse_moment(const std::string& text) {
     // NOLINTNEXTLINE(cert-err34-c)
     const int read = std::sscanf(text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%c", &at.year, &at.month, &at.day,
                                  &at.hour, &at.minute, &at.second, &rest);
-    if (read != 6 || !is_date(at.year, at.month, at.day)) return {};
+    if (read != 6 || at.year < 1900 || !(std::chrono::year{at.year} / at.month / at.day).ok()) return {};
     const auto within = [](int value, int most) { return value >= 0 && value <= most; };
     if (!within(at.hour, 23) || !within(at.minute, 59) || !within(at.second, 59)) return {};
     return at;

@@ -50,7 +50,7 @@ void copy_flash_movie(OpenPage& page, const Text& folder) {
 
 Text imagen(Run& run, int kind, TextView alt, const Text& folder, const Text& stem) {
     const std::vector<Text>& fotos = run.choices.pictures();
-    const auto count = static_cast<int>(fotos.size());
+    const int count = size_of(fotos);
     if (count == 0)
         throw RuntimeFault(fault_project_lacks, u"There is no picture to choose from in the folder Images.");
     chance().Randomize();
@@ -65,8 +65,7 @@ Text imagen(Run& run, int kind, TextView alt, const Text& folder, const Text& st
     if (!run.page.fso.FileExists(joined_path(folder, stem + ext))) {
         chance().Randomize();
         // The picture is drawn anew, while the extension stays that of the first draw.
-        run.page.copy_into_project(at(fotos, static_cast<int>(Round(chance().Rnd() * (count - 1)))),
-                                   joined_path(folder, name));
+        run.page.copy_into_project(at(fotos, CLng(chance().Rnd() * (count - 1))), joined_path(folder, name));
     }
     return fill(uR"(<br><center><a href="{1}"><img src="{2}" alt="{3}" ></a><br>)", module1().url_principal,
                 name, alt);

@@ -105,7 +105,7 @@ Text pocas_palabras(const Boxes& boxes, const GatewaySettings& settings, Text& t
     for (int tries = 0; w < settings.min_palabras && tries < 5; ++tries) {
         const int need = settings.min_palabras - w;
         // The last box is never drawn.
-        const auto number = static_cast<int>(Int(chance().Rnd() * boxes.ultima_caja));
+        const int number = draw_below(boxes.ultima_caja);
         const Text& b = boxes.box(number);
         if (drawn != nullptr) drawn->push_back(static_cast<std::uint8_t>(number));
         if (!trim_view(b).empty()) texto += u" " + cortar_palabras(b, need + 1);

@@ -50,7 +50,7 @@ bool has_entry(const ListBox& list, const Text& entry) {
 /// Names of the file into the list, at most as many as `saved` holds. The count is tested before a line is
 /// read: the closing comments of a list of just that length are told as too many.
 int read_list(TextStream& in, const Text& path, const std::vector<Text>& saved, ListBox& list) {
-    const int highest = static_cast<int>(saved.size()) - 1;
+    const int highest = size_of(saved) - 1;
     int n = 0;
     while (!in.AtEndOfStream()) {
         if (n > highest) {
@@ -81,7 +81,7 @@ void load_list(Form17& form, const std::vector<Text>& saved) {
     FileSystemObject fso;
     TextStreamPtr in = fso.OpenTextFile(path, OpenMode::reading, !fso.FileExists(path));
     const int n = read_list(*in, path, saved, form.List1);
-    const int highest = static_cast<int>(saved.size()) - 1;
+    const int highest = size_of(saved) - 1;
     if (n < highest) { // a list that is one name short stays so, and the last old name is never offered
         MsgBox(u"The file you're trying to load has less files than the number you're trying to generate.\n"
                u"New files will be created.");

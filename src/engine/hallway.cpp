@@ -84,7 +84,7 @@ void require_box(const Boxes& boxes, int n_keywords) {
 const Text& drawn_box(const Boxes& boxes, int n_keywords) {
     require_box(boxes, n_keywords);
     int b = 0;
-    do b = static_cast<int>(Int(chance().Rnd() * n_keywords + 1));
+    do b = draw_below(n_keywords) + 1;
     while (box_to_draw(boxes, b).empty());
     return box_to_draw(boxes, b);
 }
@@ -104,7 +104,7 @@ int drawn_row(const Run& run) {
     const int n_keywords = run.project.n_keywords;
     require_row(run);
     if (n_keywords <= 1) return r;
-    while (run.project.tabla_kw.at(r).empty()) r = static_cast<int>(Int(chance().Rnd() * n_keywords + 1));
+    while (run.project.tabla_kw.at(r).empty()) r = draw_below(n_keywords) + 1;
     return r;
 }
 

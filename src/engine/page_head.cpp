@@ -73,12 +73,11 @@ Text target(const PageChoices& choices) {
     if (otros.empty()) return principal;
     const int p = percent_draw();
     if (Val(choices.main_target_share()) > p) return principal;
-    const auto n = static_cast<int>(otros.size());
-    double v = Int(chance().Rnd() * n * 11);
-    while (v == n) v = Int(chance().Rnd() * n * 10);
-    const double index = Int(v / 9); // may lie past the last one, which is taken then
-    return index < n && !at(otros, static_cast<int>(index)).empty() ? at(otros, static_cast<int>(index))
-                                                                    : otros.back();
+    const int n = size_of(otros);
+    int v = draw_below(n * 11);
+    while (v == n) v = draw_below(n * 10);
+    const int index = v / 9; // may lie past the last one, which is taken then
+    return index < n && !at(otros, index).empty() ? at(otros, index) : otros.back();
 }
 
 } // namespace twk

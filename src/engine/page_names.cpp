@@ -68,10 +68,9 @@ int wanted_pages(const PageChoices& choices) {
 
 /// Position 0 from the front, 1 from the end, 2 from the front ...: with an even count some names double and
 /// some are lost; the doubles get numbers later.
-void reorder(std::vector<Text>& names, std::size_t count) {
-    std::vector<Text> aux(count);
-    for (std::size_t i = 0; i < count; ++i) aux[i] = names[i % 2 == 0 ? i : count - 1 - i];
-    std::copy(aux.begin(), aux.end(), names.begin());
+void reorder(std::vector<Text>& names) {
+    const std::vector<Text> before = names;
+    for (std::size_t i = 1; i < names.size(); i += 2) names[i] = before[names.size() - 1 - i];
 }
 
 } // namespace
@@ -102,15 +101,15 @@ void build_page_names(Plan& plan, const Project& project, const PageChoices& cho
             }
         }
     }
-    plan.n_nombres = CInt(static_cast<double>(i));
-    reorder(plan.nombres, static_cast<std::size_t>(i));
+    plan.n_nombres = CInt(i);
+    reorder(plan.nombres);
 }
 
 void distribute_pages(Plan& plan, const PageChoices& choices) {
     const std::vector<Text>& hosts = choices.secondary_hosts();
-    const auto h = static_cast<int>(hosts.size());
+    const int h = size_of(hosts);
     const int total = wanted_pages(choices);
-    plan.paginas_host = CInt(Int(h > 0 ? static_cast<double>(total) / (h + 1) : total));
+    plan.paginas_host = CInt(total / (h + 1));
     plan.paginas.assign(static_cast<std::size_t>(plan.n_nombres) + 1, {});
     int n = 0;
     for (int d = 0; d <= h; ++d) {

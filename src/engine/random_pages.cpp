@@ -44,8 +44,7 @@ void draw_unused_list(const Project& project) {
 
 Text drawn_term(const Project& project) {
     Text term;
-    while (term.empty())
-        term = at(project.terminos, xrnum(CInt(static_cast<double>(project.total_terminos))));
+    while (term.empty()) term = at(project.terminos, xrnum(CInt(project.total_terminos)));
     return term;
 }
 
@@ -120,8 +119,8 @@ constexpr TextView lacks_second_keyword =
 void random_pages(Run& run) {
     RandomPhase phase{run, ContentPool(run.boxes)};
     run.cuenta3 = run.cuenta2;
-    const auto last = static_cast<int>(run.choices.secondary_hosts().size());
-    run.plan.ultima_por_host.assign(static_cast<std::size_t>(last) + 1, Text());
+    const int last = size_of(run.choices.secondary_hosts());
+    run.plan.ultima_por_host.assign(run.choices.secondary_hosts().size() + 1, Text());
     int n = 0;
     for (int d = 0; d <= last; ++d) {
         enter_destination(phase, d);
@@ -190,7 +189,7 @@ Text first_level_link(const Run& run) {
     if (!run.choices.secondary_hosts().empty()) {
         if (!has_keyword_to_draw(project))
             throw RuntimeFault(fault_project_lacks, Text(lacks_second_keyword));
-        do r = static_cast<int>(Int(chance().Rnd() * project.n_keywords + 1));
+        do r = draw_below(project.n_keywords) + 1;
         while (project.tabla_kw.at(r).empty());
         address = run.choices.main_host() + u"/";
     }
@@ -203,7 +202,7 @@ Text tp3_cajadekeywords(const Run& run) {
 }
 
 Text tp3_hiddenform(const Run& run) {
-    const double r = Int(chance().Rnd() * 30 + 1); // drawn in any case
+    const int r = draw_below(30) + 1; // drawn in any case
     if (r <= 15 || !run.choices.hidden_blocks()) return {};
     return fill(u"<input type=hidden name=content value={1}><br>", Replace(run.lista_kw, u",", u""));
 }

@@ -95,7 +95,7 @@ int hidden_box(const Boxes& boxes, int bound) {
             fault_project_lacks,
             u"All content boxes that a page could draw are empty; one with text in Step 3 would do.");
     int b = 0;
-    do b = static_cast<int>(Int(chance().Rnd() * bound));
+    do b = draw_below(bound);
     while (empty(b));
     return b;
 }

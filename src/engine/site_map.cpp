@@ -6,6 +6,7 @@
 #include "engine/run.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
+#include "platform/subscript.h"
 
 namespace twk {
 
@@ -54,9 +55,8 @@ void write_legend(OpenPage& page) {
 
 /// Number of the listed pages, then the folder's "size": the letters of its file names, by the thousand. It
 /// counts in more than 16 bits, as a large project's names have more than 32767 letters.
-void write_totals(OpenPage& page, const Text& folder, std::size_t listed, TextView font) {
-    page.writeline(u"<tr><td bgcolor=#FF70FF>{1} pages.</td></tr>",
-                   to_text(static_cast<std::int64_t>(listed)));
+void write_totals(OpenPage& page, const Text& folder, int listed, TextView font) {
+    page.writeline(u"<tr><td bgcolor=#FF70FF>{1} pages.</td></tr>", to_text(listed));
     std::int64_t t = 0;
     for (const Text& name : list_files(folder, u"*.*")) t += Len(name);
     page.writeline(u"<tr><td bgcolor=#E6E6E0>{1}{2} Mb. occuped in .htm(l) + .gif + .swf (if selected) in "
@@ -101,7 +101,7 @@ void write_main_column(Run& run) {
                        run.choices.main_host());
     for (const Text& file : files)
         if (!file.starts_with(u"SITEMAP-DO")) write_main_row(run, run.plan.in_main_folder(file), file);
-    write_totals(run.page, folder, files.size(), uR"(<font  size=2  color="#000000">)");
+    write_totals(run.page, folder, size_of(files), uR"(<font  size=2  color="#000000">)");
 }
 
 void write_random_row(Run& run, const Text& path, const Text& file) {
@@ -139,7 +139,7 @@ void write_random_column(Run& run, const Text& folder) {
     page.writeline(u"<tr><td bgcolor=#FFBFBF>(pages in this color redirect to your main URL)</td></tr>");
     const std::vector<Text> files = run.choices.files_in(folder, u"*.htm*");
     for (const Text& file : files) write_random_row(run, joined_path(folder, file), file);
-    write_totals(page, folder, files.size(), uR"(<font  color="#000000">)");
+    write_totals(page, folder, size_of(files), uR"(<font  color="#000000">)");
 }
 
 /// A folder kept from before: "old" stands ten units before the end of its name.

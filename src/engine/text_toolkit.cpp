@@ -59,8 +59,7 @@ Text preparar_texto(Text&& texto) {
 }
 
 int xrnum(int n) {
-    if (n == 0) return 0;
-    return CInt(Int(chance().Rnd() * n));
+    return n == 0 ? 0 : CInt(draw_below(n));
 }
 
 Text letra(int& n) {

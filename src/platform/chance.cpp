@@ -21,8 +21,12 @@ void Chance::fix_seed(std::uint64_t seed) {
     fixed_ = true;
 }
 
+int draw_below(int n) {
+    return static_cast<int>(std::floor(chance().Rnd() * n));
+}
+
 int percent_draw() {
-    return static_cast<int>(std::floor(chance().Rnd() * 100 + 1));
+    return draw_below(100) + 1;
 }
 
 } // namespace twk

@@ -30,7 +30,11 @@ class Chance {
 
 Chance& chance();
 
-/// A percentage draw, 1 to 100: Int(Rnd * 100 + 1).
+/// A draw from 0 up to, not including, `n`: Int(Rnd * n). One of 0 gives 0 and draws all the same, one of a
+/// negative number goes down to that.
+int draw_below(int n);
+
+/// A percentage draw, 1 to 100.
 int percent_draw();
 
 } // namespace twk

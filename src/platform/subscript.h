@@ -16,4 +16,9 @@ template <class Container> decltype(auto) at(Container& container, std::integral
     return container[static_cast<std::size_t>(index)];
 }
 
+/// Number of the elements, of the type that counts them everywhere.
+template <class Container> int size_of(const Container& container) {
+    return static_cast<int>(std::size(container));
+}
+
 } // namespace twk
