@@ -5,7 +5,7 @@
 #include "engine/text_toolkit.h"
 #include "platform/desktop.h"
 #include "platform/file_system.h"
-#include "platform/numbers.h"
+#include "store/statements.h"
 #include "store/store_setup.h"
 #include "store/stores.h"
 
@@ -102,70 +102,57 @@ SampleProject read_sample(const Text& path) {
 }
 
 /// The key that the store gave to the row found by the statement.
-Text key_of(Database& store, const Text& statement, TextView column) {
-    return store.OpenRecordset(statement).Fields(column).text();
+std::int64_t key_of(Database& store, const Statement& statement, TextView column) {
+    return store.OpenRecordset(statement).Fields(column).key();
 }
 
-Text quoted(const Text& value) {
-    return u"'" + value + u"'";
+std::int64_t write_project(Database& store, const std::map<Text, Text>& properties) {
+    const auto value = [&](const char16_t* column) { return preparar_texto(Text(properties.at(column))); };
+    store.Execute(
+        {u"insert into Projects ( name , site_name , site_url , title , category , description , "
+         u"designer_name , designer_url ) values ( '{}' , '{}' , '{}' , '{}' , '{}' , '{}' , '{}' , "
+         u"'{}' )",
+         value(u"name"), value(u"site_name"), value(u"site_url"), value(u"title"), value(u"category"),
+         value(u"description"), value(u"designer_name"), value(u"designer_url")});
+    return key_of(store, statements::inserted_project(properties.at(u"name")), u"pid");
 }
 
-Text write_project(Database& store, const std::map<Text, Text>& properties) {
-    Text columns, values;
-    for (TextView column : {u"name", u"site_name", u"site_url", u"title", u"category", u"description",
-                            u"designer_name", u"designer_url"}) {
-        Text value = properties.at(Text(column));
-        columns += (columns.empty() ? u"" : u" , ") + Text(column);
-        values += (values.empty() ? u"" : u" , ") + quoted(preparar_texto(value));
-    }
-    store.Execute(u"insert into Projects ( " + columns + u" ) values ( " + values + u" )");
-    return key_of(store, u"select * from projects where name = " + quoted(properties.at(u"name")), u"pid");
-}
-
-void write_addresses(Database& store, const Text& pid, TextView table, TextView column,
+void write_addresses(Database& store, std::int64_t pid, StatementName table, StatementName column,
                      const std::vector<Text>& addresses) {
     for (const Text& address : addresses)
-        store.Execute(u"insert into " + Text(table) + u" ( pid , " + Text(column) + u" ) values ( " + pid +
-                      u" , " + quoted(address) + u" )");
+        store.Execute({u"insert into {} ( pid , {} ) values ( {} , '{}' )", table, column, pid, address});
 }
 
-void write_keywords(Database& store, const Text& pid, const SampleProject& sample) {
+void write_keywords(Database& store, std::int64_t pid, const SampleProject& sample) {
     for (const auto& [keyword, subkeywords] : sample.keywords) {
-        store.Execute(u"insert into keywords ( pid , keyword ) values ( " + pid + u" , " + quoted(keyword) +
-                      u" )");
-        const Text keyid = key_of(
-            store, u"select keyid from keywords where pid = " + pid + u" and keyword = " + quoted(keyword),
-            u"keyid");
+        store.Execute(statements::insert_keyword(pid, keyword));
+        const std::int64_t keyid = key_of(store, statements::keyword_of(pid, keyword), u"keyid");
         for (Text subkeyword : subkeywords)
-            store.Execute(u"insert into elements ( catid , element ) values ( " + keyid + u" , " +
-                          quoted(preparar_texto(subkeyword)) + u" )");
+            store.Execute({u"insert into elements ( catid , element ) values ( {} , '{}' )", keyid,
+                           preparar_texto(subkeyword)});
     }
 }
 
 /// Writes a box as Step 3 does and returns its key.
-Text write_box(Database& store, const Text& pid, Text text) {
-    Recordset rows = store.OpenRecordset(u"content");
+std::int64_t write_box(Database& store, std::int64_t pid, Text text) {
+    Recordset rows = store.OpenRecordset({u"content"});
     rows.AddNew();
-    rows.set(u"pid", static_cast<std::int64_t>(Val(pid)));
+    rows.set(u"pid", pid);
     rows.AppendChunk(u"content", Replace(preparar_texto(text), vbCrLf, u" <br> "));
     rows.Update();
     rows.Close();
-    Text cid;
-    for (Recordset all = store.OpenRecordset(u"select * from content where pid = " + pid); !all.eof();
-         all.MoveNext())
-        cid = all.Fields(u"cid").text();
+    std::int64_t cid = 0;
+    for (const auto row : store.OpenRecordset(statements::boxes_of(pid))) cid = row.Fields(u"cid").key();
     return cid;
 }
 
-void write_boxes(Database& store, const Text& pid, const std::vector<ContentBox>& boxes) {
+void write_boxes(Database& store, std::int64_t pid, const std::vector<ContentBox>& boxes) {
     for (const ContentBox& box : boxes) {
-        const Text cid = write_box(store, pid, box.text);
+        const std::int64_t cid = write_box(store, pid, box.text);
         for (const Text& keyword : box.tied_keywords) {
-            const Text keyid = key_of(
-                store, u"select * from keywords where pid = " + pid + u" and keyword = " + quoted(keyword),
-                u"keyid");
-            store.Execute(u"insert into ties ( pid , keyid , cid  ) values ( " + pid + u" , " + keyid +
-                          u" , " + cid + u"  ) ");
+            const std::int64_t keyid = key_of(store, statements::keyword_of(pid, keyword), u"keyid");
+            store.Execute(
+                {u"insert into ties ( pid , keyid , cid  ) values ( {} , {} , {}  ) ", pid, keyid, cid});
         }
     }
 }
@@ -181,7 +168,7 @@ void make_stores(const Text& data, const Text& out) {
 
     make_store(out + u"hive.mdb", data + u"schema_hive.sql", hive_key);
     Database hive = OpenDatabase(out + u"hive.mdb", false, false, u";pwd=" + from_utf8(hive_key));
-    const Text pid = write_project(hive, sample.properties);
+    const std::int64_t pid = write_project(hive, sample.properties);
     write_addresses(hive, pid, u"target", u"target", sample.targets);
     write_addresses(hive, pid, u"host1", u"host", sample.main_host);
     write_addresses(hive, pid, u"host", u"host", sample.secondary_hosts);
@@ -191,8 +178,8 @@ void make_stores(const Text& data, const Text& out) {
     make_store(out + u"synonyms.mdb", data + u"schema_synonyms.sql", "");
     Database dictionary = OpenDatabase(out + u"synonyms.mdb", false, false);
     for (const auto& [word, synonym] : sample.synonyms)
-        dictionary.Execute(u"insert into synonyms  ( keyword , synonyms  ) values ( " + quoted(word) +
-                           u" , " + quoted(synonym) + u" ) ");
+        dictionary.Execute(
+            {u"insert into synonyms  ( keyword , synonyms  ) values ( '{}' , '{}' ) ", word, synonym});
 }
 
 } // namespace

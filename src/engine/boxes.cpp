@@ -7,6 +7,7 @@
 #include "engine/text_toolkit.h"
 #include "platform/numbers.h"
 #include "platform/subscript.h"
+#include "store/statements.h"
 
 namespace twk {
 
@@ -41,7 +42,6 @@ namespace {
 /// `densidad` of every keyword in a text that stands as a count of words leaves it, with so many words.
 std::vector<std::int16_t> densities(Project& project, const Text& t, std::int16_t words) {
     std::vector<std::int16_t> all;
-    all.reserve(static_cast<std::size_t>(project.n_keywords));
     const KeywordSet& set = project.keyword_set();
     Text counted = t;
     KeywordCounts counts(set, counted);
@@ -60,22 +60,21 @@ std::vector<std::int16_t> densities(Project& project, const Text& t, std::int16_
 
 void measure_boxes(Boxes& boxes, Project& project, const PageChoices& choices) {
     int i = 0;
-    for (Recordset rows = project.base_datos.OpenRecordset(u"select * from content where pid = " +
-                                                           to_text(choices.project_key()));
-         !rows.eof(); rows.MoveNext(), ++i) {
+    for (const auto row : project.base_datos.OpenRecordset(statements::boxes_of(choices.project_key()))) {
         if (i >= max_boxes)
             throw told_fault(fault_subscript, u"The project has more than " + to_text(max_boxes) +
                                                   u" content boxes; so many or fewer in Step 3 would do.");
         Text& kept = at(boxes.contenidos, i);
-        Text raw = rows.Fields(u"content").text();
-        at(boxes.cids, i) = static_cast<std::int32_t>(rows.Fields(u"cid").number());
+        Text raw = row.Fields(u"content").text();
+        at(boxes.cids, i) = static_cast<std::int32_t>(row.Fields(u"cid").number());
         Text t = limpiar_html(raw);
         const std::int16_t words = contar_palabras(t); // spaces the tags of what is kept
         at(boxes.palabras_caja, i) = words;
         at(boxes.densidades, i) = densities(project, t, words);
         kept = std::move(t);
+        ++i;
     }
-    boxes.ultima_caja = static_cast<std::int16_t>(i - 1);
+    boxes.ultima_caja = CInt(i - 1);
 }
 
 } // namespace twk

@@ -59,16 +59,16 @@ void write_page(Run& run) {
 
 /// Text of the box that the keyword's ties lead to; nothing when it has none. `cid` gets the box's key.
 std::optional<Text> tied_text(Run& run, const Text& keyword, std::int16_t& cid) {
-    const Text pid = to_text(run.choices.project_key());
+    const std::int16_t pid = run.choices.project_key();
     Database& store = run.project.base_datos;
-    Recordset tie = store.OpenRecordset(u"select * from ties , keywords where ties.pid = " + pid +
-                                        u" and ties.keyid = keywords.keyid and keywords.keyword = '" +
-                                        keyword + u"' and keywords.pid = " + pid);
+    const Recordset tie = store.OpenRecordset(
+        {u"select * from ties , keywords where ties.pid = {} and ties.keyid = keywords.keyid and "
+         u"keywords.keyword = '{}' and keywords.pid = {}",
+         pid, keyword, pid});
     if (tie.eof()) return std::nullopt;
     cid = CInt(tie.Fields(u"cid").number());
     Text text;
-    for (Recordset box = store.OpenRecordset(u"select  *  from content where cid = " + to_text(cid));
-         !box.eof(); box.MoveNext())
+    for (const auto box : store.OpenRecordset({u"select  *  from content where cid = {}", cid}))
         text = box.Fields(u"content").text();
     return text;
 }
@@ -79,7 +79,7 @@ int chosen_box(const Boxes& boxes, int k, PageRecord& made) {
     for (int i = 0; i <= boxes.ultima_caja; ++i)
         if (at(at(boxes.densidades, i), k) > b) b = i; // compared with the box held, not with its density
     made.choice = b == 0 ? BoxChoice::drawn : BoxChoice::densest;
-    if (b == 0) b = static_cast<int>(Int(chance().Rnd() * boxes.ultima_caja));
+    if (b == 0) b = draw_below(boxes.ultima_caja);
     made.boxes.push_back(static_cast<std::uint8_t>(b));
     return b;
 }

@@ -5,6 +5,7 @@
 #include "platform/module1.h"
 #include "platform/numbers.h"
 #include "platform/subscript.h"
+#include "store/statements.h"
 
 namespace twk {
 
@@ -42,9 +43,8 @@ Text Project::joined_keywords() const {
 }
 
 void read_project(Project& project, const PageChoices& choices) {
-    for (Recordset row = project.base_datos.OpenRecordset(u"select * from Projects where Projects.pid = " +
-                                                          to_text(choices.project_key()));
-         !row.eof(); row.MoveNext()) {
+    for (const auto row : project.base_datos.OpenRecordset(
+             {u"select * from Projects where Projects.pid = {}", choices.project_key()})) {
         project.proyecto = {row.Fields(u"Name").text(),          row.Fields(u"site_name").text(),
                             row.Fields(u"site_url").text(),      row.Fields(u"Title").text(),
                             row.Fields(u"category").text(),      row.Fields(u"Description").text(),
@@ -58,10 +58,10 @@ namespace {
 /// Elements of one keyword into its row, from column 1; column 99 is the last that is filled.
 int read_elements(Project& project, int row, std::int16_t keyid) {
     int column = 1;
-    for (Recordset elements =
-             project.base_datos.OpenRecordset(u"select * from elements where catid = " + to_text(keyid));
-         !elements.eof() && column < 100; elements.MoveNext())
-        project.tabla_kw.cell(row, column++) = elements.Fields(u"element").text();
+    for (const auto element : project.base_datos.OpenRecordset(statements::subkeywords_of(keyid))) {
+        if (column == max_columns - 1) break;
+        project.tabla_kw.cell(row, column++) = element.Fields(u"element").text();
+    }
     return column - 1;
 }
 
@@ -69,29 +69,29 @@ int read_elements(Project& project, int row, std::int16_t keyid) {
 
 void read_keywords(Project& project, const PageChoices& choices) {
     // One row more than the list has entries: it stays empty and ends the walks over the table.
-    project.tabla_kw.resize(static_cast<int>(choices.listed_keywords().size()) + 2);
+    project.tabla_kw.resize(size_of(choices.listed_keywords()) + 2);
     int row = 0;
-    for (Recordset keywords = project.base_datos.OpenRecordset(u"select * from keywords where pid = " +
-                                                               to_text(choices.project_key()));
-         !keywords.eof(); keywords.MoveNext(), ++row) {
+    for (const auto keyword :
+         project.base_datos.OpenRecordset(statements::keywords_of(choices.project_key()))) {
         if (row >= project.tabla_kw.rows())
             throw told_fault(fault_subscript,
                              u"The project has more keywords than Step 2 shows; opening it anew "
                              u"from the project list would do.");
-        project.tabla_kw.cell(row) = keywords.Fields(u"keyword").text();
-        const int read = read_elements(project, row, CInt(keywords.Fields(u"keyid").number()));
+        project.tabla_kw.cell(row) = keyword.Fields(u"keyword").text();
+        const int read = read_elements(project, row, CInt(keyword.Fields(u"keyid").number()));
         project.total_terminos += read + 1;
         project.total_sub += read;
+        ++row;
     }
-    project.n_keywords = CInt(static_cast<double>(row));
+    project.n_keywords = CInt(row);
 }
 
 void collect_terms(Project& project) {
     KeywordTable& table = project.tabla_kw;
     project.terminos.assign(static_cast<std::size_t>(project.total_terminos) + 1, Text());
-    std::size_t p = 0;
+    int p = 0;
     const auto add = [&](Text term) {
-        if (p < project.terminos.size()) project.terminos[p++] = std::move(term);
+        if (p < size_of(project.terminos)) at(project.terminos, p++) = std::move(term);
     };
     for (int k = 0; k <= project.n_keywords; ++k) {
         if (table.at(k, 1).empty())
@@ -101,7 +101,7 @@ void collect_terms(Project& project) {
         const Text& keyword = table.at(k);
         if (!keyword.empty()) add(keyword + u" "); // the blank stays with it
     }
-    project.n_terminos = CInt(static_cast<double>(p));
+    project.n_terminos = CInt(p);
 }
 
 } // namespace twk

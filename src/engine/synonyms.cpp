@@ -75,9 +75,9 @@ class Dictionary {
 
 Dictionary read_dictionary(Database& sinonimos) {
     Recordset k =
-        sinonimos.OpenRecordset(u"select * from synonyms where synonyms  <> '' order by keyword asc");
+        sinonimos.OpenRecordset({u"select * from synonyms where synonyms  <> '' order by keyword asc"});
     Recordset s =
-        sinonimos.OpenRecordset(u"select * from synonyms where synonyms  <> '' order by synonyms  asc");
+        sinonimos.OpenRecordset({u"select * from synonyms where synonyms  <> '' order by synonyms  asc"});
     Dictionary dictionary;
     for (; !k.eof() && !s.eof(); k.MoveNext(), s.MoveNext())
         dictionary.add(k.Fields(u"keyword").text(), k.Fields(u"synonyms").text(),
@@ -118,7 +118,7 @@ Text Synonyms::sinonimo(const Text& texto) {
     Text t = texto;
     space_tags(t);
     const auto n = static_cast<int>(count_units(t, [](char16_t c) { return c == u' '; }));
-    const int m = t.empty() ? -1 : std::min(n, static_cast<int>(Round(n * share() / 100)));
+    const int m = t.empty() ? -1 : std::min(n, CLng(n * share() / 100));
     std::vector<TextView> palabras_texto; // no more than may be replaced
     std::size_t from = 0;
     for (int i = 0; i <= m; ++i) {

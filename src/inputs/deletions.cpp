@@ -2,16 +2,16 @@
 #include "inputs/deletions.h"
 
 #include "platform/numbers.h"
+#include "store/statements.h"
 
 namespace twk {
 
 namespace {
 
 bool still_fits(Database& store, const StoredRow& tie) {
-    const auto none = [&](const Text& rows) { return store.OpenRecordset(u"select * from " + rows).eof(); };
-    return !none(u"content where cid = " + tie.value("cid").text()) &&
-           none(u"ties where pid = " + tie.value("pid").text() + u" and keyid = " +
-                tie.value("keyid").text());
+    const auto none = [&](const Statement& rows) { return store.OpenRecordset(rows).eof(); };
+    return !none(statements::box(tie.value("cid").key())) &&
+           none(statements::tie_of(tie.value("pid").key(), tie.value("keyid").key()));
 }
 
 } // namespace

@@ -45,17 +45,15 @@ void Form10::Form_Unload() {
 
 void Form10::refrescar_sinonimos() {
     List1.clear();
-    for (Recordset row = synonyms_.OpenRecordset(u"select * from synonyms order by keyword"); !row.eof();
-         row.MoveNext())
+    for (const auto row : synonyms_.OpenRecordset({u"select * from synonyms order by keyword"}))
         List1.add_item(row.Fields(u"keyword").text());
     Text1.text = u"";
     Text2.text = u"";
 }
 
 void Form10::List1_Click() {
-    for (Recordset row =
-             synonyms_.OpenRecordset(u"select * from synonyms where keyword = '" + List1.text() + u"'");
-         !row.eof(); row.MoveNext()) {
+    for (const auto row :
+         synonyms_.OpenRecordset({u"select * from synonyms where keyword = '{}'", List1.text()})) {
         const Field synonyms = row.Fields(u"synonyms");
         if (synonyms.is_null()) {
             Text1.text = u"";
@@ -71,20 +69,20 @@ void Form10::Command1_Click() {
 }
 
 void Form10::Command2_Click() {
-    synonyms_.Execute(u"insert into synonyms ( keyword ) values ( '" + Text2.text() + u"' ) ");
+    synonyms_.Execute({u"insert into synonyms ( keyword ) values ( '{}' ) ", Text2.text()});
     MsgBox(u"The keyword was added. Now select it in the listbox, and modify (add) its synonime");
     refrescar_sinonimos();
 }
 
 void Form10::Command3_Click() {
-    synonyms_.Execute(u"update synonyms set synonyms = '" + Text1.text() + u"' where keyword = '" +
-                      List1.text() + u"' ");
+    synonyms_.Execute(
+        {u"update synonyms set synonyms = '{}' where keyword = '{}' ", Text1.text(), List1.text()});
     refrescar_sinonimos();
 }
 
 void Form10::Command4_Click() {
     if (List1.list_index() < 0) return;
-    synonyms_.Execute(u"delete from synonyms where keyword = '" + List1.text() + u"'");
+    synonyms_.Execute({u"delete from synonyms where keyword = '{}'", List1.text()});
     refrescar_sinonimos();
 }
 

@@ -9,6 +9,7 @@
 #include "platform/numbers.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
+#include "store/statements.h"
 #include "store/stores.h"
 #include "tools/form19.h"
 #include "tools/form20.h"
@@ -41,8 +42,7 @@ void Form3::Form_Load() {
     silent = 0;
     marcar_forma(screen_number, true);
     open_store();
-    take_last_key(base_datos_.OpenRecordset(u"select * from Projects where name = '" +
-                                            screen<Form2>().txt_name[0].text() + u"'"),
+    take_last_key(base_datos_.OpenRecordset(statements::project_named(screen<Form2>().txt_name[0].text())),
                   u"pid", pid_form);
     llenar_proyectos();
     Dir2.set_path(app_path());
@@ -52,9 +52,7 @@ void Form3::Form_Load() {
 }
 
 void Form3::list_keywords() {
-    for (Recordset row =
-             base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid_form));
-         !row.eof(); row.MoveNext())
+    for (const auto row : base_datos_.OpenRecordset(statements::keywords_of(pid_form)))
         List1.add_item(row.Fields(u"keyword").text());
 }
 
@@ -76,8 +74,8 @@ void Form3::warn(TextView message) const {
 }
 
 Recordset Form3::keyword_rows(const Text& word) {
-    return base_datos_.OpenRecordset(u"select * from keywords where keyword = '" + word + u"' and pid = " +
-                                     to_text(pid_form));
+    return base_datos_.OpenRecordset(
+        {u"select * from keywords where keyword = '{}' and pid = {}", word, pid_form});
 }
 
 std::int16_t Form3::find_keyid(const Text& word) {
@@ -94,8 +92,8 @@ bool Form3::too_many_words() {
 }
 
 Recordset Form3::element_rows(std::int16_t catid, const Text& word) {
-    return base_datos_.OpenRecordset(u"select * from elements where element = '" + word + u"' and catid = " +
-                                     to_text(catid));
+    return base_datos_.OpenRecordset(
+        {u"select * from elements where element = '{}' and catid = {}", word, catid});
 }
 
 bool Form3::has_element(std::int16_t catid, const Text& word) {
@@ -103,14 +101,12 @@ bool Form3::has_element(std::int16_t catid, const Text& word) {
 }
 
 void Form3::insert_keyword(const Text& word) {
-    base_datos_.Execute(u"insert into keywords ( pid , keyword ) values ( " + to_text(pid_form) + u" , '" +
-                        word + u"' ) ");
+    base_datos_.Execute(statements::insert_keyword(pid_form, word));
     List1.add_item(word);
 }
 
 void Form3::insert_element(std::int16_t catid, const Text& word) {
-    base_datos_.Execute(u"insert into elements ( catid , element ) values ( " + to_text(catid) + u" , '" +
-                        word + u"' ) ");
+    base_datos_.Execute({u"insert into elements ( catid , element ) values ( {} , '{}' ) ", catid, word});
 }
 
 void Form3::clear_selection(ListBox& list) {
@@ -132,9 +128,9 @@ void Form3::List1_Click() {
     if (word.empty() || List1.list_index() < 0) return;
     keyid = 0;
     stepping_over([&] {
-        take_last_key(base_datos_.OpenRecordset(u"select keywords.keyid as X2 , keywords.pid as X3 "
-                                                u" from keywords where keyword = '" +
-                                                word + u"' and pid = " + to_text(pid_form)),
+        take_last_key(base_datos_.OpenRecordset({u"select keywords.keyid as X2 , keywords.pid as X3  from "
+                                                 u"keywords where keyword = '{}' and pid = {}",
+                                                 word, pid_form}),
                       u"X2", keyid);
     });
     Text1.text = word;
@@ -147,8 +143,7 @@ void Form3::List1_Click() {
 void Form3::list_subkeywords() {
     List2.clear();
     if (keyid == 0) return;
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(keyid));
-         !row.eof(); row.MoveNext())
+    for (const auto row : base_datos_.OpenRecordset(statements::subkeywords_of(keyid)))
         stepping_over([&] { List2.add_item(Trim(row.Fields(u"element").text())); });
 }
 
@@ -194,8 +189,9 @@ void Form3::Command2_Click() {
     // One question for all keywords of the project, so that adding stays quick when there are thousands.
     if (status == 1 &&
         !base_datos_
-             .OpenRecordset(u"select eid from elements cross join keywords where element = '" + word +
-                            u"' and keywords.keyid = elements.catid and keywords.pid = " + to_text(pid_form))
+             .OpenRecordset({u"select eid from elements cross join keywords where element = '{}' and "
+                             u"keywords.keyid = elements.catid and keywords.pid = {}",
+                             word, pid_form})
              .eof()) {
         status = 2;
         warn(u"You can't define a keyword name as a subkeyword");
@@ -230,8 +226,8 @@ void Form3::Command21_Click() {
             return;
         }
         const Text trimmed = Trim(word);
-        base_datos_.Execute(u"update keywords set keyword = '" + trimmed + u"' where keyword='" +
-                            List1.list(index) + u"' and pid = " + to_text(pid_form));
+        base_datos_.Execute({u"update keywords set keyword = '{}' where keyword='{}' and pid = {}", trimmed,
+                             List1.list(index), pid_form});
         List1.set_list(index, trimmed);
     }
     Text1.set_focus();
@@ -310,9 +306,8 @@ void Form3::Command22_Click() {
                 return;
             }
         if (index != no_index) {
-            base_datos_.Execute(u"update elements set element = '" +
-                                Trim(preparar_texto(Text(Text2.text()))) + u"' where catid = " +
-                                to_text(keyid) + u" and element = '" + Trim(List2.list(index)) + u"'");
+            base_datos_.Execute({u"update elements set element = '{}' where catid = {} and element = '{}'",
+                                 Trim(preparar_texto(Text(Text2.text()))), keyid, Trim(List2.list(index))});
             List2.set_list(index, word);
         }
     }

@@ -5,6 +5,7 @@
 #include "inputs/form3.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
+#include "store/statements.h"
 
 #include <algorithm>
 
@@ -45,9 +46,8 @@ void Form3::Command7_Click() {
 bool Form3::delete_keyword(const Text& word, UndoStack::Command& command) {
     std::vector<StoredRow> rows = keyword_rows(word).rows_of("keywords");
     const std::int16_t key = find_keyid(word);
-    const Text of_keyword = u"from elements where catid = " + to_text(key);
     const std::vector<StoredRow> elements =
-        base_datos_.OpenRecordset(u"select * " + of_keyword).rows_of("elements");
+        base_datos_.OpenRecordset(statements::subkeywords_of(key)).rows_of("elements");
     const auto keep_for_undo = [&](const std::vector<StoredRow>& more) {
         rows.insert(rows.end(), more.begin(), more.end());
     };
@@ -57,7 +57,7 @@ bool Form3::delete_keyword(const Text& word, UndoStack::Command& command) {
                 u"Are you sure you want to delete this keyword?\rAll its subKeywords will be lost.",
                 Buttons::ok_cancel, u"Delete Keyword?", about) == Answer::cancel)
             return false;
-        base_datos_.Execute(u"delete " + of_keyword);
+        base_datos_.Execute(statements::delete_subkeywords_of(key));
         keep_for_undo(elements);
     }
     keep_for_undo(delete_ties_and_row(key, word));
@@ -66,13 +66,12 @@ bool Form3::delete_keyword(const Text& word, UndoStack::Command& command) {
 }
 
 std::vector<StoredRow> Form3::delete_ties_and_row(std::int16_t key, const Text& word) {
-    Recordset row = base_datos_.OpenRecordset(u"select * from ties where keyid = " + to_text(key) +
-                                              u" and pid = " + to_text(pid_form));
-    std::vector<StoredRow> ties = row.rows_of("ties");
-    for (; !row.eof(); row.MoveNext())
-        base_datos_.Execute(u"delete from ties where tieid = " + row.Fields(u"tieid").text());
-    base_datos_.Execute(u"delete from keywords where pid = " + to_text(pid_form) + u" and keyword = '" +
-                        word + u"' ");
+    const std::vector<StoredRow> ties =
+        base_datos_.OpenRecordset({u"select * from ties where keyid = {} and pid = {}", key, pid_form})
+            .rows_of("ties");
+    for (const StoredRow& tie : ties)
+        base_datos_.Execute({u"delete from ties where tieid = {}", tie.value("tieid").key()});
+    base_datos_.Execute({u"delete from keywords where pid = {} and keyword = '{}' ", pid_form, word});
     return ties;
 }
 
@@ -103,8 +102,7 @@ void Form3::Command10_Click() {
 
 void Form3::delete_subkeyword(const Text& word, std::int16_t catid, UndoStack::Command& command) {
     const std::vector<StoredRow> rows = element_rows(catid, word).rows_of("elements");
-    base_datos_.Execute(u"delete from elements where element = '" + word + u"' and catid = " +
-                        to_text(catid));
+    base_datos_.Execute(statements::delete_subkeyword(catid, word));
     if (rows.empty()) return;
     command.deleted(word, [this, word, catid, rows] { return restore_subkeyword(word, catid, rows); });
 }
@@ -123,11 +121,10 @@ bool Form3::restore_keyword(const Text& word, const std::vector<StoredRow>& rows
 }
 
 bool Form3::restore_subkeyword(const Text& word, std::int16_t catid, const std::vector<StoredRow>& rows) {
-    if (base_datos_.OpenRecordset(u"select * from keywords where keyid = " + to_text(catid)).eof())
+    if (base_datos_.OpenRecordset({u"select * from keywords where keyid = {}", catid}).eof())
         return in_the_way(u"The keyword of the subkeyword '" + word + u"' has been deleted.");
     if (has_element(catid, word)) return in_the_way(u"You can't define 2 equals subkeywords");
-    if (base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(catid)).RecordCount() >=
-        most_subkeywords)
+    if (base_datos_.OpenRecordset(statements::subkeywords_of(catid)).RecordCount() >= most_subkeywords)
         return in_the_way(u"You can't add more than 99 subkeywords per each keyword");
     put_back(base_datos_, rows);
     return true;

@@ -9,6 +9,7 @@
 #include "platform/numbers.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
+#include "store/statements.h"
 
 #include <unordered_set>
 #include <utility>
@@ -111,14 +112,11 @@ void Form3::export_list() {
 void Form3::export_keyword(TextStream& out, int number, const Text& word) {
     out.writeline(u" " + to_text(number) + u".= " + word);
     std::int16_t key = 0;
-    take_last_key(base_datos_.OpenRecordset(u"select * from keywords where pid = " +
-                                            to_text(module1().pid_actual) + u" and keyword = '" + Trim(word) +
-                                            u"'"),
+    take_last_key(base_datos_.OpenRecordset(statements::keyword_of(module1().pid_actual, Trim(word))),
                   u"keyid", key);
     int subnumber = 0;
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(key) +
-                                                   u" order by element ");
-         !row.eof(); row.MoveNext())
+    for (const auto row :
+         base_datos_.OpenRecordset({u"select * from elements where catid = {} order by element ", key}))
         out.writeline(u" Subkeyword " + to_text(++subnumber) + u".= " + Trim(row.Fields(u"element").text()));
 }
 
@@ -232,18 +230,14 @@ void Form3::import_line(const Text& line, std::int16_t& current) {
     value = Trim(validar_palabra(value));
     if (value.empty()) return;
     if (IsNumeric(left)) {
-        const Text select =
-            u"select * from keywords where pid = " + to_text(pid_form) + u" and keyword = '" + value + u"'";
+        const Statement select = statements::keyword_of(pid_form, value);
         if (!base_datos_.OpenRecordset(select).eof()) return;
         insert_keyword(value);
         take_last_key(base_datos_.OpenRecordset(select), u"keyid", current);
         return;
     }
-    if (!base_datos_
-             .OpenRecordset(u"select * from elements where catid = " + to_text(current) +
-                            u" and element = '" + value + u"'")
-             .eof())
-        return;
+    const Statement equal_ones{u"select * from elements where catid = {} and element = '{}'", current, value};
+    if (!base_datos_.OpenRecordset(equal_ones).eof()) return;
     insert_element(current, value);
 }
 

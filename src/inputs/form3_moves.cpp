@@ -7,6 +7,7 @@
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 #include "shell/form2.h"
+#include "store/statements.h"
 
 #include <algorithm>
 
@@ -132,8 +133,7 @@ void Form3::move_as_subkeyword(const Move& moved) {
 
 /// Takes the moved subkeyword away from its keyword, and closes the frame.
 void Form3::delete_moved_subkeyword(const Move& moved) {
-    base_datos_.Execute(u"delete from elements where element = '" + moved.word + u"' and catid = " +
-                        to_text(moved.key));
+    base_datos_.Execute(statements::delete_subkeyword(moved.key, moved.word));
     if (keyid == moved.key) unlist(List2, moved.word);
     Frame1.visible = false;
     show_counts();
@@ -168,18 +168,17 @@ void Form3::Command16_Click() {
 
 /// Whether the word stands among the subkeywords of that keyword, in this very case.
 bool Form3::repeated_at(std::int16_t catid, TextView word) {
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(catid));
-         !row.eof(); row.MoveNext())
+    for (const auto row : base_datos_.OpenRecordset(statements::subkeywords_of(catid)))
         if (Trim(row.Fields(u"element").text()) == word) return true;
     return false;
 }
 
 /// Moves all subkeywords; false when one is repeated at the destination, where the move stops.
 bool Form3::move_subkeywords(std::int16_t from, std::int16_t destination) {
-    Recordset row = base_datos_.OpenRecordset(u"select * from elements where catid = " + to_text(from));
-    if (row.eof()) return true;
+    const Recordset rows = base_datos_.OpenRecordset(statements::subkeywords_of(from));
+    if (rows.eof()) return true;
     MsgBox(u"The subkeywords for this keyword will be moved as subkeyword for the destination keyword");
-    for (; !row.eof(); row.MoveNext()) {
+    for (const auto row : rows) {
         const Text element = row.Fields(u"element").text();
         if (repeated_at(destination, Trim(element))) {
             MsgBox(u"SubKeyword '" + element + u"' is repeated in the destination keyword");
@@ -187,7 +186,7 @@ bool Form3::move_subkeywords(std::int16_t from, std::int16_t destination) {
             return false;
         }
         insert_element(destination, element);
-        base_datos_.Execute(u"delete from elements where eid = " + row.Fields(u"eid").text());
+        base_datos_.Execute({u"delete from elements where eid = {}", row.Fields(u"eid").key()});
     }
     return true;
 }
@@ -195,12 +194,10 @@ bool Form3::move_subkeywords(std::int16_t from, std::int16_t destination) {
 // Using keywords from another project
 
 void Form3::llenar_proyectos() {
-    for (Recordset row = base_datos_.OpenRecordset(u"select distinct(name) from Projects , keywords where "
-                                                   u" Projects.pid = keywords.pid "
-                                                   u" and projects.name <> '" +
-                                                   Trim(screen<Form2>().txt_name[0].text()) + u"' " +
-                                                   u" order by name asc ");
-         !row.eof(); row.MoveNext())
+    for (const auto row : base_datos_.OpenRecordset(
+             {u"select distinct(name) from Projects , keywords where  Projects.pid = keywords.pid  and "
+              u"projects.name <> '{}'  order by name asc ",
+              Trim(screen<Form2>().txt_name[0].text())}))
         Combo1.add_item(row.Fields(u"name").text());
 }
 
@@ -211,11 +208,11 @@ void Form3::Combo1_Click() {
         return;
     bool any_here = false;
     int copied = 0;
-    for (Recordset row =
-             base_datos_.OpenRecordset(u"SELECT Projects.pid as ff , keywords.* From Projects, keywords "
-                                       u"WHERE Projects.name = '" +
-                                       project + u"' and Projects.pid = keywords.pid ");
-         !row.eof(); row.MoveNext()) {
+    for (
+        const auto row : base_datos_.OpenRecordset(
+            {u"SELECT Projects.pid as ff , keywords.* From Projects, keywords WHERE Projects.name = '{}' and "
+             u"Projects.pid = keywords.pid ",
+             project})) {
         const Text word = row.Fields(u"keyword").text();
         const auto& here = List1.entries();
         if (std::find(here.begin(), here.end(), Trim(word)) != here.end()) {

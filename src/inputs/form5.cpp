@@ -12,6 +12,7 @@
 #include "platform/subscript.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
+#include "store/statements.h"
 #include "store/stores.h"
 #include "tools/form11.h"
 #include "tools/form21.h"
@@ -55,17 +56,16 @@ Form5::Form5() {
 namespace {
 
 /// The key in front of an entry of the keywords, "12-green tea".
-Text key_of(const Text& entry) {
-    return Trim(Left(entry, InStr(entry, u"-") - 1));
+std::int64_t key_of(const Text& entry) {
+    return static_cast<std::int64_t>(CDbl(Left(entry, InStr(entry, u"-") - 1)));
 }
 
 } // namespace
 
 Text Form5::tied_text(const Text& keyword) {
-    const Recordset tie = base_datos_.OpenRecordset(u"select * from ties where pid = " + to_text(pid_form) +
-                                                    u" and keyid = " + key_of(keyword));
+    const Recordset tie = base_datos_.OpenRecordset(statements::tie_of(pid_form, key_of(keyword)));
     if (tie.eof()) return {};
-    const Text cid = tie.Fields(u"cid").text();
+    const std::int64_t cid = tie.Fields(u"cid").key();
     for (int box = 0; box < List1.list_count(); ++box)
         if (at(caja_cid, box) == cid) return at(caja_texto, box);
     return {};
@@ -76,21 +76,18 @@ void Form5::Form_Load() {
     tabla_kw.resize(screen<Form3>().List1.list_count() + 1);
     RTAux.clear();
     base_datos_ = open_hive();
-    take_last_key(base_datos_.OpenRecordset(u"select * from Projects where name = '" + project_name() + u"'"),
-                  u"pid", pid_form);
+    take_last_key(base_datos_.OpenRecordset(statements::project_named(project_name())), u"pid", pid_form);
     const std::int16_t open_project = module1().pid_actual;
     if (open_project != 0) {
         pid_form = open_project;
-        for (Recordset row =
-                 base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid_form));
-             !row.eof(); row.MoveNext())
+        for (const auto row : base_datos_.OpenRecordset(statements::keywords_of(pid_form)))
             lstkeyword.add_item(row.Fields(u"keyid").text() + u"-" + Trim(row.Fields(u"keyword").text()));
     }
     Text3.text = Text(critic_at_rest);
-    for (Recordset row = base_datos_.OpenRecordset(u"select distinct(name) from Projects , keywords where "
-                                                   u" Projects.pid = keywords.pid and  projects.name <> '" +
-                                                   project_name() + u"' " + u" order by name asc ");
-         !row.eof(); row.MoveNext())
+    for (const auto row : base_datos_.OpenRecordset(
+             {u"select distinct(name) from Projects , keywords where  Projects.pid = keywords.pid and  "
+              u"projects.name <> '{}'  order by name asc ",
+              project_name()}))
         combo1.add_item(row.Fields(u"Name").text());
     if (open_project != 0) refrescar_cajas();
     fill_table();
@@ -99,15 +96,14 @@ void Form5::Form_Load() {
 /// Fault 9 for a keyword with more than 100 subkeywords.
 void Form5::fill_table() {
     int row_number = 0;
-    for (Recordset row =
-             base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid_form));
-         !row.eof() && row_number < tabla_kw.rows(); row.MoveNext(), ++row_number) {
+    for (const auto row : base_datos_.OpenRecordset(statements::keywords_of(pid_form))) {
+        if (row_number == tabla_kw.rows()) break;
         tabla_kw.cell(row_number) = row.Fields(u"keyword").text();
         int column = 0;
-        for (Recordset sub = base_datos_.OpenRecordset(u"select * from elements where catid = " +
-                                                       row.Fields(u"keyid").text());
-             !sub.eof(); sub.MoveNext())
+        for (const auto sub :
+             base_datos_.OpenRecordset(statements::subkeywords_of(row.Fields(u"keyid").key())))
             tabla_kw.cell(row_number, ++column) = sub.Fields(u"element").text();
+        ++row_number;
     }
 }
 
@@ -118,13 +114,11 @@ void Form5::Form_Unload() {
 void Form5::refrescar_cajas() {
     List1.clear();
     int n = 0;
-    for (Recordset row =
-             base_datos_.OpenRecordset(u"select * from content where pid = " + to_text(module1().pid_actual));
-         !row.eof(); row.MoveNext(), ++n) {
+    for (const auto row : base_datos_.OpenRecordset(statements::boxes_of(module1().pid_actual))) {
         const Text text = row.Fields(u"content").text();
         at(caja_texto, n) = text;
-        at(caja_cid, n) = row.Fields(u"cid").text();
-        List1.add_item(to_text(n + 1) + u". " + Trim(Left(text, 70)) + u" ... ");
+        at(caja_cid, n) = row.Fields(u"cid").key();
+        List1.add_item(to_text(++n) + u". " + Trim(Left(text, 70)) + u" ... ");
     }
     rt1.text = u"";
 }
@@ -152,7 +146,7 @@ void Form5::Command2_Click() {
     criticar();
     base_datos_ = open_hive();
     warn_of_few_words(rt1.text());
-    Recordset row = base_datos_.OpenRecordset(u"content");
+    Recordset row = base_datos_.OpenRecordset({u"content"});
     row.AddNew();
     row.set(u"pid", pid_form);
     write_content(row);
@@ -176,8 +170,8 @@ void Form5::Command5_Click() {
     warn_of_few_words(rt1.text());
     base_datos_ = open_hive();
     // After a No above there is no box to write to: a subscript fault, and nothing is saved.
-    Recordset row =
-        base_datos_.OpenRecordset(u"select * from content WHERE cid = " + at(caja_cid, List1.list_index()));
+    Recordset row = base_datos_.OpenRecordset(
+        {u"select * from content WHERE cid = {}", at(caja_cid, List1.list_index())});
     row.Edit();
     write_content(row);
     rt1.text = u"";
@@ -207,13 +201,13 @@ void Form5::Command3_Click() {
 }
 
 void Form5::delete_box(int index, UndoStack::Command& command) {
-    const Text cid = at(caja_cid, index);
-    std::vector<StoredRow> rows =
-        base_datos_.OpenRecordset(u"select * from content where cid = " + cid).rows_of("content");
-    const Text where = u"from ties where cid = " + cid + u" and pid  = " + to_text(pid_form);
-    const std::vector<StoredRow> ties = base_datos_.OpenRecordset(u"select * " + where).rows_of("ties");
-    if (!ties.empty()) base_datos_.Execute(u"delete " + where);
-    base_datos_.Execute(u"delete from content where cid = " + cid);
+    const std::int64_t cid = at(caja_cid, index);
+    std::vector<StoredRow> rows = base_datos_.OpenRecordset(statements::box(cid)).rows_of("content");
+    const std::vector<StoredRow> ties =
+        base_datos_.OpenRecordset({u"select * from ties where cid = {} and pid  = {}", cid, pid_form})
+            .rows_of("ties");
+    if (!ties.empty()) base_datos_.Execute({u"delete from ties where cid = {} and pid  = {}", cid, pid_form});
+    base_datos_.Execute({u"delete from content where cid = {}", cid});
     RTAux.clear();
     rows.insert(rows.end(), ties.begin(), ties.end());
     command.deleted(List1.list(index), [this, rows] { return restore_box(rows); });
@@ -221,8 +215,7 @@ void Form5::delete_box(int index, UndoStack::Command& command) {
 
 /// False when the table of the boxes is full.
 bool Form5::restore_box(const std::vector<StoredRow>& rows) {
-    const Text all = u"select * from content where pid = " + to_text(module1().pid_actual);
-    if (base_datos_.OpenRecordset(all).RecordCount() >= max_boxes) {
+    if (base_datos_.OpenRecordset(statements::boxes_of(module1().pid_actual)).RecordCount() >= max_boxes) {
         MsgBox(u"You can only add 100 content boxes");
         return false;
     }
@@ -298,24 +291,21 @@ void Form5::cmdtie_Click() {
         MsgBox(u"You have to select any content or keyword");
         return;
     }
-    const Text cid = at(caja_cid, List1.list_index());
-    const Text keyid = key_of(lstkeyword.list(lstkeyword.list_index()));
+    const std::int64_t cid = at(caja_cid, List1.list_index());
+    const std::int64_t keyid = key_of(lstkeyword.list(lstkeyword.list_index()));
     base_datos_ = open_hive();
-    if (!base_datos_
-             .OpenRecordset(u"select * from ties where pid = " + to_text(pid_form) + u" and keyid = " + keyid)
-             .eof()) {
+    if (!base_datos_.OpenRecordset(statements::tie_of(pid_form, keyid)).eof()) {
         MsgBox(u"This keyword is already tied to another content box.");
         return;
     }
-    const Text pid = to_text(module1().pid_actual);
-    for (Recordset row = base_datos_.OpenRecordset(u"select  *  from ties where pid = " + pid); !row.eof();
-         row.MoveNext())
-        if (row.Fields(u"keyid").text() == keyid && row.Fields(u"cid").text() == cid) {
+    const std::int16_t pid = module1().pid_actual;
+    for (const auto row : base_datos_.OpenRecordset({u"select  *  from ties where pid = {}", pid}))
+        if (row.Fields(u"keyid").key() == keyid && row.Fields(u"cid").key() == cid) {
             MsgBox(u"You can't tie them again");
             return;
         }
-    base_datos_.Execute(u"insert into ties ( pid , keyid , cid  ) values ( " + pid + u" , " + keyid + u" , " +
-                        cid + u"  ) ");
+    base_datos_.Execute(
+        {u"insert into ties ( pid , keyid , cid  ) values ( {} , {} , {}  ) ", pid, keyid, cid});
     MsgBox(u"Keyword and Content selected has been tied");
 }
 
@@ -347,16 +337,15 @@ void Form5::Command7_Click() {
 }
 
 void Form5::import_boxes(const Text& project) {
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from content , projects where content.pid = "
-                                                   u"projects.pid and projects.name = '" +
-                                                   project + u"'");
-         !row.eof(); row.MoveNext())
+    for (const auto row : base_datos_.OpenRecordset(
+             {u"select * from content , projects where content.pid = projects.pid and projects.name = '{}'",
+              project}))
         // An apostrophe breaks the statement: that box is left out without a word.
         stepping_over([&] {
             Text text = preparar_texto(row.Fields(u"content").text());
             text = Replace(text, vbCrLf, u"<br>");
-            base_datos_.Execute(u"insert into content ( pid , content ) values ( " + to_text(pid_form) +
-                                u" , '" + text + u"' ) ");
+            base_datos_.Execute(
+                {u"insert into content ( pid , content ) values ( {} , '{}' ) ", pid_form, text});
         });
 }
 

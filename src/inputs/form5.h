@@ -84,9 +84,9 @@ class Form5 {
     /// Judges the box in the editor, and cleans its text there.
     void criticar();
 
-    std::array<Text, max_boxes> caja_texto; ///< stored text of the box in the same position of List1
-    std::array<Text, max_boxes> caja_cid;   ///< its key, as text
-    KeywordTable tabla_kw;                  ///< the keywords; the critic lower-cases those it has counted
+    std::array<Text, max_boxes> caja_texto;         ///< stored text of the box in the same position of List1
+    std::array<std::int64_t, max_boxes> caja_cid{}; ///< its key
+    KeywordTable tabla_kw; ///< the keywords; the critic lower-cases those it has counted
     std::int16_t pid_form = 0;
     Text RTAux; ///< text of the box as last saved or selected
 

@@ -7,6 +7,7 @@
 #include "settings/form6.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
+#include "store/statements.h"
 #include "store/stores.h"
 
 #include <algorithm>
@@ -51,15 +52,13 @@ void Form7::enumerate(ScreenMap& map) {
 void Form7::Form_Load() {
     marcar_forma(screen_number, true);
     base_datos = open_hive();
-    take_last_key(base_datos.OpenRecordset(u"select Projects.pid as X1 from Projects where name = '" +
-                                           screen<Form2>().txt_name[0].text() + u"' "),
+    take_last_key(base_datos.OpenRecordset({u"select Projects.pid as X1 from Projects where name = '{}' ",
+                                            screen<Form2>().txt_name[0].text()}),
                   u"x1", pid_form);
     Text2.text = placeholder();
-    for (Recordset row = base_datos.OpenRecordset(u"select * from host1 where pid = " + to_text(pid_form));
-         !row.eof(); row.MoveNext())
+    for (const auto row : base_datos.OpenRecordset(statements::rows_of_project(u"host1", pid_form)))
         Text2.text = Trim(row.Fields(u"host").text());
-    for (Recordset row = base_datos.OpenRecordset(u"select * from host where pid = " + to_text(pid_form));
-         !row.eof(); row.MoveNext())
+    for (const auto row : base_datos.OpenRecordset(statements::rows_of_project(u"host", pid_form)))
         List1.add_item(row.Fields(u"host").text());
 }
 
@@ -93,9 +92,8 @@ void Form7::Command1_Click() {
         return;
     }
     WriteTogether replaced(base_datos); // never without a main directory
-    base_datos.Execute(u"delete from host1 where pid = " + to_text(pid_form));
-    base_datos.Execute(u"insert into host1 ( pid , host ) values ( " + to_text(pid_form) + u" , '" +
-                       Text2.text() + u"' ) ");
+    base_datos.Execute(statements::delete_rows_of_project(u"host1", pid_form));
+    base_datos.Execute({u"insert into host1 ( pid , host ) values ( {} , '{}' ) ", pid_form, Text2.text()});
     replaced.finish();
     screens().bring_forward<Form6>(); // as it is, when it is loaded
 }
@@ -122,10 +120,8 @@ void Form7::Command2_Click() {
         return;
     }
     base_datos = open_hive();
-    if (!base_datos
-             .OpenRecordset(u"select * from host where host = '" + Text1.text() + u"' and pid = " +
-                            to_text(pid_form))
-             .eof()) {
+    const Statement equal_ones{u"select * from host where host = '{}' and pid = {}", Text1.text(), pid_form};
+    if (!base_datos.OpenRecordset(equal_ones).eof()) {
         MsgBox(u"You can't define 2 equal host");
         return;
     }
@@ -135,15 +131,13 @@ void Form7::Command2_Click() {
         MsgBox(u"You can't define the same URL in Main Host and other Domain/Directory");
     }
     if (status != 1) return;
-    base_datos.Execute(u"insert into host ( pid , host ) values ( " + to_text(pid_form) + u" , '" +
-                       Text1.text() + u"' ) ");
+    base_datos.Execute({u"insert into host ( pid , host ) values ( {} , '{}' ) ", pid_form, Text1.text()});
     List1.add_item(Text1.text());
     Text1.set_focus(); // keeps its text, ready for a variation
 }
 
 void Form7::Command3_Click() {
-    base_datos.Execute(u"delete from host where pid = " + to_text(pid_form) + u" and host= '" + List1.text() +
-                       u"' ");
+    base_datos.Execute({u"delete from host where pid = {} and host= '{}' ", pid_form, List1.text()});
     if (List1.list_index() >= 0) List1.remove_item(List1.list_index());
 }
 

@@ -44,17 +44,15 @@ void Form8::show_keyword() {
     Label1.caption = u"Synonyms for " + keyword_;
     Text1.text = u"";
     for (
-        Recordset row = base_datos_.OpenRecordset(
-            u"select Projects.pid as X1 , keywords.keyid as X2 , keywords.pid as X3 from Projects , keywords "
-            u"where name = '" +
-            project + u"' and keyword = '" + keyword_ + u"' and Projects.name = '" + project + u"'");
-        !row.eof(); row.MoveNext()) {
+        const auto row : base_datos_.OpenRecordset(
+            {u"select Projects.pid as X1 , keywords.keyid as X2 , keywords.pid as X3 from Projects , keywords "
+             u"where name = '{}' and keyword = '{}' and Projects.name = '{}'",
+             project, keyword_, project})) {
         pid_form_ = CInt(row.Fields(u"x1").number());
         keyid_form_ = CInt(row.Fields(u"X2").number());
     }
-    for (Recordset row =
-             synonyms_.OpenRecordset(u"select * from synonyms  where keyword = '" + keyword_ + u"'");
-         !row.eof(); row.MoveNext()) {
+    for (const auto row :
+         synonyms_.OpenRecordset({u"select * from synonyms  where keyword = '{}'", keyword_})) {
         // A word of the dictionary that has no synonyms yet shows none.
         const Field synonyms = row.Fields(u"synonyms");
         Text1.text = synonyms.is_null() ? Text() : synonyms.text();
@@ -73,14 +71,14 @@ void Form8::Command2_Click() {
     if (trim_view(Text1.text()).empty()) return;
     base_datos_ = open_hive();
     // Always a further row, also for a word that has one.
-    synonyms_.Execute(u"insert into synonyms  ( keyword , synonyms  ) values ( '" + Trim(keyword_) +
-                      u"' , '" + preparar_texto(Text(Text1.text())) + u"' ) ");
+    synonyms_.Execute({u"insert into synonyms  ( keyword , synonyms  ) values ( '{}' , '{}' ) ",
+                       Trim(keyword_), preparar_texto(Text(Text1.text()))});
     screens().unload<Form8>();
 }
 
 void Form8::Command3_Click() {
-    synonyms_.Execute(u"delete from synonyms  where keyword = '" + Trim(keyword_) + u"' and synonyms  = '" +
-                      Text1.text() + u"' ");
+    synonyms_.Execute(
+        {u"delete from synonyms  where keyword = '{}' and synonyms  = '{}' ", Trim(keyword_), Text1.text()});
     Text1.text = u"";
 }
 

@@ -13,6 +13,7 @@
 #include "settings/settings_file.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
+#include "store/statements.h"
 #include "store/stores.h"
 
 namespace twk {
@@ -47,8 +48,7 @@ void Form6::Form_Load() {
     if (!screens().is_loaded<Form6>()) return; // no settings file: the screen has closed itself
     // Names the default file whichever was read.
     screens().record<Form6>().caption = u"Step 5 of 6 - Gateway Generation - Using twk.dat";
-    take_last_key(open_hive().OpenRecordset(u"select * from Projects where name = '" + project_name() + u"'"),
-                  u"pid", pid_form);
+    take_last_key(open_hive().OpenRecordset(statements::project_named(project_name())), u"pid", pid_form);
     // The extension of the file is overridden here: 5.n only counts in a later load.
     Combo10.clear();
     Combo10.add_item(u".htm");

@@ -10,16 +10,23 @@
 #include "platform/numbers.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
+#include "store/statements.h"
 #include "store/stores.h"
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 namespace twk {
 
 namespace {
 
 constexpr int screen_number = 1;
+
+/// The project that is to be deleted or copied.
+Statement chosen_project(const Text& name) {
+    return {u"select * from Projects where name = '{}' ", name};
+}
 
 void close_by_name(const std::string& name) {
     if (Screen* const loaded = screens().find(name)) screens().unload(*loaded);
@@ -77,7 +84,7 @@ void Form1::Form_Unload() {
 
 void Form1::llenar_proyectos() {
     base_datos_ = open_hive();
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from Projects"); !row.eof(); row.MoveNext())
+    for (const auto row : base_datos_.OpenRecordset({u"select * from Projects"}))
         combo1.add_item(row.Fields(u"Name").text());
 }
 
@@ -114,9 +121,7 @@ void Form1::open_project() {
         return;
     }
     screens().unload<Form2>();
-    for (Recordset row =
-             base_datos_.OpenRecordset(u"select * from Projects where name = '" + combo1.text() + u"'");
-         !row.eof(); row.MoveNext()) {
+    for (const auto row : base_datos_.OpenRecordset(statements::project_named(combo1.text()))) {
         module1().pid_actual = CInt(row.Fields(u"pid").number());
         module1().proyecto_actual = row.Fields(u"Name").text();
         // Loads the screen: its button and its slashes go by the key just set.
@@ -130,9 +135,8 @@ void Form1::open_project() {
         step1.txt_url[0].text = row.Fields(u"site_url").text();
         step1.txt_url[2].text = row.Fields(u"designer_url").text();
     }
-    for (Recordset row =
-             base_datos_.OpenRecordset(u"select * from target where pid = " + to_text(module1().pid_actual));
-         !row.eof(); row.MoveNext())
+    for (const auto row :
+         base_datos_.OpenRecordset(statements::rows_of_project(u"target", module1().pid_actual)))
         screen<Form2>().List1.add_item(row.Fields(u"target").text());
     if (module1().pid_actual != 0) say(u"Project " + module1().proyecto_actual + u" opened");
 }
@@ -152,9 +156,7 @@ void Form1::Command4_Click() {
         return;
     pid_ = 0;
     Text project;
-    for (Recordset row =
-             base_datos_.OpenRecordset(u"select * from Projects where name = '" + combo1.text() + u"' ");
-         !row.eof(); row.MoveNext()) {
+    for (const auto row : base_datos_.OpenRecordset(chosen_project(combo1.text()))) {
         project = row.Fields(u"Name").text();
         pid_ = CInt(row.Fields(u"pid").number());
     }
@@ -194,13 +196,13 @@ void Form1::delete_folder(const Text& project) {
 }
 
 void Form1::delete_rows(std::int16_t pid) {
-    base_datos_.Execute(u"delete from Projects where pid = " + to_text(pid));
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid));
-         !row.eof(); row.MoveNext())
-        base_datos_.Execute(u"delete from elements where catid = " +
-                            to_text(CInt(row.Fields(u"keyid").number())));
-    for (const char16_t* table : {u"keywords", u"host", u"host1", u"ties", u"content", u"target"})
-        base_datos_.Execute(u"delete from " + Text(table) + u" where pid = " + to_text(pid));
+    base_datos_.Execute(statements::delete_project(pid));
+    for (const auto row : base_datos_.OpenRecordset(statements::keywords_of(pid)))
+        base_datos_.Execute(statements::delete_subkeywords_of(CInt(row.Fields(u"keyid").number())));
+    static constexpr StatementName tables[] = {u"keywords", u"host",    u"host1",
+                                               u"ties",     u"content", u"target"};
+    for (const StatementName table : tables)
+        base_datos_.Execute(statements::delete_rows_of_project(table, pid));
 }
 
 void Form1::Command5_Click() {
@@ -242,48 +244,43 @@ void Form1::Command6_Click() {
 /// Copies the row of the selected project, the last one of several. Without any, the two keys stay as the
 /// last copy left them.
 void Form1::copy_row(const Text& project) {
-    Text values;
-    for (Recordset row =
-             base_datos_.OpenRecordset(u"select * from Projects where name = '" + combo1.text() + u"' ");
-         !row.eof(); row.MoveNext()) {
+    std::vector<Text> values;
+    for (const auto row : base_datos_.OpenRecordset(chosen_project(combo1.text()))) {
         pid_ = CInt(row.Fields(u"pid").number());
-        values = u"'" + row.Fields(u"site_name").text() + u"' , '" + row.Fields(u"site_url").text() + u"' " +
-                 u" , '" + row.Fields(u"Title").text() + u"' , '" + row.Fields(u"category").text() + u"' , " +
-                 u" '" + row.Fields(u"Description").text() + u"' , '" + row.Fields(u"designer_name").text() +
-                 u"' , '" + row.Fields(u"designer_url").text() + u"')";
+        values.clear();
+        for (const TextView column : {u"site_name", u"site_url", u"Title", u"category", u"Description",
+                                      u"designer_name", u"designer_url"})
+            values.push_back(row.Fields(column).text());
     }
     if (values.empty()) return;
     const Text clean_name = preparar_texto(Text(project));
     base_datos_.Execute(
-        u"insert into Projects ( name , site_name , site_url , title , category , description , "
-        u"designer_name , designer_url )  values ( '" +
-        clean_name + u"' , " + values);
-    take_last_key(base_datos_.OpenRecordset(u"select * from projects where name = '" + clean_name + u"'"),
-                  u"pid", copy_pid_);
+        {u"insert into Projects ( name , site_name , site_url , title , category , description , "
+         u"designer_name , designer_url )  values ( '{}' , '{}' , '{}'  , '{}' , '{}' ,  '{}' , "
+         u"'{}' , '{}')",
+         clean_name, values[0], values[1], values[2], values[3], values[4], values[5], values[6]});
+    take_last_key(base_datos_.OpenRecordset(statements::inserted_project(clean_name)), u"pid", copy_pid_);
 }
 
 void Form1::copy_keywords() {
     std::int16_t keyid = 0;
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from keywords where pid = " + to_text(pid_));
-         !row.eof(); row.MoveNext()) {
+    for (const auto row : base_datos_.OpenRecordset(statements::keywords_of(pid_))) {
         const Text keyword = row.Fields(u"keyword").text();
-        base_datos_.Execute(u"insert into keywords (pid, keyword) values ( " + to_text(copy_pid_) + u" , '" +
-                            keyword + u"')");
-        take_last_key(base_datos_.OpenRecordset(u"select keyid from keywords where pid = " +
-                                                to_text(copy_pid_) + u" and keyword = '" + keyword + u"'"),
-                      u"keyid", keyid);
-        for (Recordset sub = base_datos_.OpenRecordset(u"select * from elements where catid = " +
-                                                       to_text(CInt(row.Fields(u"keyid").number())));
-             !sub.eof(); sub.MoveNext())
-            base_datos_.Execute(u"insert into elements (catid , element) values ( " + to_text(keyid) +
-                                u" , '" + sub.Fields(u"element").text() + u"' )");
+        base_datos_.Execute({u"insert into keywords (pid, keyword) values ( {} , '{}')", copy_pid_, keyword});
+        take_last_key(
+            base_datos_.OpenRecordset(
+                {u"select keyid from keywords where pid = {} and keyword = '{}'", copy_pid_, keyword}),
+            u"keyid", keyid);
+        for (const auto sub :
+             base_datos_.OpenRecordset(statements::subkeywords_of(CInt(row.Fields(u"keyid").number()))))
+            base_datos_.Execute({u"insert into elements (catid , element) values ( {} , '{}' )", keyid,
+                                 sub.Fields(u"element").text()});
     }
 }
 
 void Form1::copy_boxes() {
-    Recordset copies = base_datos_.OpenRecordset(u"select * from content");
-    for (Recordset row = base_datos_.OpenRecordset(u"select * from content where pid = " + to_text(pid_));
-         !row.eof(); row.MoveNext()) {
+    Recordset copies = base_datos_.OpenRecordset({u"select * from content"});
+    for (const auto row : base_datos_.OpenRecordset(statements::boxes_of(pid_))) {
         copies.AddNew(); // no statement: quotes in the text do no harm
         copies.set(u"pid", copy_pid_);
         copies.set(u"content", row.Fields(u"content").text());
@@ -292,12 +289,10 @@ void Form1::copy_boxes() {
 }
 
 /// Copies the rows of `host` or `target`, whose text column bears the table's name.
-void Form1::copy_list(const Text& table) {
-    for (Recordset row =
-             base_datos_.OpenRecordset(u"select * from " + table + u" where pid = " + to_text(pid_));
-         !row.eof(); row.MoveNext())
-        base_datos_.Execute(u"insert into " + table + u" (pid, " + table + u") values ( " +
-                            to_text(copy_pid_) + u" , '" + row.Fields(table).text() + u"')");
+void Form1::copy_list(StatementName table) {
+    for (const auto row : base_datos_.OpenRecordset(statements::rows_of_project(table, pid_)))
+        base_datos_.Execute({u"insert into {} (pid, {}) values ( {} , '{}')", table, table, copy_pid_,
+                             row.Fields(table.text()).text()});
 }
 
 void Form1::Command7_Click() {

@@ -56,7 +56,7 @@ class Form1 {
     void copy_row(const Text& project);
     void copy_keywords();
     void copy_boxes();
-    void copy_list(const Text& table);
+    void copy_list(StatementName table);
 
     Database base_datos_;
     std::int16_t pid_ = 0;      ///< key found on deletion or copy

@@ -9,6 +9,7 @@
 #include "platform/numbers.h"
 #include "shell/form1.h"
 #include "shell/module1.h"
+#include "store/statements.h"
 #include "store/stores.h"
 
 #include <algorithm>
@@ -229,7 +230,7 @@ Text Form2::slash_refusal() const {
 bool Form2::store_new_project() {
     const Text project = txt_name[0].text();
     const Recordset same_name =
-        base_datos_.OpenRecordset(u"SELECT * From Projects where name = '" + project + u"' ");
+        base_datos_.OpenRecordset({u"SELECT * From Projects where name = '{}' ", project});
     std::int16_t pid = 0; // none to be replaced
     if (!same_name.eof()) {
         take_last_key(same_name, u"pid", pid);
@@ -246,9 +247,8 @@ bool Form2::store_new_project() {
     if (pid != 0) replace_project(pid);
     insert_project();
     replaced.finish();
-    take_last_key(
-        base_datos_.OpenRecordset(u"select * from projects where name = '" + clean(txt_name[0]) + u"'"),
-        u"pid", module1().pid_actual);
+    take_last_key(base_datos_.OpenRecordset(statements::inserted_project(clean(txt_name[0]))), u"pid",
+                  module1().pid_actual);
     store_targets();
     return true;
 }
@@ -256,38 +256,40 @@ bool Form2::store_new_project() {
 /// Ties, main gateway directory, other targets and keywords without a subkeyword stay behind, and so does
 /// everything on disk.
 void Form2::replace_project(std::int16_t pid) {
-    base_datos_.Execute(u"delete from Projects where pid = " + to_text(pid));
-    base_datos_.Execute(u"delete keywords.* , elements.* from keywords , elements where pid = " +
-                        to_text(pid) + u" and elements.catid = keywords.keyid");
-    base_datos_.Execute(u"delete from content where pid = " + to_text(pid));
-    base_datos_.Execute(u"delete from host where pid = " + to_text(pid));
+    base_datos_.Execute(statements::delete_project(pid));
+    base_datos_.Execute({u"delete keywords.* , elements.* from keywords , elements where pid = {} and "
+                         u"elements.catid = keywords.keyid",
+                         pid});
+    base_datos_.Execute(statements::delete_rows_of_project(u"content", pid));
+    base_datos_.Execute(statements::delete_rows_of_project(u"host", pid));
 }
 
 void Form2::insert_project() {
     base_datos_.Execute(
-        u"insert into Projects ( name , site_name , site_url , title , category , description , "
-        u"designer_name , designer_url )  values ( '" +
-        clean(txt_name[0]) + u"' , '" + clean(Text2[0]) + u"' , '" + preparar_texto(module1().url_sitio) +
-        u"'  , '" + clean(txt_dat[0]) + u"' , '" + clean(txt_dat[1]) + u"' ,  '" + clean(txt_dat[2]) +
-        u"' , '" + clean(Text7) + u"' , '" + preparar_texto(module1().url_webmaster) + u"' ) ");
+        {u"insert into Projects ( name , site_name , site_url , title , category , description , "
+         u"designer_name , designer_url )  values ( '{}' , '{}' , '{}'  , '{}' , '{}' ,  '{}' , "
+         u"'{}' , '{}' ) ",
+         clean(txt_name[0]), clean(Text2[0]), preparar_texto(module1().url_sitio), clean(txt_dat[0]),
+         clean(txt_dat[1]), clean(txt_dat[2]), clean(Text7), preparar_texto(module1().url_webmaster)});
 }
 
 /// Writes the whole row. A rename onto the name of another project is not looked for.
 void Form2::update_project() {
-    base_datos_.Execute(u"update Projects set name = '" + clean(txt_name[0]) + u"' ,  site_name = '" +
-                        clean(Text2[0]) + u"' ,  site_url = '" + preparar_texto(module1().url_sitio) +
-                        u"' ,  title = '" + clean(txt_dat[0]) + u"' ,  category = '" + clean(txt_dat[1]) +
-                        u"' ,  description = '" + clean(txt_dat[2]) + u"' ,  designer_name = '" +
-                        clean(Text7) + u"' ,  designer_url = '" + preparar_texto(module1().url_webmaster) +
-                        u"'  where pid = " + to_text(module1().pid_actual));
+    base_datos_.Execute(
+        {u"update Projects set name = '{}' ,  site_name = '{}' ,  site_url = '{}' ,  title = '{}' "
+         u",  category = '{}' ,  description = '{}' ,  designer_name = '{}' ,  designer_url = "
+         u"'{}'  where pid = {}",
+         clean(txt_name[0]), clean(Text2[0]), preparar_texto(module1().url_sitio), clean(txt_dat[0]),
+         clean(txt_dat[1]), clean(txt_dat[2]), clean(Text7), preparar_texto(module1().url_webmaster),
+         module1().pid_actual});
 }
 
 void Form2::store_targets() {
     WriteTogether replaced(base_datos_); // never half a list
-    base_datos_.Execute(u"delete from target where pid = " + to_text(module1().pid_actual));
+    const std::int16_t pid = module1().pid_actual;
+    base_datos_.Execute(statements::delete_rows_of_project(u"target", pid));
     for (const Text& other : List1.entries())
-        base_datos_.Execute(u"insert into target ( pid , target ) values ( " + to_text(module1().pid_actual) +
-                            u" , '" + other + u"' )");
+        base_datos_.Execute({u"insert into target ( pid , target ) values ( {} , '{}' )", pid, other});
     replaced.finish();
 }
 

@@ -4,6 +4,7 @@
 #include "platform/desktop.h"
 #include "platform/file_system.h"
 #include "shell/form1.h"
+#include "store/statements.h"
 #include "store/stores.h"
 
 #include <algorithm>
@@ -18,9 +19,9 @@ namespace twk {
 namespace {
 
 /// Rows of a table by the key of their project.
-std::map<int, int> rows_by_project(Database& store, const Text& table) {
+std::map<int, int> rows_by_project(Database& store, StatementName table) {
     std::map<int, int> count;
-    for (Recordset row = store.OpenRecordset(u"select pid from " + table); !row.eof(); row.MoveNext())
+    for (const auto row : store.OpenRecordset({u"select pid from {}", table}))
         if (!row.Fields(u"pid").is_null()) ++count[static_cast<int>(row.Fields(u"pid").number())];
     return count;
 }
@@ -52,7 +53,7 @@ std::vector<ProjectLine> project_lines() {
         return at == all.end() ? 0 : at->second;
     };
     std::vector<ProjectLine> lines;
-    for (Recordset row = store.OpenRecordset(u"select pid, name from Projects"); !row.eof(); row.MoveNext()) {
+    for (const auto row : store.OpenRecordset(statements::project_names())) {
         const int pid = static_cast<int>(row.Fields(u"pid").number());
         const Text name = row.Fields(u"name").is_null() ? Text() : row.Fields(u"name").text();
         lines.push_back({name, count(keywords, pid), count(boxes, pid), last_run_of(name)});

@@ -13,6 +13,7 @@
 #include "shell/form1.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
+#include "store/statements.h"
 #include "store/stores.h"
 
 #include <algorithm>
@@ -48,35 +49,34 @@ class StoredProject {
         if (name.empty()) return;
         try {
             store_ = open_hive();
-            for (Recordset row = store_.OpenRecordset(u"select pid, name from Projects"); !row.eof();
-                 row.MoveNext())
-                if (same_text(row.Fields(u"name").text(), name))
-                    pid_ = to_text(static_cast<std::int64_t>(row.Fields(u"pid").number()));
+            for (const auto row : store_.OpenRecordset(statements::project_names()))
+                if (same_text(row.Fields(u"name").text(), name)) pid_ = row.Fields(u"pid").key();
         } catch (const RuntimeFault&) { // the screens tell of it
         }
     }
-    bool known() const { return !pid_.empty(); }
-    int count(const Text& column, const Text& table) {
+    bool known() const { return pid_ != 0; }
+    int count(StatementName column, StatementName table) {
         return static_cast<int>(column_of(column, table).size());
     }
-    std::vector<Text> hosts(const Text& table) { return column_of(u"host", table); }
+    std::vector<Text> hosts(StatementName table) { return column_of(u"host", table); }
 
   private:
-    std::vector<Text> column_of(const Text& column, const Text& table) {
+    std::vector<Text> column_of(StatementName column, StatementName table) {
         std::vector<Text> all;
         if (!known()) return all;
         try {
-            for (Recordset row =
-                     store_.OpenRecordset(u"select " + column + u" from " + table + u" where pid = " + pid_);
-                 !row.eof(); row.MoveNext())
-                all.push_back(row.Fields(column).is_null() ? Text() : row.Fields(column).text());
+            for (const auto row :
+                 store_.OpenRecordset({u"select {} from {} where pid = {}", column, table, pid_})) {
+                const Field field = row.Fields(column.text());
+                all.push_back(field.is_null() ? Text() : field.text());
+            }
         } catch (const RuntimeFault&) { // likewise
         }
         return all;
     }
 
     Database store_;
-    Text pid_;
+    std::int64_t pid_ = 0; ///< 0 when the store does not have it
 };
 
 /// A step that wants at least so many of something.

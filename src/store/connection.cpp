@@ -2,7 +2,6 @@
 #include "store/connection.h"
 
 #include "platform/faults.h"
-#include "store/statement_fence.h"
 #include "store/store_setup.h"
 
 #include <algorithm>
@@ -128,25 +127,24 @@ void Connection::fail(int code) {
     }
 }
 
-Connection::Statement Connection::prepare_own(const std::string& sql) {
+Connection::Prepared Connection::prepare_own(const std::string& sql) {
     sqlite3_stmt* made = nullptr;
     const int code = sqlite3_prepare_v2(db_, sql.c_str(), -1, &made, nullptr);
     if (code != SQLITE_OK) fail(code);
-    return Statement(made);
+    return Prepared(made);
 }
 
-Connection::Statement Connection::prepare(const Text& text) {
+Connection::Prepared Connection::prepare(const Statement& statement) {
     // In our own encoding: the library's reading of 16-bit text lets half a character swallow the quote
     // behind it.
-    const std::string sql = to_utf8(text);
+    const std::string sql = to_utf8(statement.text());
     sqlite3_stmt* made = nullptr;
     const int code = sqlite3_prepare_v2(db_, sql.data(), static_cast<int>(sql.size()), &made, nullptr);
-    Statement statement(made);
+    Prepared prepared(made);
     if (code == SQLITE_ERROR || code == SQLITE_AUTH)
-        malformed_statement(text, from_utf8(sqlite3_errmsg(db_)));
+        malformed_statement(statement.text(), from_utf8(sqlite3_errmsg(db_)));
     if (code != SQLITE_OK) fail(code);
-    if (made == nullptr) malformed_statement(text, u"there is no statement");
-    return statement;
+    return prepared;
 }
 
 std::int64_t Connection::data_version() {
@@ -166,27 +164,26 @@ int Connection::step(sqlite3_stmt* statement) {
     return code;
 }
 
-Connection::Rows Connection::select(const Text& text) {
-    fence_statement(text, {u"select"});
-    const Statement statement = prepare(text);
+Connection::Rows Connection::select(const Statement& statement) {
+    const Prepared prepared = prepare(statement);
+    if (sqlite3_stmt_readonly(prepared.get()) == 0) malformed_statement(statement.text(), u"it changes rows");
     Rows result;
-    const int columns = sqlite3_column_count(statement.get());
+    const int columns = sqlite3_column_count(prepared.get());
     for (int i = 0; i < columns; ++i)
-        result.columns.push_back(lower_case(sqlite3_column_name(statement.get(), i)));
-    while (step(statement.get()) == SQLITE_ROW) {
+        result.columns.push_back(lower_case(sqlite3_column_name(prepared.get(), i)));
+    while (step(prepared.get()) == SQLITE_ROW) {
         std::vector<Field::Value>& row = result.rows.emplace_back();
         row.reserve(static_cast<std::size_t>(columns));
-        for (int i = 0; i < columns; ++i) row.push_back(column_value(statement.get(), i));
+        for (int i = 0; i < columns; ++i) row.push_back(column_value(prepared.get(), i));
     }
     return result;
 }
 
-void Connection::change(const Text& text) {
-    fence_statement(text, {u"insert", u"update", u"delete"});
-    if (const auto parts = parse_join_delete(to_utf8(text))) return delete_joined(*parts);
-    const Statement statement = prepare(text);
-    if (sqlite3_column_count(statement.get()) != 0) malformed_statement(text, u"it gives rows");
-    step(statement.get());
+void Connection::change(const Statement& statement) {
+    if (const auto parts = parse_join_delete(to_utf8(statement.text()))) return delete_joined(*parts);
+    const Prepared prepared = prepare(statement);
+    if (sqlite3_column_count(prepared.get()) != 0) malformed_statement(statement.text(), u"it gives rows");
+    step(prepared.get());
 }
 
 /// Deletes the rows of both tables that the join matches, and no others, in one go: one of its own, unless
@@ -197,15 +194,15 @@ void Connection::delete_joined(const JoinDelete& parts) {
     const bool own = sqlite3_get_autocommit(db_) != 0;
     if (own) begin();
     try {
-        const Statement matches = prepare_own("select " + a + ".rowid , " + b + ".rowid from " + a + " , " +
-                                              b + " where " + parts.condition);
+        const Prepared matches = prepare_own("select " + a + ".rowid , " + b + ".rowid from " + a + " , " +
+                                             b + " where " + parts.condition);
         std::set<std::int64_t> of_a, of_b;
         while (step(matches.get()) == SQLITE_ROW) {
             of_a.insert(sqlite3_column_int64(matches.get(), 0));
             of_b.insert(sqlite3_column_int64(matches.get(), 1));
         }
         const auto remove = [this](const std::string& table, const std::set<std::int64_t>& rows) {
-            const Statement statement = prepare_own("delete from " + table + " where rowid = ?");
+            const Prepared statement = prepare_own("delete from " + table + " where rowid = ?");
             for (const std::int64_t row : rows) {
                 sqlite3_bind_int64(statement.get(), 1, row);
                 step(statement.get());
@@ -230,7 +227,7 @@ void Connection::write_row(const std::string& table, std::int64_t row_id,
         places += places.empty() ? "?" : " , ?";
         changes += (changes.empty() ? "" : " , ") + name + " = ?";
     }
-    const Statement statement = prepare_own(
+    const Prepared statement = prepare_own(
         row_id == 0 ? "insert into " + table + " ( " + names + " ) values ( " + places + " )"
                     : "update " + table + " set " + changes + " where rowid = " + std::to_string(row_id));
     int place = 0;

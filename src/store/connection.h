@@ -31,10 +31,10 @@ class Connection {
     std::int64_t data_version();
     std::int64_t changed_rows() const { return sqlite3_total_changes(db_); }
 
-    /// Run a statement of a screen: one that gives rows, or one that changes some. Fault 3075 for a text that
-    /// is not exactly one statement of its kind, 3260 and 61 when the store cannot be locked or written.
-    Rows select(const Text& text);
-    void change(const Text& text);
+    /// Run a statement of a screen: one that gives rows, or one that changes some. Fault 3075 for one of the
+    /// other kind, 3260 and 61 when the store cannot be locked or written.
+    Rows select(const Statement& statement);
+    void change(const Statement& statement);
 
     /// Hold the writes between them together. A commit that fails takes them back.
     void begin();
@@ -54,12 +54,11 @@ class Connection {
     struct Finalizer {
         void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
     };
-    using Statement = std::unique_ptr<sqlite3_stmt, Finalizer>;
+    using Prepared = std::unique_ptr<sqlite3_stmt, Finalizer>;
 
-    /// A statement of a screen that has passed the fence.
-    Statement prepare(const Text& text);
+    Prepared prepare(const Statement& statement);
     /// One that the store itself runs.
-    Statement prepare_own(const std::string& sql);
+    Prepared prepare_own(const std::string& sql);
     /// Runs settings of the store, which are none of the statements that the authorizer lets through.
     int settings(const char* sql, int (*each)(void*, int, char**, char**) = nullptr, void* into = nullptr);
     void delete_joined(const JoinDelete& parts);

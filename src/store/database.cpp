@@ -39,6 +39,12 @@ double Field::number() const {
     return CDbl(std::get<Text>(*value_));
 }
 
+std::int64_t Field::key() const {
+    if (is_null()) throw RuntimeFault(fault_null);
+    if (const auto* number = std::get_if<std::int64_t>(value_)) return *number;
+    throw RuntimeFault(fault_type);
+}
+
 /// Rows as they were when the recordset was opened, the place among them, and the row being written.
 struct Recordset::State {
     std::shared_ptr<Connection> connection;
@@ -77,6 +83,10 @@ Field Recordset::Fields(TextView name) const {
     const std::size_t column = state_->column(plain(name));
     if (eof()) throw RuntimeFault(fault_no_record);
     return Field(&state_->data.rows[state_->at][column]);
+}
+
+Field Recordset::Row::Fields(TextView name) const {
+    return Field(&state_->data.rows[at_][state_->column(plain(name))]);
 }
 
 int Recordset::RecordCount() const {
@@ -143,16 +153,17 @@ void Recordset::Close() {
     *state_ = State();
 }
 
-void take_last_key(Recordset rows, TextView column, std::int16_t& key) {
-    for (; !rows.eof(); rows.MoveNext()) key = CInt(rows.Fields(column).number());
+void take_last_key(const Recordset& rows, TextView column, std::int16_t& key) {
+    for (const Recordset::Row row : rows) key = CInt(row.Fields(column).number());
 }
 
-Recordset Database::OpenRecordset(const Text& statement) {
-    const std::string text = plain(statement);
+Recordset Database::OpenRecordset(const Statement& statement) {
+    const std::string text = plain(statement.text());
     const bool bare = text == "content";
     auto state = std::make_shared<Recordset::State>();
     state->connection = connection_;
-    state->data = opened(connection_).select(bare ? Text(u"select * from content where 1 = 0") : statement);
+    state->data =
+        opened(connection_).select(bare ? Statement(u"select * from content where 1 = 0") : statement);
     // Boxes alone are written row by row, and only through rows of their own table.
     const bool of_content =
         text.find("content") != std::string::npos && text.find("projects") == std::string::npos;
@@ -161,7 +172,7 @@ Recordset Database::OpenRecordset(const Text& statement) {
     return Recordset(std::move(state));
 }
 
-void Database::Execute(const Text& statement) {
+void Database::Execute(const Statement& statement) {
     opened(connection_).change(statement);
 }
 

@@ -2,16 +2,17 @@
 #pragma once
 
 #include "platform/text.h"
+#include "store/statement.h"
 
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <utility>
 #include <variant>
 #include <vector>
 
-/// The project store and the synonym store: files that open only with their key, reached by statements that
-/// the screens build as one text.
+/// The project store and the synonym store: files that open only with their key, reached by statements.
 namespace twk {
 
 class Connection;
@@ -26,6 +27,8 @@ class Field {
     Text text() const;
     /// Fault 94 when it is null, 13 when it is a text that is no number.
     double number() const;
+    /// A key, for a statement. Fault 94 when it is null, 13 when it is no whole number.
+    std::int64_t key() const;
 
   private:
     const Value* value_;
@@ -41,9 +44,45 @@ struct StoredRow {
 };
 
 /// The rows that a statement gave, or all rows of a table for adding and changing. Positioned on the first
-/// row.
+/// row, and a range of all of them, whatever the position:
+/// `for (const Recordset::Row row : store.OpenRecordset(...)) list.add_item(row.Fields(u"name").text());`
 class Recordset {
+    struct State;
+
   public:
+    /// One of the rows; lives as long as they do.
+    class Row {
+      public:
+        /// Column by name or alias, without regard to case. Fault 3265 when there is none.
+        Field Fields(TextView name) const;
+
+      private:
+        friend class Recordset;
+        Row(const State* state, std::size_t at) : state_(state), at_(at) {}
+        const State* state_;
+        std::size_t at_;
+    };
+
+    class Iterator {
+      public:
+        using value_type = Row;
+        using difference_type = std::ptrdiff_t;
+        Row operator*() const { return row_; }
+        Iterator& operator++() {
+            ++row_.at_;
+            return *this;
+        }
+        void operator++(int) { ++row_.at_; }
+        bool operator==(const Iterator& other) const { return row_.at_ == other.row_.at_; }
+
+      private:
+        friend class Recordset;
+        explicit Iterator(Row row) : row_(row) {}
+        Row row_;
+    };
+    Iterator begin() const { return Iterator(Row(state_.get(), 0)); }
+    Iterator end() const { return Iterator(Row(state_.get(), static_cast<std::size_t>(RecordCount()))); }
+
     bool eof() const;
     /// Fault 3021 past the last row.
     void MoveNext();
@@ -67,26 +106,26 @@ class Recordset {
 
   private:
     friend class Database;
-    struct State;
     explicit Recordset(std::shared_ptr<State> state) : state_(std::move(state)) {}
     std::shared_ptr<State> state_;
 };
 
 /// Puts a column of keys into `key`, row by row: that of the last row stays, and without a row `key` is left
 /// as it is. Fault 6 when one needs more than 16 bits.
-void take_last_key(Recordset rows, TextView column, std::int16_t& key);
+void take_last_key(const Recordset& rows, TextView column, std::int16_t& key);
 
 /// A handle on a store. Handles on one file share one connection, which ends with the last of them.
 class Database {
   public:
     Database() = default;
 
-    /// Runs a select, or opens a table by its bare name. Fault 3075 for a text that is not exactly one
-    /// statement of its kind, 3260 when another process holds the store for more than five seconds.
-    Recordset OpenRecordset(const Text& statement);
+    /// Runs a select, or opens "content" to add rows to it. Fault 3075 for a statement of another kind or one
+    /// that the store does not understand, 3260 when another process holds the store for more than five
+    /// seconds.
+    Recordset OpenRecordset(const Statement& statement);
 
     /// Runs an insert, update or delete; durable when it returns. The same faults.
-    void Execute(const Text& statement);
+    void Execute(const Statement& statement);
 
     /// Inserts a row that was there before, under its old key: keys are never used again, so nothing else can
     /// have it. The faults of a write.

@@ -8,6 +8,7 @@
 #include "platform/numbers.h"
 #include "shell/module1.h"
 #include "store/database.h"
+#include "store/statements.h"
 #include "store/stores.h"
 
 #include <algorithm>
@@ -133,8 +134,7 @@ void Form19::Command5_Click() {
         if (contar_palabras(counted) >= 20) continue;
         // Reserved words pass here, and the store is not asked: the lookup has compared with Step 2's list.
         Database base_datos = open_hive();
-        base_datos.Execute(u"insert into keywords ( pid , keyword ) values ( " +
-                           to_text(module1().pid_actual) + u" , '" + word + u"' ) ");
+        base_datos.Execute(statements::insert_keyword(module1().pid_actual, word));
         step2.list_keyword(word);
         ++sent;
     }

@@ -8,6 +8,7 @@
 #include "platform/numbers.h"
 #include "shell/module1.h"
 #include "store/database.h"
+#include "store/statements.h"
 #include "store/stores.h"
 #include "tools/form16.h"
 
@@ -87,7 +88,7 @@ void Form20::Command14_Click() {
 void Form20::Command13_Click() {
     Form3& step2 = screen<Form3>(); // before the first word is stored: it lists what the store has
     Database base_datos = open_hive();
-    const Text pid = to_text(module1().pid_actual);
+    const std::int16_t pid = module1().pid_actual;
     int sent = 0;
     for (int i = 0; i < List1.list_count(); ++i) {
         const Text word = Trim(List1.list(i));
@@ -95,13 +96,8 @@ void Form20::Command13_Click() {
         Text counted = word;
         if (contar_palabras(counted) > 20) continue;
         if (is_reserved(word)) continue;
-        if (!base_datos
-                 .OpenRecordset(u"select * from keywords where pid = " + pid + u" and keyword = '" + word +
-                                u"'")
-                 .eof())
-            continue;
-        base_datos.Execute(u"insert into keywords ( pid , keyword ) values ( " + pid + u" , '" + word +
-                           u"' ) ");
+        if (!base_datos.OpenRecordset(statements::keyword_of(pid, word)).eof()) continue;
+        base_datos.Execute(statements::insert_keyword(pid, word));
         step2.list_keyword(word);
         ++sent;
     }

@@ -40,10 +40,8 @@ void Form23::Form_Load() {
     archivos.assign(2, {});
     Text5.read_only = true;
     for (std::size_t i = 0; i < Frame1.size(); ++i) Frame1[i].visible = i == all_files;
-    for (Recordset row = base_datos_.OpenRecordset(u"select distinct(name) from Projects , keywords where "
-                                                   u" Projects.pid = keywords.pid "
-                                                   u" order by name asc ");
-         !row.eof(); row.MoveNext())
+    for (const auto row : base_datos_.OpenRecordset({u"select distinct(name) from Projects , keywords where "
+                                                     u" Projects.pid = keywords.pid  order by name asc "}))
         combo1.add_item(row.Fields(u"Name").text());
     for (const TextView element : {u"Keywords", u"Content", u"Other Strings..."})
         List1.add_item(Text(element));

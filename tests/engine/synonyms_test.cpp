@@ -46,17 +46,16 @@ Text scan(const std::vector<Row>& k, const std::vector<Row>& s, Text text, int s
 class Synonyms : public testing::Test {
   protected:
     void add(const Text& keyword, const Text& synonyms) {
-        app.synonyms().Execute(u"insert into synonyms ( keyword , synonyms ) values ( '" + keyword +
-                               u"' , '" + synonyms + u"' )");
+        app.synonyms().Execute(
+            {u"insert into synonyms ( keyword , synonyms ) values ( '{}' , '{}' )", keyword, synonyms});
     }
     void at_second(int second) {
         set_clock(std::make_shared<FixedClock>(LocalTime{2026, 11, 24, 10, 18, second, 0}));
     }
-    std::vector<Row> rows(const Text& order) {
+    std::vector<Row> rows(StatementName order) {
         std::vector<Row> all;
-        for (Recordset r = app.synonyms().OpenRecordset(
-                 u"select * from synonyms where synonyms  <> '' order by " + order + u" asc");
-             !r.eof(); r.MoveNext())
+        for (const auto r : app.synonyms().OpenRecordset(
+                 {u"select * from synonyms where synonyms  <> '' order by {} asc", order}))
             all.push_back({r.Fields(u"keyword").text(), r.Fields(u"synonyms").text()});
         return all;
     }
@@ -120,7 +119,7 @@ TEST_F(Synonyms, give_what_the_plain_search_gives) {
     };
     for (int i = 0; i < 60; ++i) add(word(), word());
     at_second(59);
-    const std::vector<Row> k = rows(u"keyword"), s = rows(u"synonyms ");
+    const std::vector<Row> k = rows(u"keyword"), s = rows(u"synonyms");
     for (int i = 0; i < 40; ++i) {
         Text text;
         for (int n = 0; n < 50; ++n) text += word() + (n % 9 == 0 ? u"  " : u" ");

@@ -41,14 +41,9 @@ std::string tree(const fs::path& top) {
 /// Rows of every project but the first, and of the schema.
 std::string others_rows(const TempApp& app) {
     std::string rows;
-    for (const char16_t* table :
-         {u"Projects", u"keywords", u"content", u"ties", u"host", u"host1", u"target"})
-        for (Recordset row = app.hive().OpenRecordset(u"select * from " + Text(table) + u" where pid <> 1");
-             !row.eof(); row.MoveNext())
-            rows += to_utf8(Text(table) + u" " + row.Fields(u"pid").text()) + "\n";
-    for (Recordset row = app.hive().OpenRecordset(u"select * from elements where catid > 900"); !row.eof();
-         row.MoveNext())
-        rows += to_utf8(row.Fields(u"element").text()) + "\n";
+    for (const char* table : {"Projects", "keywords", "content", "ties", "host", "host1", "target"})
+        rows += table + app.rows_of("select pid from " + std::string(table) + " where pid <> 1") + "\n";
+    rows += app.rows_of("select element from elements where catid > 900") + "\n";
     const std::string all = app.all_rows();
     return rows + all.substr(all.find("table|"));
 }

@@ -34,7 +34,7 @@ class HostileTexts : public HostileApp {
     }
     std::string hallway() const { return app.read(project->main_folder(u"sitemap.htm")); }
     int run_with_box(const Text& text) {
-        Recordset box = app.hive().OpenRecordset(u"select * from content WHERE cid = 1");
+        Recordset box = app.hive().OpenRecordset({u"select * from content WHERE cid = 1"});
         box.Edit();
         box.AppendChunk(u"content", text);
         box.Update();
@@ -177,7 +177,7 @@ TEST_F(HostileTexts, ApostrophesInKeywordsAndCopies) {
 }
 
 TEST_F(HostileTexts, ApostrophesInTheDictionary) {
-    app.synonyms().Execute(u"insert into synonyms  ( keyword , synonyms  ) values ( 'x' , 'y' ) ");
+    app.synonyms().Execute({u"insert into synonyms  ( keyword , synonyms  ) values ( 'x' , 'y' ) "});
     Form10& dictionary = screen<Form10>();
     std::vector<Text> tried(std::begin(attacks), std::end(attacks));
     tried.push_back(u"x' and synonyms  = 'y"); // would be the deletion of another screen
@@ -191,7 +191,7 @@ TEST_F(HostileTexts, ApostrophesInTheDictionary) {
         dictionary.List1.list_index = 0;
         dictionary.Text1.text = u"new";
         for (const char* control : {"List1", "Command3", "Command4"}) refused<Form10>(control, attack);
-        const Recordset rows = app.synonyms().OpenRecordset(u"select * from synonyms order by keyword");
+        const Recordset rows = app.synonyms().OpenRecordset({u"select * from synonyms order by keyword"});
         EXPECT_EQ(rows.RecordCount(), 1) << to_utf8(attack);
         EXPECT_EQ(rows.Fields(u"keyword").text() + rows.Fields(u"synonyms").text(), u"xy") << to_utf8(attack);
     }

@@ -37,7 +37,8 @@ struct Store {
         hive = app().hive(); // kept open: a new connection derives its key anew
     }
     void empty() {
-        for (const char16_t* table : {u"keywords", u"elements"}) hive.Execute(u"delete from " + Text(table));
+        for (const StatementName table : {StatementName(u"keywords"), StatementName(u"elements")})
+            hive.Execute({u"delete from {}", table});
         if (highest < 25000) return;
         hive = Database();
         app().write(u"hive.mdb", fresh);
@@ -94,7 +95,7 @@ int keywords(std::string_view bytes) {
     step.op_imp[1].value = bytes[0] % 2 != 0;
     screens().fire<Form3>("Command20", "Click");
     std::vector<Text> stored;
-    for (Recordset row = store.hive.OpenRecordset(u"select * from keywords"); !row.eof(); row.MoveNext()) {
+    for (const auto row : store.hive.OpenRecordset({u"select * from keywords"})) {
         stored.push_back(row.Fields(u"keyword").text());
         store.highest = row.Fields(u"keyid").number();
     }

@@ -110,7 +110,7 @@ TEST(StoreOfDebian13, IsCarriedOverOnceOrSaysWhatToDo) {
     }
     {
         const Database reader = OpenDatabase(app.path(u"hive.mdb"), false, true, u";pwd=lantern4821");
-        EXPECT_EQ(Database(reader).OpenRecordset(u"select * from keywords").RecordCount(), 6);
+        EXPECT_EQ(Database(reader).OpenRecordset({u"select * from keywords"}).RecordCount(), 6);
     }
     EXPECT_EQ(app.read(u"hive.mdb"), before);
     for (int i = 0; i < 2; ++i) EXPECT_EQ(app.value(u"select * from Projects", u"name"), u"garden-sample");

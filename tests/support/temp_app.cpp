@@ -2,9 +2,11 @@
 #include "support/temp_app.h"
 
 #include "store/store_setup.h"
+#include "store/stores.h"
 
 #include <cstdlib>
 #include <fstream>
+#include <optional>
 #include <sstream>
 
 namespace twk::test {
@@ -87,14 +89,16 @@ Database TempApp::synonyms() const {
     return OpenDatabase(path(u"synonyms.mdb"), false, false, u"");
 }
 
-void TempApp::run_unfenced(const std::string& sql) const {
-    sqlite3* const db = open_store(to_utf8(path(u"hive.mdb")), SQLITE_OPEN_READWRITE, "lantern4821");
-    char* why = nullptr;
-    const int code = sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &why);
-    const std::string reason = why != nullptr ? why : "";
-    sqlite3_free(why);
+int TempApp::query(const Text& sql, TextView store, EachRow each, void* into) const {
+    sqlite3* const db = open_store(to_utf8(path(store)), SQLITE_OPEN_READWRITE,
+                                   same_text(store, u"hive.mdb") ? hive_key : "");
+    const int code = sqlite3_exec(db, to_utf8(sql).c_str(), each, into, nullptr);
     sqlite3_close_v2(db);
-    if (code != SQLITE_OK) throw std::runtime_error(sql + ": " + reason);
+    return code;
+}
+
+void TempApp::run(const Text& statement, TextView store) const {
+    if (query(statement, store, nullptr, nullptr) != SQLITE_OK) throw std::runtime_error(to_utf8(statement));
 }
 
 std::string TempApp::rows_of(const std::string& sql) const {
@@ -107,10 +111,7 @@ std::string TempApp::rows_of(const std::string& sql) const {
         return 0;
     };
     const bool other = sql.find("from synonyms") != std::string::npos;
-    sqlite3* const db = open_store(to_utf8(path(other ? u"synonyms.mdb" : u"hive.mdb")), SQLITE_OPEN_READONLY,
-                                   other ? "" : "lantern4821");
-    const int code = sqlite3_exec(db, sql.c_str(), add, &all, nullptr);
-    sqlite3_close_v2(db);
+    const int code = query(from_utf8(sql), other ? u"synonyms.mdb" : u"hive.mdb", add, &all);
     return code == SQLITE_OK ? all : "error " + std::to_string(code);
 }
 
@@ -122,17 +123,33 @@ std::string TempApp::all_rows() const {
         text += '\n';
         return 0;
     };
-    sqlite3* const db = open_store(to_utf8(path(u"hive.mdb")), SQLITE_OPEN_READONLY, "lantern4821");
-    for (const char* table :
-         {"Projects", "keywords", "elements", "content", "ties", "host", "host1", "target", "sqlite_master"})
-        sqlite3_exec(db, ("select * from " + std::string(table)).c_str(), add, &all, nullptr);
-    sqlite3_close_v2(db);
+    for (const char16_t* table : {u"Projects", u"keywords", u"elements", u"content", u"ties", u"host",
+                                  u"host1", u"target", u"sqlite_master"})
+        query(u"select * from " + Text(table), u"hive.mdb", add, &all);
     return all;
 }
 
 Text TempApp::value(const Text& statement, TextView column) const {
-    const Recordset rows = hive().OpenRecordset(statement);
-    return rows.eof() || rows.Fields(column).is_null() ? Text() : rows.Fields(column).text();
+    std::pair<std::string, std::optional<Text>> wanted(to_utf8(column), std::nullopt);
+    const auto take = [](void* into, int columns, char** values, char** names) {
+        auto& [name, value] = *static_cast<decltype(wanted)*>(into);
+        for (int i = 0; i < columns && !value; ++i)
+            if (name == names[i]) value = from_utf8(values[i] != nullptr ? values[i] : "");
+        return 0;
+    };
+    if (query(statement, u"hive.mdb", take, &wanted) != SQLITE_OK)
+        throw std::runtime_error(to_utf8(statement));
+    return wanted.second.value_or(Text());
+}
+
+int TempApp::count(const Text& statement, TextView store) const {
+    int rows = 0;
+    const auto add = [](void* into, int, char**, char**) {
+        ++*static_cast<int*>(into);
+        return 0;
+    };
+    if (query(statement, store, add, &rows) != SQLITE_OK) throw std::runtime_error(to_utf8(statement));
+    return rows;
 }
 
 } // namespace twk::test

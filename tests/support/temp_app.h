@@ -37,10 +37,9 @@ class TempApp {
 
     Database hive() const;
     Database synonyms() const;
-    /// Runs a statement on the project store.
-    void run(const Text& statement) const { hive().Execute(statement); }
-    /// Puts rows into the project store that no screen would let in: the text goes to the store as it is.
-    void run_unfenced(const std::string& sql) const;
+    /// Runs statements as they are, whatever the program would say to them: past its own way to a store.
+    void run(const Text& statement, TextView store = u"hive.mdb") const;
+    void run_unfenced(const std::string& sql) const { run(from_utf8(sql)); }
     /// First column named `column` of the first row, empty when there is none.
     Text value(const Text& statement, TextView column) const;
     /// What a statement finds in the project store, or in `synonyms` of the other: columns parted by ",",
@@ -48,9 +47,13 @@ class TempApp {
     std::string rows_of(const std::string& sql) const;
     /// All rows of the project store, one a line.
     std::string all_rows() const;
-    int count(const Text& statement) const { return hive().OpenRecordset(statement).RecordCount(); }
+    int count(const Text& statement, TextView store = u"hive.mdb") const;
 
   private:
+    using EachRow = int (*)(void* into, int columns, char** values, char** names);
+    /// Code of the library.
+    int query(const Text& sql, TextView store, EachRow each, void* into) const;
+
     std::filesystem::path folder_;
     std::optional<ProcessGuard> guard_;
     bool temporary_ = false;
