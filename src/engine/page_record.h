@@ -28,12 +28,12 @@ struct PageRecord {
     std::vector<std::uint8_t> boxes; ///< in the order in which they stand in the text
     std::vector<std::uint8_t> added; ///< those that a text with too few words was grown by
     std::array<Fitting, 2> fittings;
-    std::int32_t units = 0;       ///< length of a random page's text when its densities were drawn; 0: no draw
-    std::int16_t keyword = -1;    ///< row of the keyword that the page is about
-    std::int16_t subkeyword = 0;  ///< and column of the subkeyword, 0 for none
-    std::int16_t own_count = -1;  ///< occurrences of the subkeyword in the text; -1 where it is not counted
-    std::int16_t sentences = 0;   ///< put in, repeated ones among them
-    std::int16_t replaced = 0;    ///< surplus occurrences of keywords
+    std::int32_t units = 0;      ///< length of a random page's text when its densities were drawn; 0: no draw
+    std::int16_t keyword = -1;   ///< row of the keyword that the page is about
+    std::int16_t subkeyword = 0; ///< and column of the subkeyword, 0 for none
+    std::int16_t own_count = -1; ///< occurrences of the subkeyword in the text; -1 where it is not counted
+    std::int16_t sentences = 0;  ///< put in, repeated ones among them
+    std::int16_t replaced = 0;   ///< surplus occurrences of keywords
     Layout layout = Layout::none; ///< the template
     BoxChoice choice = BoxChoice::none;
     bool read_more = false; ///< the text was cut, and a link leads to its page

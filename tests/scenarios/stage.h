@@ -160,6 +160,8 @@ class Stage {
         {"status", [this](Is text, Is) { EXPECT_EQ(to_utf8(desk_.said.back()), text); }},
         {"slept",
          [this](Is time, Is) { EXPECT_EQ(app_.clock->slept, std::chrono::seconds(std::stoi(time))); }},
+        {"offered",
+         [this](Is filter, Is) { EXPECT_EQ(to_utf8(desk_.file_questions.back().filter), filter); }},
         {"asked", [this](Is title, Is) { EXPECT_EQ(to_utf8(desk_.messages.back().title), title); }},
         {"warned", [this](Is lost, Is) { EXPECT_TRUE(desk_.warned_of(u(lost))) << lost; }},
         {"deleted", [this](Is what, Is) { EXPECT_EQ(to_utf8(screen().deletions->description()), what); }},

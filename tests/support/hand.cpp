@@ -37,6 +37,7 @@ std::string shown(const ScreenMap::Control& control, const std::string& property
                 if (property == "index") return std::to_string(c->list_index());
             if constexpr (requires { c->path(); })
                 if (property == "path") return to_utf8(c->path());
+            if constexpr (requires { c->rows.front(); }) return joined(c->rows.at(std::stoul(property) - 1));
             if constexpr (requires {
                               c->entries();
                               c->text();
