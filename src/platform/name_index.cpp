@@ -184,6 +184,7 @@ std::string NameIndex::find(const std::string& path) {
 
 void NameIndex::entry_added(const std::string& path) {
     const std::string folder = folder_of(path);
+    // cppcheck-suppress constVariable
     auto& folders = kept_names().folders;
     const auto kept = folders.find(folder);
     if (kept == folders.end()) return;
@@ -193,6 +194,7 @@ void NameIndex::entry_added(const std::string& path) {
 
 void NameIndex::entry_removed(const std::string& path) {
     const std::string folder = folder_of(path);
+    // cppcheck-suppress constVariable
     auto& folders = kept_names().folders;
     const auto kept = folders.find(folder);
     if (kept == folders.end()) return;

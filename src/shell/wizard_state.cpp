@@ -55,6 +55,7 @@ class StoredProject {
         }
     }
     bool known() const { return pid_ != 0; }
+    // cppcheck-suppress passedByValue
     int count(StatementName column, StatementName table) {
         return static_cast<int>(column_of(column, table).size());
     }

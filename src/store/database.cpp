@@ -213,6 +213,7 @@ namespace {
 
 /// The connections of the process, by file, key and mode.
 struct OpenStores {
+    // cppcheck-suppress unusedStructMember
     std::map<std::string, std::weak_ptr<Connection>> connections;
 };
 

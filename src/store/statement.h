@@ -18,6 +18,7 @@ namespace twk {
 /// Name of a table or a column, for a statement that several of them share.
 class StatementName {
   public:
+    // cppcheck-suppress noExplicitConstructor
     template <std::size_t N> consteval StatementName(const char16_t (&name)[N]) : text_(name, N - 1) {
         for (const char16_t c : text_)
             if (c != u'_' && (c < u'0' || c > u'9') && (c < u'A' || c > u'Z') && (c < u'a' || c > u'z'))
@@ -58,6 +59,7 @@ template <std::integral Number> Text digits_or_text(Number value) {
 inline Text digits_or_text(TextView value) {
     return Text(value);
 }
+// cppcheck-suppress passedByValue
 inline Text digits_or_text(StatementName value) {
     return Text(value.text());
 }
@@ -96,6 +98,7 @@ constexpr const char* fault_in_statement(TextView literal, std::initializer_list
 template <class... Values> class StatementLiteral {
   public:
     template <std::size_t N>
+    // cppcheck-suppress noExplicitConstructor
     consteval StatementLiteral(const char16_t (&literal)[N]) : text_(literal, N - 1) {
         if (const char* const why = fault_in_statement(text_, {detail::part_of<Values>()...})) throw why;
     }
