@@ -48,8 +48,7 @@ FencedPath FencedPath::as_given() const {
     return {folder_, with_last_name(on_disk_, to_utf8(last_name(TextView(text_)))), text_};
 }
 
-// cppcheck-suppress passedByValue
-Fence::Fence(Text projects, TextView name) : folder_(joined_path(projects, name)) {
+Fence::Fence(const Text& projects, TextView name) : folder_(joined_path(projects, name)) {
     if (!is_folder_name(name)) fenced(folder_);
     std::error_code error;
     projects_ = fs::weakly_canonical(disk_path(projects), error);

@@ -40,7 +40,7 @@ class Fence {
   public:
     /// A direct child of `projects`, the folder of all projects. Fault 75 when no folder can bear `name`, or
     /// it is a symbolic link that leads out.
-    Fence(Text projects, TextView name);
+    Fence(const Text& projects, TextView name);
     /// A folder of the program's own.
     explicit Fence(Text folder);
 

@@ -67,16 +67,12 @@ void FileSystemObject::DeleteFile(const FencedPath& path) {
 }
 
 void FileSystemObject::CopyFile(const Text& from, const FencedPath& to) {
-    const Descriptor source(::open(disk_path(from).c_str(), O_RDONLY | O_CLOEXEC));
-    if (!source) fail_with(errno, from);
-    const std::string bytes = read_open(source, from);
+    const std::string bytes = read_bytes(from);
     // A file that stands there under the same name in another case gives way: the copy's name holds.
     if (!to.bears_given_name() && is_there(to)) unlink(to);
     const FencedPath place = to.as_given();
     OpenFile file = open_to_write(place, OpenMode::writing, true);
-    int error = replace_content(file, bytes);
-    const int unclosed = file.descriptor.close();
-    if (error == 0) error = unclosed;
+    const int error = closed_after(replace_content(file, bytes), file);
     if (error == 0) return;
     if (file.made) unlink(place);
     fail_with(error, to.text());

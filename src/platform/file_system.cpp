@@ -19,12 +19,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string read_bytes(const Text& path) {
-    const Descriptor file(::open(disk_path(path).c_str(), O_RDONLY | O_CLOEXEC));
-    if (!file) fail_with(errno, path);
-    return read_open(file, path);
-}
-
 /// Opens a file of the user's for writing, made where there is none, and for reading, too, when it is to be
 /// added to.
 OpenFile open_to_write(const std::string& name, const Text& path, OpenMode mode) {
@@ -40,10 +34,7 @@ void write_bytes(const Text& path, std::string_view bytes) {
     const std::string name = disk_path(path);
     const bool there = ::access(name.c_str(), F_OK) == 0;
     OpenFile file = open_to_write(name, path, OpenMode::writing);
-    int error = replace_content(file, bytes);
-    const int unclosed = file.descriptor.close();
-    if (error == 0) error = unclosed;
-    if (error != 0) {
+    if (const int error = closed_after(replace_content(file, bytes), file); error != 0) {
         if (!there) ::unlink(name.c_str());
         fail_with(error, path);
     }
@@ -220,6 +211,12 @@ std::vector<Text> list_folders(const Text& folder) {
         std::error_code error;
         return entry.is_directory(error);
     });
+}
+
+std::string read_bytes(const Text& path) {
+    const Descriptor file(::open(disk_path(path).c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file) fail_with(errno, path);
+    return read_open(file, path);
 }
 
 Text read_text_file(const Text& path) {

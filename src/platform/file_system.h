@@ -68,6 +68,8 @@ std::vector<Text> list_files(const Text& folder, TextView pattern);
 std::vector<Text> list_folders(const Text& folder);
 bool matches_pattern(TextView name, TextView pattern);
 
+/// All bytes of a file.
+std::string read_bytes(const Text& path);
 /// Whole text of a file, decoded as a reading stream does.
 Text read_text_file(const Text& path);
 

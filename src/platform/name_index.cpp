@@ -116,6 +116,12 @@ void changed_here(const std::string& folder, Folder& kept) {
         stamp(folder, kept);
 }
 
+/// What is kept of the folder that an entry lies in; null when nothing is.
+Folder* kept_folder_of(const std::string& path) {
+    const auto kept = kept_names().folders.find(folder_of(path));
+    return kept == kept_names().folders.end() ? nullptr : &kept->second;
+}
+
 } // namespace
 
 // The kernel stamps a folder with the time of its last tick or with the exact one: a change lies between the
@@ -183,23 +189,17 @@ std::string NameIndex::find(const std::string& path) {
 }
 
 void NameIndex::entry_added(const std::string& path) {
-    const std::string folder = folder_of(path);
-    // cppcheck-suppress constVariable
-    auto& folders = kept_names().folders;
-    const auto kept = folders.find(folder);
-    if (kept == folders.end()) return;
-    kept->second.names.insert_or_assign(folded(last_name(path)), std::string(last_name(path)));
-    changed_here(folder, kept->second);
+    Folder* const kept = kept_folder_of(path);
+    if (kept == nullptr) return;
+    kept->names.insert_or_assign(folded(last_name(path)), std::string(last_name(path)));
+    changed_here(folder_of(path), *kept);
 }
 
 void NameIndex::entry_removed(const std::string& path) {
-    const std::string folder = folder_of(path);
-    // cppcheck-suppress constVariable
-    auto& folders = kept_names().folders;
-    const auto kept = folders.find(folder);
-    if (kept == folders.end()) return;
-    kept->second.names.erase(folded(last_name(path)));
-    changed_here(folder, kept->second);
+    Folder* const kept = kept_folder_of(path);
+    if (kept == nullptr) return;
+    kept->names.erase(folded(last_name(path)));
+    changed_here(folder_of(path), *kept);
 }
 
 void NameIndex::forget() {

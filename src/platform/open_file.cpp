@@ -148,6 +148,11 @@ int append_content(const OpenFile& opened, std::string_view bytes, std::size_t o
     return undone(opened, old_size, write_at(opened.descriptor.number(), bytes, old_size));
 }
 
+int closed_after(int error, OpenFile& file) {
+    const int unclosed = file.descriptor.close();
+    return error != 0 ? error : unclosed;
+}
+
 Descriptor open_beneath(const Descriptor& root, const std::string& relative, bool by_kernel) {
     constexpr int folder = O_PATH | O_DIRECTORY | O_CLOEXEC;
 #if defined(SYS_openat2)

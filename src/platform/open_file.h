@@ -56,6 +56,9 @@ std::string read_open(const OpenFile& file, const Text& path);
 int replace_content(const OpenFile& file, std::string_view bytes);
 int append_content(const OpenFile& file, std::string_view bytes, std::size_t old_size);
 
+/// Closes a file that something was written to. Returns the error of that, or else the one of closing.
+int closed_after(int error, OpenFile& file);
+
 /// What is known of a file behind its opening. Fault 70 when nobody may write it.
 OpenFile opened_to_write(Descriptor descriptor, const Text& path);
 

@@ -73,8 +73,7 @@ Text TextStream::close_and_read() {
         if (!old.empty()) bytes = encode_text(content_, kind_);
         error = replace_content(file_, bytes);
     }
-    const int unclosed = file_.descriptor.close();
-    if (error == 0) error = unclosed;
+    error = closed_after(error, file_);
     if (error != 0) fail_with(error, path_);
     old_size_ = std::ssize(old);
     size_ = std::ssize(bytes) + (appended ? old_size_ : 0);
