@@ -69,16 +69,10 @@ QString ReportModel::cell(std::size_t row, int column) const {
     const PageRow& page = report_->pages[row];
     switch (column) {
     case kind: return to_qt(kind_name(page));
-    case folder:
-        return page.destination < 0
-                   ? QString()
-                   : to_qt(report_->destinations[static_cast<std::size_t>(page.destination)].folder);
+    case folder: return to_qt(folder_name(*report_, page));
     case file: return to_qt(page.file);
     case page_title: return to_qt(page.title);
-    case redirects:
-        return page.redirects < 0    ? QString()
-               : page.redirects == 1 ? QStringLiteral("yes")
-                                     : QStringLiteral("no");
+    case redirects: return to_qt(redirects_word(page));
     case own: return to_qt(own_keyword(*report_, page));
     case made: return to_qt(short_story(page));
     case kb: return figure(page.kb, 1);

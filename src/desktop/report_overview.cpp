@@ -162,9 +162,9 @@ void ReportOverview::reload() {
         });
     report_ = report;
     found_ = report_ ? find_findings(*report_) : std::vector<Finding>();
-    std::vector<int> of_rows(report_ ? report_->pages.size() : 0);
-    for (const Finding& each : found_)
-        for (const std::size_t row : each.pages) ++of_rows[row];
+    std::vector<int> of_rows;
+    for (const auto& found : findings_of_pages(found_, report_ ? report_->pages.size() : 0))
+        of_rows.push_back(static_cast<int>(found.size()));
     filter_->clear();
     order_->show_rows(nullptr);
     model_->show(report_, std::move(of_rows));
@@ -199,9 +199,9 @@ void ReportOverview::show_findings() {
     findings_->clear();
     findings_->addItem(QStringLiteral("All pages"));
     for (const Finding& each : found_) {
-        const std::size_t cases = each.pages.empty() ? each.items.size() : each.pages.size();
-        findings_->addItem(
-            QStringLiteral("%1: %2 (%3)").arg(to_qt(weight_name(each.weight)), to_qt(each.name)).arg(cases));
+        findings_->addItem(QStringLiteral("%1: %2 (%3)")
+                               .arg(to_qt(weight_name(each.weight)), to_qt(each.name))
+                               .arg(each.cases()));
         findings_->item(findings_->count() - 1)->setToolTip(to_qt(each.why));
     }
     why_->clear();
@@ -236,7 +236,7 @@ void ReportOverview::show_destinations() {
                                  QLocale().toString(static_cast<qlonglong>(each.bytes))};
         for (int c = 0; c < 5; ++c) destinations_->setItem(row, c, new QTableWidgetItem(cells[c]));
         auto* const button = new QPushButton(QStringLiteral("Open folder"));
-        const Text path = report_->facts.project_folder + Text(path_separator) + each.folder;
+        const Text path = joined_path(report_->facts.project_folder, each.folder);
         connect(button, &QPushButton::clicked, this, [this, path] { open(path); });
         destinations_->setCellWidget(row, 1, button);
     }

@@ -83,8 +83,7 @@ int box_density(const PageChoices& choices) {
 }
 
 Text recalcular(Run& run, const Text& texto, const Text& keyword) {
-    // cppcheck-suppress constVariable
-    PageChoices& choices = run.choices;
+    const PageChoices& choices = run.choices;
     Text t = texto;
     Text medida = keyword;
     contar_kw(t, medida); // spaces the tags

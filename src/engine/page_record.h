@@ -43,6 +43,11 @@ struct PageRecord {
     bool index = false;    ///< the index page of a destination
     bool empty_text = false;
 
+    /// Units that parts long texts of random pages from short ones: each have bounds of their own for their
+    /// densities. A text of exactly so many is neither.
+    static constexpr std::int32_t long_text = 10000;
+    bool is_long() const { return units > long_text; }
+
     void count_replaced(int count) { replaced = static_cast<std::int16_t>(replaced + count); }
 };
 

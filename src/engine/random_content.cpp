@@ -16,7 +16,7 @@ namespace twk {
 
 namespace {
 
-constexpr std::size_t long_text = 10000; ///< units; a text of exactly so many is neither long nor short
+constexpr std::size_t long_text = PageRecord::long_text;
 
 /// Draws the boxes of a page into `seleccion`; returns how many. No place of the pool is drawn twice.
 int draw_boxes(ContentPool& pool) {

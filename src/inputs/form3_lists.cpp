@@ -99,8 +99,7 @@ void Form3::export_list() {
     // An older export stays whole until the new one is complete beside it: opening it proves the name usable,
     // and it is never closed, which would empty it.
     FileSystemObject fso;
-    // cppcheck-suppress unreadVariable
-    const TextStreamPtr chosen = fso.OpenTextFile(path, OpenMode::writing, true);
+    fso.OpenTextFile(path, OpenMode::writing, true);
     const TextStreamPtr out = fso.OpenTextFile(path + u"aux", OpenMode::writing, true);
     write_header(*out);
     for (int i = 0; i < List1.list_count(); ++i)

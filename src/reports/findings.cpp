@@ -16,9 +16,6 @@ constexpr double least_density = 1, most_density = 5;
 /// Why the text of a page is empty.
 enum class Emptiness { none, long_text, short_text, asked, over_half, too_short, blank_boxes };
 
-/// The length from which the settings of long texts hold.
-constexpr std::int32_t long_text_units = 10000;
-
 Emptiness emptiness(const PageRow& row) {
     if (!row.made.empty_text || row.made.index) return Emptiness::none;
     for (const Fitting& fitting : row.made.fittings) {
@@ -26,7 +23,7 @@ Emptiness emptiness(const PageRow& row) {
         if (fitting.density > 50) return Emptiness::over_half;
         if (fitting.density >= 1) return Emptiness::too_short;
         if (row.kind != 3) return Emptiness::asked;
-        return row.made.units > long_text_units ? Emptiness::long_text : Emptiness::short_text;
+        return row.made.is_long() ? Emptiness::long_text : Emptiness::short_text;
     }
     return Emptiness::blank_boxes;
 }
@@ -308,6 +305,14 @@ std::vector<Finding> find_findings(const SiteReport& report) {
     std::stable_sort(all.begin(), all.end(),
                      [](const Finding& a, const Finding& b) { return a.weight < b.weight; });
     return all;
+}
+
+std::vector<std::vector<std::size_t>> findings_of_pages(const std::vector<Finding>& findings,
+                                                        std::size_t pages) {
+    std::vector<std::vector<std::size_t>> of_pages(pages);
+    for (std::size_t f = 0; f < findings.size(); ++f)
+        for (const std::size_t page : findings[f].pages) of_pages[page].push_back(f);
+    return of_pages;
 }
 
 Text weight_name(Weight weight) {

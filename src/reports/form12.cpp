@@ -125,8 +125,6 @@ void Form12::Reporte(const KeywordTable& tabla, int keywords) {
     for (int k = 0; k < n_kw; ++k) at(xKeyWords, k) = tabla.at(k);
     plan_pages(tabla);
     others_.clear();
-    facts_.reset();
-    overview_.reset();
     std::vector<Text> servers = screen<Form7>().List1.entries();
     servers.insert(servers.begin(), screen<Form7>().Text2.text());
     book_.begin(servers, joined_path(beside_program(u"Projects"), screen<Form2>().txt_name[0].text()));
@@ -231,7 +229,6 @@ void Form12::links_from(const Text& path, const Text& page) {
 
 void Form12::ended(RunFacts facts) {
     facts_ = std::move(facts);
-    overview_.reset();
 }
 
 std::shared_ptr<const SiteReport> Form12::overview() {
@@ -252,8 +249,9 @@ void Form12::save_report(ReportFormat format) {
                                  .file_name = site->facts.project + u"-report" + Text(ending),
                                  .ending = Text(ending)});
     if (!file) return;
-    write_report(*this, format, with_ending(*file, ending));
-    say(u"Report saved as " + *file);
+    const Text written = with_ending(*file, ending);
+    write_report(*this, format, written);
+    say(u"Report saved as " + written);
 }
 
 /// Tails of the file names of a range of pages; past the analysis there is none.

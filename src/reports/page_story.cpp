@@ -9,8 +9,6 @@ namespace twk {
 
 namespace {
 
-constexpr int long_text_units = 10000;
-
 Text counted(int n, TextView one, TextView many) {
     return to_text(n) + u" " + Text(n == 1 ? one : many);
 }
@@ -66,17 +64,11 @@ void tell_boxes(const SiteReport& report, const PageRow& row, std::vector<Text>&
                         u" words (1.b): it was cut, and a link leads to its read-more page (3.c).");
 }
 
-Text keyword_of(const SiteReport& report, const PageRow& row, int keyword) {
-    const auto k = static_cast<std::size_t>(keyword);
-    if (keyword < 0) return own_keyword(report, row);
-    return k < report.keywords.size() ? report.keywords[k] : Text();
-}
-
 /// The setting that a density is drawn from or asked with.
 Text density_setting(const SiteReport& report, const PageRow& row, std::size_t which) {
     if (row.kind == 1) return u"as Step 5 asks (3.a)";
     if (row.kind == 2) return u"as always on second-level pages";
-    const bool is_long = row.made.units > long_text_units;
+    const bool is_long = row.made.is_long();
     const auto& bounds = is_long ? report.facts.long_bounds : report.facts.short_bounds;
     const TextView keys[] = {u"1.d", u"1.f", u"1.e", u"1.g"};
     return u"drawn below " + to_text(bounds[which]) + u" (" + Text(keys[which + (is_long ? 0 : 2)]) + u")";
@@ -90,7 +82,7 @@ void tell_fittings(const SiteReport& report, const PageRow& row, std::vector<Tex
         const Text drawn = to_text(fitting.density) + u" %, " + density_setting(report, row, which);
         if (fitting.done)
             lines.push_back(u"The text was brought to a density for \"" +
-                            keyword_of(report, row, fitting.keyword) + u"\": " + drawn +
+                            fitted_keyword(report, row, fitting) + u"\": " + drawn +
                             (fitting.emptied ? u". That left nothing of it." : u"."));
         else if (row.kind == 3 && !row.made.index)
             lines.push_back(Text(which == 0 ? u"The first" : u"The second") + u" density is " + drawn +

@@ -176,6 +176,21 @@ Text layout_name(Layout layout) {
     return u"none";
 }
 
+const Text& folder_name(const SiteReport& report, const PageRow& row) {
+    static const Text none;
+    return row.destination < 0 ? none : report.destinations[static_cast<std::size_t>(row.destination)].folder;
+}
+
+TextView redirects_word(const PageRow& row) {
+    return row.redirects < 0 ? u"" : row.redirects == 1 ? u"yes" : u"no";
+}
+
+Text fitted_keyword(const SiteReport& report, const PageRow& row, const Fitting& fitting) {
+    if (fitting.keyword < 0) return own_keyword(report, row);
+    const auto k = static_cast<std::size_t>(fitting.keyword);
+    return k < report.keywords.size() ? report.keywords[k] : Text();
+}
+
 Text own_keyword(const SiteReport& report, const PageRow& row) {
     const auto& table = report.facts.keywords;
     const auto k = static_cast<std::size_t>(row.made.keyword);

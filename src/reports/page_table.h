@@ -91,6 +91,12 @@ Text kind_name(const PageRow& row);
 Text kind_name(int kind);
 /// The template's name as Step 5 shows it.
 Text layout_name(Layout layout);
+/// Name of the folder that the page lies in; empty for one that no destination has.
+const Text& folder_name(const SiteReport& report, const PageRow& row);
+/// "yes", "no", or empty where it is not told.
+TextView redirects_word(const PageRow& row);
+/// The keyword that a text of the page was brought to a density for.
+Text fitted_keyword(const SiteReport& report, const PageRow& row, const Fitting& fitting);
 /// The keyword that the page is about: a second-level page's subkeyword, else the keyword; empty for none.
 Text own_keyword(const SiteReport& report, const PageRow& row);
 /// Address of a place without a file.

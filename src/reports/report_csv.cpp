@@ -50,8 +50,7 @@ void write_page(const SiteReport& report, std::size_t p, std::string& out) {
     const PageRow& row = report.pages[p];
     Line line(out);
     line.text(kind_name(row));
-    line.text(row.destination < 0 ? Text()
-                                  : report.destinations[static_cast<std::size_t>(row.destination)].folder);
+    line.text(folder_name(report, row));
     line.text(row.file);
     line.text(row.address);
     line.plain(number(row.words));
@@ -63,7 +62,7 @@ void write_page(const SiteReport& report, std::size_t p, std::string& out) {
     line.plain(number(row.title_words));
     line.text(own_keyword(report, row));
     line.plain(number(row.own_density));
-    line.plain(row.redirects < 0 ? "" : row.redirects == 1 ? "yes" : "no");
+    line.text(redirects_word(row));
     line.text(short_story(row));
     for (std::size_t k = 0; k < report.keywords.size(); ++k) line.plain(density(report.density(p, k)));
 }

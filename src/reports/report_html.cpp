@@ -27,12 +27,9 @@ std::string thousands(std::int64_t n) {
 
 class Page {
   public:
-    explicit Page(const SiteReport& report) : report_(report), findings_(find_findings(report)) {
-        rules_.resize(report.pages.size());
-        for (std::size_t f = 0; f < findings_.size(); ++f)
-            for (const std::size_t p : findings_[f].pages)
-                rules_[p] += (rules_[p].empty() ? "" : " ") + count(f + 1);
-    }
+    explicit Page(const SiteReport& report)
+        : report_(report), findings_(find_findings(report)),
+          found_(findings_of_pages(findings_, report.pages.size())) {}
 
     std::string write() {
         head();
@@ -76,11 +73,8 @@ class Page {
 
     std::string page_name(std::size_t p) const {
         const PageRow& row = report_.pages[p];
-        const Text folder =
-            row.destination < 0
-                ? Text()
-                : report_.destinations[static_cast<std::size_t>(row.destination)].folder + u"/";
-        return escaped(folder + row.file);
+        const Text& folder = folder_name(report_, row);
+        return escaped((row.destination < 0 ? folder : folder + u"/") + row.file);
     }
 
     void list(std::size_t size, const auto& name) {
@@ -98,13 +92,12 @@ class Page {
 
     void finding(const Finding& each, std::size_t number) {
         const std::string weight = escaped(weight_name(each.weight));
-        const std::size_t cases = each.pages.empty() ? each.items.size() : each.pages.size();
         out_ += "<section class=\"finding " + to_utf8(LCase(weight_name(each.weight))) + "\"><h3>" +
                 count(number) + ". " + escaped(each.name) + " <span class=\"tag\">" + weight + ", " +
-                count(cases) +
-                (each.pages.empty() ? ""
-                 : cases == 1       ? " page"
-                                    : " pages") +
+                count(each.cases()) +
+                (each.pages.empty()  ? ""
+                 : each.cases() == 1 ? " page"
+                                     : " pages") +
                 "</span></h3>\n<p>" + escaped(each.why) + "</p>\n<p><b>What changes it:</b> " +
                 escaped(each.remedy) + "</p>\n";
         if (!each.pages.empty())
@@ -174,6 +167,12 @@ class Page {
         out_ += "</tbody>\n</table></div>\n";
     }
 
+    /// As the findings are numbered above the table.
+    static std::string numbers(const std::vector<std::size_t>& findings) {
+        std::string all;
+        for (const std::size_t f : findings) all += (all.empty() ? "" : " ") + count(f + 1);
+        return all;
+    }
     void cell(const std::string& text) { out_ += "<td>" + text; }
     void number(const std::string& figure) { out_ += "<td class=n>" + figure; }
     static std::string known(int value) { return value < 0 ? std::string() : std::to_string(value); }
@@ -182,9 +181,7 @@ class Page {
         const PageRow& row = report_.pages[p];
         out_ += "<tr>"; // end tags that HTML spares are spared: there may be thousands of rows
         cell(escaped(kind_name(row)));
-        cell(row.destination < 0
-                 ? std::string()
-                 : escaped(report_.destinations[static_cast<std::size_t>(row.destination)].folder));
+        cell(escaped(folder_name(report_, row)));
         cell(escaped(row.file));
         number(known(row.words));
         number(short_number(row.kb));
@@ -192,10 +189,10 @@ class Page {
         number(std::to_string(row.links_in));
         cell(escaped(row.title));
         number(known(row.title_words));
-        cell(row.redirects < 0 ? "" : row.redirects == 1 ? "yes" : "no");
+        cell(to_utf8(redirects_word(row)));
         cell(densities(p));
         cell(stories ? story(row) : escaped(short_story(row)));
-        cell(rules_[p]);
+        cell(numbers(found_[p]));
         out_ += '\n';
     }
 
@@ -224,7 +221,7 @@ class Page {
 
     const SiteReport& report_;
     std::vector<Finding> findings_;
-    std::vector<std::string> rules_; ///< numbers of the findings of each page
+    std::vector<std::vector<std::size_t>> found_; ///< the findings of each page
     std::string out_{};
 };
 

@@ -47,10 +47,7 @@ Json fittings(const SiteReport& site, const PageRow& row) {
         if (!each.done && row.made.units == 0) continue;
         Json one = {{"density", each.density}, {"used", each.done}};
         if (each.done) {
-            const auto k = static_cast<std::size_t>(each.keyword);
-            one["keyword"] = to_utf8(each.keyword < 0           ? own_keyword(site, row)
-                                     : k < site.keywords.size() ? site.keywords[k]
-                                                                : Text());
+            one["keyword"] = to_utf8(fitted_keyword(site, row, each));
             one["emptied"] = each.emptied;
         }
         all.push_back(std::move(one));
@@ -83,12 +80,10 @@ Json record(const SiteReport& site, const PageRow& row) {
             {"empty", made.empty_text}};
 }
 
-/// What stands behind the fields of the analysis. `rules` are those that found the page.
+/// What stands behind the fields of the analysis. `found` are the findings of the page.
 void add_overview(Json& page, const SiteReport& site, const PageRow& row,
-                  const std::vector<std::string_view>& rules) {
-    page["folder"] = row.destination < 0
-                         ? Json(nullptr)
-                         : Json(to_utf8(site.destinations[static_cast<std::size_t>(row.destination)].folder));
+                  const std::vector<Finding>& findings, const std::vector<std::size_t>& found) {
+    page["folder"] = row.destination < 0 ? Json(nullptr) : Json(to_utf8(folder_name(site, row)));
     page["address"] = to_utf8(row.address);
     page["links_out"] = row.links_out;
     page["links_in"] = row.links_in;
@@ -96,7 +91,9 @@ void add_overview(Json& page, const SiteReport& site, const PageRow& row,
     Json dead = Json::array();
     for (const std::uint32_t place : row.dead) dead.push_back(to_utf8(missing_address(site, place)));
     page["dead_links"] = std::move(dead);
-    page["findings"] = rules;
+    Json rules = Json::array();
+    for (const std::size_t f : found) rules.push_back(findings[f].rule);
+    page["findings"] = std::move(rules);
     page["made"] = record(site, row);
 }
 
@@ -132,15 +129,14 @@ void append_element(std::string& out, const Json& element) {
 } // namespace
 
 std::string report_as_json(const std::vector<PageAnalysis>& pages, const SiteReport& site) {
-    std::vector<std::vector<std::string_view>> rules(site.pages.size());
-    for (const Finding& finding : find_findings(site))
-        for (const std::size_t p : finding.pages) rules[p].push_back(finding.rule);
+    const std::vector<Finding> findings = find_findings(site);
+    const auto found = findings_of_pages(findings, site.pages.size());
     std::string out = "[";
     std::size_t p = 0;
     for (const PageAnalysis& page : pages) {
         if (page.path.empty()) continue;
         Json element = page_analysis(page, site.keywords);
-        add_overview(element, site, site.pages[p], rules[p]);
+        add_overview(element, site, site.pages[p], findings, found[p]);
         append_element(out, element);
         ++p;
     }
