@@ -12,7 +12,7 @@ namespace twk::cli {
 
 Status check_project(const Console& console, const std::filesystem::path& application_folder,
                      const std::string& project) {
-    Session<> session(console, application_folder);
+    Session session(console, application_folder);
     Wizard wizard(console, session.desktop);
     const Status status = wizard.walk_to_step5(from_utf8(project));
     if (status != Status::done) return status;

@@ -60,10 +60,7 @@ class ScratchFolder {
 std::vector<const PageRow*> rows_named(const SiteReport& report, const Text& page) {
     std::vector<const PageRow*> found;
     for (const PageRow& row : report.pages) {
-        const Text folder = row.destination < 0
-                                ? Text()
-                                : report.destinations[static_cast<std::size_t>(row.destination)].folder;
-        if (same_text(page, row.file) || same_text(page, folder + u"/" + row.file) ||
+        if (same_text(page, row.file) || same_text(page, folder_name(report, row) + u"/" + row.file) ||
             same_text(page, row.address))
             found.push_back(&row);
     }
@@ -91,7 +88,7 @@ Status explain_page(const Console& console, const std::filesystem::path& applica
     const ScratchFolder scratch(application_folder);
     std::ostream nowhere(nullptr); // only the page is asked for
     const Console talk{nowhere, console.err, false};
-    Session<> session(talk, scratch.path(), options.seed, options.now);
+    Session session(talk, scratch.path(), options.seed, options.now);
     Wizard wizard(talk, session.desktop);
     Status status = wizard.walk_to_step5(from_utf8(options.project));
     if (status == Status::done) status = wizard.generate();

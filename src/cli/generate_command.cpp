@@ -16,7 +16,7 @@ namespace twk::cli {
 
 namespace {
 
-Status walk_and_generate(const Console& console, Session<>& session, const std::string& project) {
+Status walk_and_generate(const Console& console, Session& session, const std::string& project) {
     Wizard wizard(console, session.desktop);
     if (const Status status = wizard.walk_to_step5(from_utf8(project)); status != Status::done) return status;
     session.desktop.tell_progress(true);
@@ -56,7 +56,7 @@ Status generate_project(const Console& console, const std::filesystem::path& app
     // With --json nothing but the figures goes to the output: what is told on the way goes to the other side.
     const Console talk{options.json ? console.err : console.out, console.err,
                        console.terminal && !options.json};
-    Session<> session(talk, application_folder, options.seed, options.now);
+    Session session(talk, application_folder, options.seed, options.now);
     const auto start = std::chrono::steady_clock::now();
     const Status status = walk_and_generate(talk, session, options.project);
     if (status != Status::done) {

@@ -18,6 +18,7 @@ namespace twk::cli {
 
 namespace {
 
+/// The system's time, without waiting: the pauses of the screens are for people who look at them.
 class PromptClock : public SystemClock {
   public:
     void sleep(std::chrono::milliseconds) override {}
@@ -32,8 +33,6 @@ int find_project(const std::vector<Text>& names, const Text& project) {
     return at == names.end() ? -1 : static_cast<int>(at - names.begin());
 }
 
-} // namespace
-
 Text absolute_text(const std::filesystem::path& folder) {
     return from_utf8(std::filesystem::absolute(folder).lexically_normal().string());
 }
@@ -42,6 +41,12 @@ std::shared_ptr<Clock> prompt_clock(std::optional<LocalTime> now) {
     if (now) return std::make_shared<FixedClock>(*now);
     return std::make_shared<PromptClock>();
 }
+
+} // namespace
+
+Session::Session(const Console& console, const std::filesystem::path& application_folder,
+                 std::optional<std::uint64_t> seed, std::optional<LocalTime> now)
+    : desktop(console), guard(desktop, absolute_text(application_folder), prompt_clock(now), seed) {}
 
 Status Wizard::step(const std::function<bool()>& press, const std::function<bool()>& arrived,
                     std::string_view name) {

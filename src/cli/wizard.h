@@ -9,20 +9,13 @@
 
 namespace twk::cli {
 
-/// The folder's whole path.
-Text absolute_text(const std::filesystem::path& folder);
-/// The system's time, or the moment, without waiting: the pauses of the screens are for people who look at
-/// them.
-std::shared_ptr<Clock> prompt_clock(std::optional<LocalTime> now);
-
 /// What a command runs in: a desktop on the console, the application folder, a clock that does not wait, and
 /// stands at `now` when there is one, and a seed.
-template <class D = ConsoleDesktop> struct Session {
+struct Session {
     Session(const Console& console, const std::filesystem::path& application_folder,
-            std::optional<std::uint64_t> seed = {}, std::optional<LocalTime> now = {})
-        : desktop(console), guard(desktop, absolute_text(application_folder), prompt_clock(now), seed) {}
+            std::optional<std::uint64_t> seed = {}, std::optional<LocalTime> now = {});
 
-    D desktop;
+    ConsoleDesktop desktop;
     ProcessGuard guard;
 };
 

@@ -137,7 +137,7 @@ TEST_F(CommandLine, ARefusalOfTheWizardIsStatusThreeWithItsMessage) {
 
 TEST_F(CommandLine, AFaultIsStatusOneWithItsMessage) {
     // A statement that an apostrophe breaks.
-    app.run_unfenced("update Projects set designer_name = 'O''Hara'");
+    app.run("update Projects set designer_name = 'O''Hara'");
     Outcome outcome = generate();
     EXPECT_EQ(outcome.status, 1);
     EXPECT_NE(outcome.err.find("Run-time error '3075':"), std::string::npos) << outcome.err;

@@ -223,11 +223,11 @@ TEST_F(Hand, LongTextsShowTheirBeginningAndAllOfThemselvesOnDemand) {
     EXPECT_EQ(left.verticalScrollBar()->value(), right.verticalScrollBar()->value());
 
     const Text box = u"Tea " + Text(200, u'x') + u" end.";
-    app.run_unfenced("insert into Projects ( name ) values ( 'tea' );"
-                     "insert into keywords ( pid , keyword ) values ( 1 , 'green tea' );"
-                     "insert into ties ( pid , keyid , cid ) values ( 1 , 1 , 1 );"
-                     "insert into content ( pid , content ) values ( 1 , '" +
-                     to_utf8(box) + "' );");
+    app.run("insert into Projects ( name ) values ( 'tea' );"
+            "insert into keywords ( pid , keyword ) values ( 1 , 'green tea' );"
+            "insert into ties ( pid , keyid , cid ) values ( 1 , 1 , 1 );"
+            "insert into content ( pid , content ) values ( 1 , '" +
+            to_utf8(box) + "' );");
     module1().pid_actual = 1;
     screens().dispatch([] { screen<Form2>().txt_name[0].text = u"tea"; });
     shown<Form3>();

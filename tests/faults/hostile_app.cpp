@@ -54,7 +54,7 @@ void HostileApp::SetUp() {
     app.desktop.always(u"Are you sure you want to proceed?", Answer::yes);
     app.desktop.always(u"", Answer::ok); // whatever is told, the user goes on
     project = std::make_unique<SampleProject>(app);
-    app.run_unfenced(
+    app.run(
         "insert into Projects (pid, name, site_name, site_url, title, category, description, designer_name, "
         "designer_url) values (900, 'precious', 's', 'http://u', 't', 'c', 'd', 'n', 'w');"
         "insert into keywords (keyid, pid, keyword) values (901, 900, 'kept');"

@@ -82,14 +82,14 @@ TEST_F(HostileNames, StepOneMakesNoFolderElsewhere) {
 
 TEST_F(HostileNames, DeletingAProjectErasesNothingElsewhere) {
     take_pages_away();
-    app.run_unfenced("update Projects set name = 'link' where pid = 1");
+    app.run("update Projects set name = 'link' where pid = 1");
     EXPECT_EQ(fault_of_deleting(u"link"), fault_path_access);
     EXPECT_EQ(app.count(u"select * from keywords where pid = 1"), 3);
     // No folder can bear these: they are taken for one that is gone, and the rows go.
     for (const Text& name : {Text(u".."), Text(u"."), Text(u""), Text(u"../outside"), Text(u"..\\.."),
                              Text(u"precious/main"), long_name}) {
-        app.run_unfenced("insert or replace into Projects (pid, name) values (1, '" + to_utf8(name) +
-                         "'); insert into keywords (pid, keyword) values (1, 'roof');");
+        app.run("insert or replace into Projects (pid, name) values (1, '" + to_utf8(name) +
+                "'); insert into keywords (pid, keyword) values (1, 'roof');");
         EXPECT_EQ(fault_of_deleting(name), 0) << to_utf8(name);
         EXPECT_EQ(app.desktop.last_message(),
                   u"The folder corresponding to this project no longer exist or it has been renamed.");
@@ -128,7 +128,7 @@ TEST_F(HostileNames, SecondaryHostsStayBelowTheProject) {
 
 TEST_F(HostileNames, KeywordsFromTheStoreCannotLeaveTheFolder) {
     const auto use = [this](const Text& keyword) {
-        app.run_unfenced("update keywords set keyword = '" + to_utf8(keyword) + "' where keyid = 1");
+        app.run("update keywords set keyword = '" + to_utf8(keyword) + "' where keyid = 1");
     };
     // A separator in a name leads to a folder that is not there, dots lead to the fence.
     expect_runs(use, fault_path_access, {u"../../escape", u"../../precious/main/page", long_name});
@@ -139,7 +139,7 @@ TEST_F(HostileNames, KeywordsFromTheStoreCannotLeaveTheFolder) {
 
 TEST_F(HostileNames, SubkeywordsFromTheStoreCannotLeaveTheFolder) {
     const auto use = [this](const Text& element) {
-        app.run_unfenced("update elements set element = '" + to_utf8(element) + "' where eid = 1");
+        app.run("update elements set element = '" + to_utf8(element) + "' where eid = 1");
     };
     expect_runs(use, fault_path_access, {u"/../../../escape", long_name});
     expect_runs(use, fault_path_not_found, {u"/../../precious/main/page", u"a/b"});

@@ -39,6 +39,14 @@ Text with(Text result, const Text& changed) {
     return std::move(result) + u"|" + changed;
 }
 
+/// A routine that changes its text, too.
+std::function<Text(Arguments&)> in_place(Text (*routine)(Text&)) {
+    return [routine](Arguments& a) {
+        Text result = routine(a[0]);
+        return with(std::move(result), a[0]);
+    };
+}
+
 const std::map<std::string, std::function<Text(Arguments&)>> routines = {
     {"Left", [](Arguments& a) { return Left(a[0], whole(a, 1)); }},
     {"Right", [](Arguments& a) { return Right(a[0], whole(a, 1)); }},
@@ -81,27 +89,15 @@ const std::map<std::string, std::function<Text(Arguments&)>> routines = {
          return with(to_text(share), a[1]);
      }},
     {"cortar_palabras", [](Arguments& a) { return cortar_palabras(a[0], CInt(a[1])); }},
-    {"limpiar_html",
-     [](Arguments& a) {
-         Text clean = limpiar_html(a[0]);
-         return with(clean, a[0]);
-     }},
-    {"preparar_texto",
-     [](Arguments& a) {
-         Text prepared = preparar_texto(a[0]);
-         return with(prepared, a[0]);
-     }},
+    {"limpiar_html", in_place([](Text& t) { return limpiar_html(t); })},
+    {"preparar_texto", in_place([](Text& t) { return preparar_texto(t); })},
     {"letra",
      [](Arguments& a) {
          int n = whole(a, 0);
          Text letter = letra(n);
          return with(letter, to_text(n));
      }},
-    {"validar_palabra",
-     [](Arguments& a) {
-         Text word = validar_palabra(a[0]);
-         return with(word, a[0]);
-     }},
+    {"validar_palabra", in_place([](Text& t) { return validar_palabra(t); })},
     {"replace_last",
      [](Arguments& a) {
          replace_last(a[0], a[1], a[2], whole(a, 3));

@@ -26,8 +26,7 @@ inline std::string unescaped(std::string_view text) {
         if (text[i] == '{' && end != std::string_view::npos) {
             const auto [times, what] = cut(std::string(text.substr(i + 1, end - i - 1)), "*");
             if (times.starts_with("@"))
-                plain += to_utf8(
-                    Replace(from_utf8(bytes_of(TEST_GOLDEN_DIR "/" + times.substr(1))), u"\n", u"\r\n"));
+                plain += to_utf8(Replace(from_utf8(bytes_of(golden(times.substr(1)))), u"\n", u"\r\n"));
             else if (times == "APP" || times == "VERSION")
                 plain += to_utf8(times == "APP" ? app_path() : version_app());
             else

@@ -71,7 +71,7 @@ class Stage {
 
     const std::map<std::string, std::function<void(Is, Is)>> words_{
         // What stands before.
-        {"sql", [this](Is one, Is more) { app_.run_unfenced(one + (more.empty() ? "" : " = " + more)); }},
+        {"sql", [this](Is one, Is more) { app_.run(one + (more.empty() ? "" : " = " + more)); }},
         {"write", [this](Is file, Is bytes) { app_.write(u(file), bytes); }},
         {"open",
          [](Is key, Is name) {

@@ -54,7 +54,7 @@ std::string line_at(const std::string& text, std::size_t at) {
 } // namespace
 
 void expect_same_tree(const Text& actual_folder, const std::string& golden_case) {
-    const fs::path golden_folder = fs::path(TEST_GOLDEN_DIR) / golden_case;
+    const fs::path golden_folder = golden(golden_case);
     const Tree actual = read_tree(to_utf8(actual_folder), to_utf8(app_path()));
     if (!fs::exists(golden_folder)) {
         write_tree(actual, golden_folder);

@@ -32,9 +32,9 @@ insert into content ( pid , content ) values ( 1 ,
 
 Form6& load_screens(TempApp& app) {
     // The delivered strategy may change without changing the golden pages.
-    app.write(u"shed.dat", bytes_of(std::filesystem::path(TEST_GOLDEN_DIR) / "strategy.dat"));
+    app.write(u"shed.dat", bytes_of(golden("strategy.dat")));
     const Text beech = repeated(u"Beech is good for the top, pine will do for the legs. ", 4);
-    app.run_unfenced(to_utf8(Replace(from_utf8(rows), u"BEECH", beech)));
+    app.run(to_utf8(Replace(from_utf8(rows), u"BEECH", beech)));
     module1().pid_actual = 1;
     module1().proyecto_actual = u"shed";
     screen<Form2>().txt_name[0].text = u"shed";

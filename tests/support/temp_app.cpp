@@ -19,6 +19,10 @@ std::string bytes_of(const fs::path& file) {
     return bytes.str();
 }
 
+fs::path golden(const std::string& name) {
+    return fs::path(TEST_GOLDEN_DIR) / name;
+}
+
 namespace {
 
 fs::path new_folder() {

@@ -13,6 +13,8 @@ namespace twk::test {
 
 /// All bytes of a file; none when it cannot be read.
 std::string bytes_of(const std::filesystem::path& file);
+/// A file or folder of tests/golden.
+std::filesystem::path golden(const std::string& name);
 
 /// An application folder of its own for a test: fresh, empty stores, the delivered files, a scripted desktop,
 /// a clock that stands at 24 November 2026, 10:18:05, and the fixed seed 1. All of it goes with the object.
@@ -39,7 +41,7 @@ class TempApp {
     Database synonyms() const;
     /// Runs statements as they are, whatever the program would say to them: past its own way to a store.
     void run(const Text& statement, TextView store = u"hive.mdb") const;
-    void run_unfenced(const std::string& sql) const { run(from_utf8(sql)); }
+    void run(const std::string& sql) const { run(from_utf8(sql)); }
     /// First column named `column` of the first row, empty when there is none.
     Text value(const Text& statement, TextView column) const;
     /// What a statement finds in the project store, or in `synonyms` of the other: columns parted by ",",
