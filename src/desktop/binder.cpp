@@ -2,13 +2,19 @@
 #include "desktop/binder.h"
 
 #include "desktop/control_links.h"
+#include "desktop/field_manners.h"
+#include "desktop/file_drop.h"
 #include "desktop/form_keys.h"
 #include "desktop/form_manners.h"
+#include "desktop/list_manners.h"
+#include "desktop/page_tabs.h"
 #include "desktop/widget_events.h"
 
 #include <QGuiApplication>
+#include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
+#include <QSlider>
 #include <QTimer>
 #include <QWidget>
 #include <deque>
@@ -57,7 +63,13 @@ void forget(const ScreenBinding& binding, const ScreenMap::Control& control, std
 
 ScreenBinding::ScreenBinding(Screen& screen, QWidget& form) : screen_(&screen) {
     for (auto* button : form.findChildren<QPushButton*>()) button->setAutoDefault(false);
+    for (auto* list : form.findChildren<QListWidget*>()) new ListManners(*this, form, *list);
     bind_controls(form);
+    for (auto* button : form.findChildren<QPushButton*>()) browse_by(*button, *this, form);
+    for (auto* tabs : form.findChildren<PageTabs*>())
+        if (auto* slider = form.findChild<QSlider*>(tabs->property("follows").toString()))
+            tabs->follow(*slider);
+    new FileDrop(*this, form);
     new FormKeys(*this, form);
     new FormManners(*this, form);
     check_events();

@@ -4,6 +4,7 @@
 #include "desktop/binder.h"
 #include "desktop/browser.h"
 #include "desktop/control_watch.h"
+#include "desktop/field_manners.h"
 #include "desktop/qt_text.h"
 #include "desktop/tool_tips.h"
 #include "desktop/widget_events.h"
@@ -107,6 +108,7 @@ bool link_line(const ControlLink<TextBox>& link, QLineEdit& line) {
         link.control.text.from_user(from_qt(text));
         link.binding.act(link.name, "Change");
     });
+    if (link.control.take_lines) new LinePaste(link.binding, line, link.control.take_lines);
     show_full_text(line, [&line](QPoint) {
         return line.fontMetrics().horizontalAdvance(line.text()) > line.width() ? line.text() : QString();
     });
@@ -211,12 +213,11 @@ bool link(const ControlLink<Slider>& link) {
     if (slider == nullptr) return false;
     slider->setRange(link.control.minimum, link.control.maximum);
     watch_control(link, {Prop::value}, [slider, &control = link.control](Prop changed) {
-        if (changed != Prop::value) return;
-        const QSignalBlocker quiet(slider);
-        slider->setValue(control.value());
+        if (changed == Prop::value) slider->setValue(control.value());
     });
     QObject::connect(slider, &QSlider::valueChanged, &link.binding, [link](int value) {
-        if (link.binding.screen() == nullptr) return;
+        // What the screen has set itself is no change of the user's.
+        if (link.binding.screen() == nullptr || link.control.value() == value) return;
         link.control.value.from_user(value);
         link.binding.act(link.name, "Change");
     });

@@ -8,6 +8,9 @@
 
 namespace twk {
 
+/// An entry shows no more of what it brings back: that may be a whole content box.
+static constexpr int most_columns = 50;
+
 EditMenu::EditMenu(std::function<ScreenWindow*()> front, QWidget* parent)
     : QMenu(tr("Edit"), parent), front_(std::move(front)), undo_(addAction(tr("Undo Delete"))) {
     setObjectName(QStringLiteral("edit"));
@@ -24,7 +27,11 @@ void EditMenu::show_what() {
     const Screen* const screen = window != nullptr ? window->screen() : nullptr;
     const bool any = screen != nullptr && screen->deletions != nullptr && !screen->deletions->empty();
     QString what = tr("Undo Delete");
-    if (any) what += tr(" of ") + to_qt(screen->deletions->description()).replace(u'&', QStringLiteral("&&"));
+    if (any)
+        what += tr(" of ") + fontMetrics()
+                                 .elidedText(to_qt(screen->deletions->description()).simplified(),
+                                             Qt::ElideMiddle, fontMetrics().averageCharWidth() * most_columns)
+                                 .replace(u'&', QStringLiteral("&&"));
     undo_->setText(what);
     undo_->setEnabled(any);
 }

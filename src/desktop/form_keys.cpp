@@ -101,8 +101,6 @@ QPushButton* FormKeys::button_for(const QWidget& field) const {
     return nullptr;
 }
 
-/// Presses a button without the mouse: what had the focus is left first. The focus goes back afterwards,
-/// unless the screen has sent it elsewhere.
 void FormKeys::press(QAbstractButton& button, QWidget* back_to) {
     if (!can_be_pressed(&button)) return;
     const QPointer<QAbstractButton> pressed(&button);

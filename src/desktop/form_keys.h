@@ -22,10 +22,13 @@ class FormKeys : public QObject {
     FormKeys(ScreenBinding& binding, QWidget& form);
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+    /// Presses a button without the mouse: what had the focus is left first. The focus goes to `back_to`
+    /// afterwards, unless the screen has sent it elsewhere. Nothing happens when it cannot be pressed.
+    static void press(QAbstractButton& button, QWidget* back_to = nullptr);
+
   private:
     bool enter();
     QPushButton* button_for(const QWidget& field) const;
-    void press(QAbstractButton& button, QWidget* back_to = nullptr);
 
     ScreenBinding& binding_;
     QWidget& form_;

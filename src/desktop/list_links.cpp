@@ -117,6 +117,7 @@ bool link(const ControlLink<ListBox>& link) {
         if (changed == Prop::list || changed == Prop::list_index) show_current(*list, box.list_index());
         if (anew) show_marks(*list, box, 0, box.list_count());
         if (changed == Prop::selection) show_marks(*list, box, box.last_change().at, 1);
+        if (changed == Prop::notes) list->viewport()->update();
     });
     link_list(link, *list, [list, &box] {
         take_selection(*list, box);

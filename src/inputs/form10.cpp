@@ -23,6 +23,9 @@ void Form10::enumerate(ScreenMap& map) {
     map.control("Command4", Command4);
     map.control("Command5", Command5);
     map.control("Command1", Command1);
+    map.control("lbl_format", lbl_format);
+    map.control("lbl_example", lbl_example);
+    map.event("Text1", "Change", [this] { show_example(); });
     map.control("Data1", Data1);
     map.control("MSFlexGrid1", MSFlexGrid1);
     map.event("List1", "Click", [this] { List1_Click(); });
@@ -49,6 +52,7 @@ void Form10::refrescar_sinonimos() {
         List1.add_item(row.Fields(u"keyword").text());
     Text1.text = u"";
     Text2.text = u"";
+    show_example();
 }
 
 void Form10::List1_Click() {
@@ -62,6 +66,7 @@ void Form10::List1_Click() {
             Text1.text = synonyms.text();
         }
     }
+    show_example();
 }
 
 void Form10::Command1_Click() {
@@ -88,6 +93,10 @@ void Form10::Command4_Click() {
 
 void Form10::Command5_Click() {
     mostrar_ayuda(u"form10");
+}
+
+void Form10::show_example() {
+    lbl_example.caption = synonym_example(List1.text(), Text1.text());
 }
 
 } // namespace twk

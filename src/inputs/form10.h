@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "inputs/synonym_example.h"
 #include "platform/screens.h"
 #include "store/database.h"
 
@@ -28,6 +29,9 @@ class Form10 {
     Label Data1;      ///< laid out, used by nothing
     Grid MSFlexGrid1; ///< likewise
 
+    Label lbl_format{Text(synonym_format)};
+    Label lbl_example{synonym_example({}, {})}; ///< of the entry as typed
+
     void enumerate(ScreenMap& map);
     void Form_Load();
     void Form_Unload();
@@ -39,6 +43,8 @@ class Form10 {
     void Command3_Click();
     void Command4_Click();
     void Command5_Click();
+
+    void show_example();
 
   private:
     Database synonyms_;

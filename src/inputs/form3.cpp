@@ -28,6 +28,8 @@ constexpr int no_index = 100;
 Form3::Form3() {
     List1.multi_select = true;
     List2.multi_select = true;
+    Text1.take_lines = [this](const Text& lines) { add_keywords(lines); };
+    Text2.take_lines = [this](const Text& lines) { add_subkeywords(lines); };
     Frame2.visible = false;
     Frame4.visible = false;
     Cmb_separator.enabled = false;

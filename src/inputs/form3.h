@@ -132,6 +132,13 @@ class Form3 {
 
     /// Adds a keyword as if typed.
     void agregar_keyword(TextView word);
+    /// Adds each line of a text as a keyword, or as a subkeyword, as if typed. Those that are refused are
+    /// told in one message.
+    void add_keywords(const Text& lines);
+    void add_subkeywords(const Text& lines);
+    /// Chooses a file to import in the panel for it.
+    static constexpr TextView taken_files = u".exp .txt";
+    void take_file(const Text& path);
     /// Lists a keyword that another screen has stored.
     void list_keyword(const Text& word);
 
@@ -174,6 +181,7 @@ class Form3 {
     std::vector<StoredRow> delete_ties_and_row(std::int16_t key, const Text& word);
     static void clear_selection(ListBox& list);
 
+    void add_lines(const Text& lines, TextBox& box, void (Form3::*add)(), TextView what);
     void llenar_proyectos();
     /// What a frame has been opened for.
     struct Move {

@@ -47,6 +47,8 @@ Text wrapped(TextView tag, const Text& text) {
 
 Form5::Form5() {
     lbl_unsaved.visible = false;
+    tmr_live.interval = 250;
+    List1.note = [this](int box) { return note_of(box); };
     Text2.read_only = true;
     Text3.read_only = true;
     List1.full_text = [this](int box) { return at(caja_texto, box); };
@@ -113,6 +115,8 @@ void Form5::Form_Unload() {
 
 void Form5::refrescar_cajas() {
     List1.clear();
+    words_.fill(-1);
+    read_ties();
     int n = 0;
     for (const auto row : base_datos_.OpenRecordset(statements::boxes_of(module1().pid_actual))) {
         const Text text = row.Fields(u"content").text();
@@ -121,6 +125,17 @@ void Form5::refrescar_cajas() {
         List1.add_item(to_text(++n) + u". " + Trim(Left(text, 70)) + u" ... ");
     }
     rt1.text = u"";
+}
+
+void Form5::read_ties() {
+    tied_to_.clear();
+    std::map<std::int64_t, Text> keywords; // by key
+    for (const Text& entry : lstkeyword.entries())
+        keywords[key_of(entry)] = Mid(entry, InStr(entry, u"-") + 1);
+    for (const auto row :
+         base_datos_.OpenRecordset({u"select * from ties where pid = {}", module1().pid_actual}))
+        if (const auto known = keywords.find(row.Fields(u"keyid").key()); known != keywords.end())
+            tied_to_[row.Fields(u"cid").key()].push_back(known->second);
 }
 
 void Form5::List1_Click() {
@@ -238,6 +253,8 @@ void Form5::Command8_Click() {
 
 void Form5::show_unsaved() {
     lbl_unsaved.visible = rt1.text() != RTAux;
+    tmr_live.enabled = true;
+    List1.renew_notes();
 }
 
 void Form5::Command11_Click() {
@@ -306,6 +323,8 @@ void Form5::cmdtie_Click() {
         }
     base_datos_.Execute(
         {u"insert into ties ( pid , keyid , cid  ) values ( {} , {} , {}  ) ", pid, keyid, cid});
+    read_ties();
+    List1.renew_notes();
     MsgBox(u"Keyword and Content selected has been tied");
 }
 
@@ -377,6 +396,8 @@ void Form5::enumerate(ScreenMap& map) {
     map.control("Label1", Label1);
     map.control("rt1", rt1);
     map.control("lbl_unsaved", lbl_unsaved);
+    map.control("lbl_live", lbl_live);
+    map.control("tmr_live", tmr_live);
     map.control("List1", List1);
     map.control("Command2", Command2);
     map.control("Command5", Command5);
@@ -403,6 +424,7 @@ void Form5::enumerate(ScreenMap& map) {
     map.control("Label3", Label3);
     map.control("CommonDialog1", CommonDialog1);
     map.event("rt1", "Change", [this] { show_unsaved(); });
+    map.event("tmr_live", "Timer", [this] { tmr_live_Timer(); });
     map.event("List1", "Click", [this] { List1_Click(); });
     map.event("Command1", "Click", [this] { Command1_Click(); });
     map.event("Command2", "Click", [this] { Command2_Click(); });

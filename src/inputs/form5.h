@@ -10,6 +10,8 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
+#include <vector>
 
 namespace twk {
 
@@ -29,6 +31,8 @@ class Form5 {
         u"(Ctrl + V) from other sources. <html tags> are allowed. "};
     RichTextBox rt1;                     ///< the box editor
     Label lbl_unsaved{u"Not saved yet"}; ///< shown while the editor differs from the box
+    Label lbl_live;                      ///< words and keywords of the editor, counted while one types
+    Timer tmr_live;                      ///< counts them once the keys rest
     ListBox List1;                       ///< the project's boxes
     CommandButton Command2{u"Add"};
     CommandButton Command5{u"Save"};
@@ -81,6 +85,15 @@ class Form5 {
     /// Tells beside the editor whether it holds changes that no box has; after every write to the editor.
     void show_unsaved();
 
+    static constexpr TextView taken_files = u".txt .htm .html";
+    /// Puts the text of a file behind what the editor holds.
+    void take_file(const Text& path);
+
+    /// Counts the editor's words and keywords as the critic does, and changes nothing else.
+    void tmr_live_Timer();
+    /// What is told below a box of the list: its words, its ties, and whether the editor holds changes to it.
+    Text note_of(int box);
+
     /// Judges the box in the editor, and cleans its text there.
     void criticar();
 
@@ -91,11 +104,17 @@ class Form5 {
     Text RTAux; ///< text of the box as last saved or selected
 
   private:
+    std::array<int, max_boxes> words_{};                ///< of each box, -1 until counted
+    std::map<std::int64_t, std::vector<Text>> tied_to_; ///< the keywords of a box, by its key
     void fill_table();
     void delete_box(int index, UndoStack::Command& command);
     bool restore_box(const std::vector<StoredRow>& rows);
     /// Text of the box that the entry of `lstkeyword` is tied to, empty for none.
     Text tied_text(const Text& keyword);
+    /// Reads which keywords are tied to which box.
+    void read_ties();
+    /// Row of the last keyword that the critic looks at.
+    int last_judged() const;
     void write_content(Recordset& row);
     void import_boxes(const Text& project);
 

@@ -22,6 +22,9 @@ void Form8::enumerate(ScreenMap& map) {
     map.control("Command2", Command2);
     map.control("Command3", Command3);
     map.control("Command1", Command1);
+    map.control("lbl_format", lbl_format);
+    map.control("lbl_example", lbl_example);
+    map.event("Text1", "Change", [this] { show_example(); });
     map.event("Command1", "Click", [this] { Command1_Click(); });
     map.event("Command2", "Click", [this] { Command2_Click(); });
     map.event("Command3", "Click", [this] { Command3_Click(); });
@@ -57,6 +60,7 @@ void Form8::show_keyword() {
         const Field synonyms = row.Fields(u"synonyms");
         Text1.text = synonyms.is_null() ? Text() : synonyms.text();
     }
+    show_example();
 }
 
 void Form8::Form_Unload() {
@@ -80,6 +84,11 @@ void Form8::Command3_Click() {
     synonyms_.Execute(
         {u"delete from synonyms  where keyword = '{}' and synonyms  = '{}' ", Trim(keyword_), Text1.text()});
     Text1.text = u"";
+    show_example();
+}
+
+void Form8::show_example() {
+    lbl_example.caption = synonym_example(keyword_, Text1.text());
 }
 
 } // namespace twk

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "inputs/synonym_example.h"
 #include "platform/screens.h"
 #include "store/database.h"
 
@@ -20,6 +21,9 @@ class Form8 {
     CommandButton Command3{u"Delete"};
     CommandButton Command1{u"Exit - Go Back"};
 
+    Label lbl_format{Text(synonym_format)};
+    Label lbl_example{synonym_example({}, {})}; ///< of the entry as typed
+
     void enumerate(ScreenMap& map);
     void Form_Load();
     /// Shows the keyword that is selected in Step 2 now; text typed for that very one stays.
@@ -28,6 +32,8 @@ class Form8 {
     void Command1_Click();
     void Command2_Click();
     void Command3_Click();
+
+    void show_example();
 
   private:
     void show_keyword();

@@ -216,6 +216,11 @@ void FileListBox::refresh() {
     if (!path_.empty()) set_path(path_);
 }
 
+int FileListBox::place_of(const Text& file) const {
+    const auto at = std::find(entries_.begin(), entries_.end(), file);
+    return at == entries_.end() ? -1 : static_cast<int>(at - entries_.begin());
+}
+
 const Text& FileListBox::list(int index) const {
     return entry(entries_, index);
 }

@@ -22,6 +22,7 @@ enum class Prop {
     list,       ///< entries of a list, or of a file or folder list
     list_index, ///< the current entry, -1 for none
     selection,  ///< marks of a list in which several entries can be chosen
+    notes,      ///< what is told beside the entries of a list
     path,
     pattern,
     focus, ///< the control has been given the focus
@@ -122,6 +123,8 @@ struct TextBox {
     Property<bool> enabled{observer, Prop::enabled, true};
     Property<bool> visible{observer, Prop::visible, true};
     bool read_only = false;
+    /// Takes several lines that are put into the box at once, where the screen has a way; may be empty.
+    std::function<void(const Text&)> take_lines;
     void set_focus() { observer(Prop::focus); }
 };
 
@@ -180,6 +183,9 @@ struct ListBox {
     bool tick_marks = false;
     /// The text that an entry stands for, where that is more than the entry; may be empty.
     std::function<Text(int)> full_text;
+    /// A few words told below an entry; may be empty. Whoever changes what it gives tells by `renew_notes`.
+    std::function<Text(int)> note;
+    void renew_notes() const { observer(Prop::notes); }
 
     int list_count() const { return static_cast<int>(entries_.size()); }
     /// Entry at the index; an empty text outside the list.
@@ -305,6 +311,8 @@ struct FileListBox {
     const Text& pattern() const { return pattern_; }
     void set_pattern(Text pattern);
     void refresh();
+    /// Place of a file by its name, -1 when it is not in the list.
+    int place_of(const Text& file) const;
     int list_count() const { return static_cast<int>(entries_.size()); }
     const Text& list(int index) const;
     const std::vector<Text>& entries() const { return entries_; }

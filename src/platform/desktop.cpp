@@ -5,11 +5,27 @@
 
 namespace twk {
 
+namespace {
+
+/// The one that hears messages; null for none.
+HeldMessages* holder = nullptr;
+
+} // namespace
+
 void Desktop::wait(std::chrono::milliseconds time, const std::function<bool()>&) {
     clock().sleep(time);
 }
 
+HeldMessages::HeldMessages() : before_(std::exchange(holder, this)) {}
+HeldMessages::~HeldMessages() {
+    holder = before_;
+}
+
 Answer MsgBox(const Text& text) {
+    if (holder != nullptr) {
+        holder->held_.push_back(text);
+        return Answer::ok;
+    }
     return desktop().MsgBox({.text = text});
 }
 

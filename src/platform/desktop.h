@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace twk {
@@ -124,6 +125,23 @@ Answer ask_before_loss(const Text& text, Buttons buttons, const Text& title, con
 void DoEvents();
 /// Tells what has just been done, in the status bar of the window.
 void say(const Text& what);
+
+/// Keeps messages that ask nothing from the user as long as it lives, for one summary in their place.
+/// Questions are asked. Of several the newest hears them.
+class HeldMessages {
+  public:
+    HeldMessages();
+    ~HeldMessages();
+    HeldMessages(const HeldMessages&) = delete;
+    HeldMessages& operator=(const HeldMessages&) = delete;
+    /// Those since the last call.
+    std::vector<Text> take() { return std::exchange(held_, {}); }
+
+  private:
+    friend Answer MsgBox(const Text& text);
+    std::vector<Text> held_;
+    HeldMessages* before_;
+};
 
 /// The folder of the running program, without a separator at its end.
 const Text& app_path();

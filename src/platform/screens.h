@@ -77,12 +77,14 @@ struct Screen {
     bool visible = false;
     ScreenMap map;
     std::shared_ptr<void> instance;
-    std::function<void()> unload_event;   ///< Form_Unload, empty when the screen has none
-    std::function<void()> activate_event; ///< Form_Activate, likewise
-    const UndoStack* deletions = nullptr; ///< what the screen has deleted; null for most
-    std::function<void()> undo_event;     ///< takes the newest of them back
-    void* front_end = nullptr;            ///< the window that shows it, owned by the front end
-    int holders = 0;                      ///< those that need it open, see `Screens::Hold`
+    std::function<void()> unload_event;         ///< Form_Unload, empty when the screen has none
+    std::function<void()> activate_event;       ///< Form_Activate, likewise
+    const UndoStack* deletions = nullptr;       ///< what the screen has deleted; null for most
+    std::function<void()> undo_event;           ///< takes the newest of them back
+    TextView taken_files;                       ///< endings of files that can be dropped on it: ".exp .txt"
+    std::function<void(const Text&)> take_file; ///< takes such a file by its path
+    void* front_end = nullptr;                  ///< the window that shows it, owned by the front end
+    int holders = 0;                            ///< those that need it open, see `Screens::Hold`
 };
 
 /// The screens: one default instance of each class, made and loaded by the first reference.
@@ -92,7 +94,10 @@ struct Screen {
 ///   static constexpr TextView title = u"Step 5 of 6 - Gateway Generation";   the caption at load
 ///   void enumerate(ScreenMap& map);   tells its controls and events, once
 /// and, where it needs them, Form_Load(), Form_Unload() and Form_Activate(); a screen whose deletions can be
-/// taken back has them in `UndoStack deletions` and takes the newest back in undo_delete().
+/// taken back has them in `UndoStack deletions` and takes the newest back in undo_delete(). One that files
+/// may be dropped on says
+///   static constexpr TextView taken_files = u".exp .txt";
+/// and has take_file(path).
 /// A loaded screen is visible: loading shows it, unless the class says
 ///   static constexpr bool shown_when_loaded = false;
 /// A screen unloaded while an event runs leaves the registry at once and is destroyed when the outermost
@@ -254,6 +259,10 @@ template <class S> Screen& Screens::load(const Running&) {
     if constexpr (requires { form.undo_delete(); }) {
         made->deletions = &form.deletions;
         made->undo_event = [&form] { form.undo_delete(); };
+    }
+    if constexpr (requires { S::taken_files; }) { // cppcheck-suppress duplicateCondition ; no such thing
+        made->taken_files = S::taken_files;
+        made->take_file = [&form](const Text& path) { form.take_file(path); };
     }
     Screen& entered = enter(std::move(made));
     try {

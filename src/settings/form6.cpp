@@ -177,6 +177,11 @@ void Form6::Command3_Click() {
     tomar_de_dat(*this, CommonDialog1.file_name);
 }
 
+void Form6::take_file(const Text& path) {
+    tomar_de_dat(*this, path);
+    say(u"Settings loaded from " + path);
+}
+
 void Form6::Command4_Click() {
     CommonDialog1.flags = 1;
     CommonDialog1.init_dir = app_path();

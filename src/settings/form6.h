@@ -136,6 +136,10 @@ class Form6 {
     ShownReport report{*this};  ///< and what it tells
     std::unique_ptr<Run> run;   ///< state of the run under way or of the last one
 
+    static constexpr TextView taken_files = u".dat";
+    /// Loads the settings of a file.
+    void take_file(const Text& path);
+
     void enumerate(ScreenMap& map);
     void Form_Load();
     void Form_Unload();

@@ -26,7 +26,8 @@ std::map<int, int> rows_by_project(Database& store, StatementName table) {
     return count;
 }
 
-/// When the last page of a run was written, which is the local site map.
+} // namespace
+
 Text last_run_of(const Text& project) {
     const std::filesystem::path page =
         disk_path(joined_path(beside_program(u"Projects"), project, u"sitemap-do-not-upload.htm"));
@@ -41,8 +42,6 @@ Text last_run_of(const Text& project) {
     std::strftime(text, sizeof text, "%Y-%m-%d %H:%M", &local);
     return from_utf8(text);
 }
-
-} // namespace
 
 std::vector<ProjectLine> project_lines() {
     Database store = open_hive();

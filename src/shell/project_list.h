@@ -18,6 +18,10 @@ struct ProjectLine {
 /// Name of the project that the store is delivered with.
 inline constexpr TextView sample_project = u"garden-sample";
 
+/// When the last page of the project's last run was written, which is the local site map; empty when it is
+/// not there.
+Text last_run_of(const Text& project);
+
 /// All projects in the order of the store. The faults of the store.
 std::vector<ProjectLine> project_lines();
 

@@ -13,6 +13,7 @@
 #include "shell/form1.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
+#include "shell/project_list.h"
 #include "store/statements.h"
 #include "store/stores.h"
 
@@ -142,6 +143,12 @@ void judge_run(WizardState& state) {
     const bool ready = std::all_of(state.steps.begin(), state.steps.begin() + 4,
                                    [](const WizardStep& each) { return each.state == StepState::done; });
     if (ready) state.steps[4].detail = u"ready";
+    // A run that was done before this screen was opened, or before the program was started.
+    const bool broken_off = form != nullptr && form->run != nullptr;
+    if (const Text last = last_run_of(state.project); ready && !broken_off && !last.empty()) {
+        state.steps[4].state = StepState::done;
+        state.steps[4].detail = u"run " + last;
+    }
     if (form != nullptr && !form->Check9.value()) state.steps[5].detail = u"left out";
 }
 

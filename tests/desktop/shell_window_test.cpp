@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/qt_text.h"
 #include "desktop/rail.h"
+#include "desktop/user_settings.h"
 #include "support/every_screen.h"
 #include "support/sample_project.h"
 #include "user.h"
 
 #include <QAction>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabBar>
@@ -56,6 +59,8 @@ TEST_F(Shell, StartListsTheProjectsAndOpensOneByEnter) {
     EXPECT_EQ(part<QLabel>("rail_project")->text().toStdString(), "shed");
     EXPECT_TRUE(part<RailEntry>("rail_step_2")->accessibleName().contains(QStringLiteral("3 keywords")));
     EXPECT_EQ(qt.window().statusBar()->currentMessage().toStdString(), "Project shed opened");
+    EXPECT_EQ(part<QLabel>("status_project")->text().toStdString(), "shed");
+    EXPECT_EQ(last_project().toStdString(), "shed") << "selected at the next start";
 }
 
 TEST_F(Shell, LoadedStepsAreReachedByTheRailAndByKeys) {
@@ -90,6 +95,29 @@ TEST_F(Shell, EscClosesSideScreensAndCtrlF4WhateverIsInFront) {
     EXPECT_FALSE(screens().is_loaded<Form2>());
     EXPECT_EQ(front(), "");
     EXPECT_TRUE(part<QTreeWidget>("start_projects")->isVisible());
+}
+
+TEST_F(Shell, NoScreenNeedsAScrollBarInASmallWindow) {
+    qt.window().resize(1024, 640);
+    test::show_every_screen();
+    screens().dispatch([] {
+        for (Frame* each : {&screen<Form3>().Frame1, &screen<Form3>().Frame2, &screen<Form3>().Frame3,
+                            &screen<Form17>().Frame1, &screen<Form17>().Frame2, &screen<Form20>().Frame4})
+            each->visible = true;
+    });
+    for (ScreenWindow* window : qt.window().windows()) {
+        window->open();
+        const auto* const area = static_cast<QScrollArea*>(window->layout()->itemAt(0)->widget());
+        QSize lacking;
+        const bool fits = QTest::qWaitFor(
+            [&] {
+                lacking = area->widget()->size() - area->viewport()->size();
+                return lacking.width() <= 0 && lacking.height() <= 0;
+            },
+            300);
+        EXPECT_TRUE(fits) << window->objectName().toStdString() << " lacks " << lacking.width() << " by "
+                          << lacking.height();
+    }
 }
 
 TEST_F(Shell, ThePanelOpenedLastIsInFrontAndTheFocusBringsAnotherForward) {
