@@ -19,10 +19,6 @@ constexpr TextView terms =
 
 } // namespace
 
-void disclaimer::enumerate(ScreenMap& map) {
-    map.control("RichTextBox1", RichTextBox1);
-}
-
 void disclaimer::Form_Load() {
     RichTextBox1.read_only = true;
     RichTextBox1.text = Text(terms);

@@ -11,9 +11,10 @@ class disclaimer {
     static constexpr const char* name = "disclaimer";
     static constexpr TextView title = u"Disclaimer";
 
-    RichTextBox RichTextBox1;
+    ScreenMap map; ///< the controls below enter themselves
 
-    void enumerate(ScreenMap& map);
+    TWK_CONTROL(RichTextBox, RichTextBox1);
+
     void Form_Load();
 };
 

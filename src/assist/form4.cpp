@@ -6,21 +6,9 @@
 namespace twk {
 
 void Form4::enumerate(ScreenMap& map) {
-    map.controls("Frame1", Frame1);
-    map.controls("Text1", Text1);
-    map.controls("Label2", Label2);
-    map.control("Command7", Command7);
-    map.control("Command3", Command3);
-    map.control("Command1", Command1);
-    map.event("Command1", "Click", [this] { Command1_Click(); });
+    map.events<&Form4::Command1_Click>(*this);
 }
 
-void Form4::Form_Load() {
-    marcar_forma(4, true);
-}
-void Form4::Form_Unload() {
-    marcar_forma(4, false);
-}
 void Form4::Command1_Click() {
     screens().unload<Form4>();
 }

@@ -12,20 +12,20 @@ class Form4 {
   public:
     static constexpr const char* name = "Form4";
     static constexpr TextView title = u"Template Editor / Properties";
+    static constexpr bool marked = true;
     static constexpr std::size_t frames = 3;
 
-    std::array<Frame, frames> Frame1{Frame{u"Element Properties"}, Frame{u"Element Properties"},
-                                     Frame{u"Element Properties"}};
-    std::array<TextBox, frames> Text1;
-    std::array<Label, frames> Label2{Label{u"<!--LinksToPrimary-->"}, Label{u"<!--LinksToPrimary-->"},
-                                     Label{u"<!--LinksToPrimary-->"}};
-    CommandButton Command7{u"Help"};
-    CommandButton Command3{u"Next"};
-    CommandButton Command1{u"Cancel"};
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROLS(Frame, frames, Frame1, u"Element Properties", u"Element Properties", u"Element Properties");
+    TWK_CONTROLS(TextBox, frames, Text1);
+    TWK_CONTROLS(Label, frames, Label2, u"<!--LinksToPrimary-->", u"<!--LinksToPrimary-->",
+                 u"<!--LinksToPrimary-->");
+    TWK_CONTROL(CommandButton, Command7, u"Help");
+    TWK_CONTROL(CommandButton, Command3, u"Next");
+    TWK_CONTROL(CommandButton, Command1, u"Cancel");
 
     void enumerate(ScreenMap& map);
-    void Form_Load();
-    void Form_Unload();
     void Command1_Click();
     /// Hides every frame.
     void invFrames();

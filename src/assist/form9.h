@@ -11,17 +11,18 @@ class Form9 {
   public:
     static constexpr const char* name = "Form9";
     static constexpr TextView title = u"TWK Help";
+    static constexpr bool marked = true;
 
-    WebBrowser wb1;
-    Label Label1{u"Help"};
-    Label Label5{u"Tarnwick"};
-    Label Label2{u"Visit " + Text(addresses::maker_site) + u" for updates of help.htm."};
-    PictureBox Picture1;
-    CommandButton Command1{u"Check this topic in the Online Help"};
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(WebBrowser, wb1);
+    TWK_CONTROL(Label, Label1, u"Help");
+    TWK_CONTROL(Label, Label5, u"Tarnwick");
+    TWK_CONTROL(Label, Label2, u"Visit " + Text(addresses::maker_site) + u" for updates of help.htm.");
+    TWK_CONTROL(PictureBox, Picture1);
+    TWK_CONTROL(CommandButton, Command1, u"Check this topic in the Online Help");
 
     void enumerate(ScreenMap& map);
-    void Form_Load();
-    void Form_Unload();
     void Command1_Click();
 };
 

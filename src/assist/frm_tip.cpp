@@ -15,13 +15,7 @@ constexpr TextView tip_file = u"TIPOFDAY.TXT";
 } // namespace
 
 void frmTip::enumerate(ScreenMap& map) {
-    map.control("Label1", Label1);
-    map.control("lblTipText", lblTipText);
-    map.control("Picture1", Picture1);
-    map.control("cmdNextTip", cmdNextTip);
-    map.control("cmdOK", cmdOK);
-    map.event("cmdNextTip", "Click", [this] { cmdNextTip_Click(); });
-    map.event("cmdOK", "Click", [this] { cmdOK_Click(); });
+    map.events<&frmTip::cmdNextTip_Click, &frmTip::cmdOK_Click>(*this);
 }
 
 void frmTip::Form_Load() {

@@ -14,11 +14,13 @@ class frmTip {
     static constexpr const char* name = "frmTip";
     static constexpr TextView title = u"Tip of the Day";
 
-    Label Label1{u"Did you know..."};
-    Label lblTipText;
-    PictureBox Picture1;
-    CommandButton cmdNextTip{u"&Next Tip"};
-    CommandButton cmdOK{u"OK"};
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(Label, Label1, u"Did you know...");
+    TWK_CONTROL(Label, lblTipText);
+    TWK_CONTROL(PictureBox, Picture1);
+    TWK_CONTROL(CommandButton, cmdNextTip, u"&Next Tip");
+    TWK_CONTROL(CommandButton, cmdOK, u"OK");
 
     std::vector<Text> tips;
     std::int32_t tip_actual = 0; ///< 1 for the first

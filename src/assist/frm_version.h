@@ -12,12 +12,15 @@ class frmVersion {
     static constexpr const char* name = "frmVersion";
     static constexpr TextView title = u"About";
 
-    PictureBox Picture1, Picture2;
-    Label Label10{u"Date of this version:     09 - 22 - 2003"};
-    Label Label2{u"Programmers:\nEleanor Marsh\nTomas Ibarra\nPriya Nandakumar"};
-    Label Label5{u"Thanks for your support and suggestions: support@tarnwick.example"};
-    Label Label4{Text(addresses::maker_site)};
-    CommandButton Command1{u"Close"};
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(PictureBox, Picture1);
+    TWK_CONTROL(PictureBox, Picture2);
+    TWK_CONTROL(Label, Label10, u"Date of this version:     09 - 22 - 2003");
+    TWK_CONTROL(Label, Label2, u"Programmers:\nEleanor Marsh\nTomas Ibarra\nPriya Nandakumar");
+    TWK_CONTROL(Label, Label5, u"Thanks for your support and suggestions: support@tarnwick.example");
+    TWK_CONTROL(Label, Label4, Text(addresses::maker_site));
+    TWK_CONTROL(CommandButton, Command1, u"Close");
 
     void enumerate(ScreenMap& map);
     void Command1_Click();

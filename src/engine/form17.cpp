@@ -14,7 +14,6 @@ namespace twk {
 
 namespace {
 
-constexpr int screen_number = 17;
 constexpr TextView list_ending = u".fnm";
 
 /// Names and hosts as a list file: a name a line, everything else a comment.
@@ -94,7 +93,6 @@ void load_list(Form17& form, const std::vector<Text>& saved) {
 } // namespace
 
 void Form17::Form_Load() {
-    marcar_forma(screen_number, true);
     Frame1.visible = false;
     Frame2.visible = false;
     Text1.text = u"";
@@ -105,7 +103,6 @@ void Form17::Form_Activate() {
 }
 
 void Form17::Form_Unload() {
-    marcar_forma(screen_number, false);
     module1().paso6_cancelado = u"1"; // even when the run unloads it after a good pass
 }
 
@@ -200,46 +197,11 @@ void Form17::Command9_Click() {
 }
 
 void Form17::enumerate(ScreenMap& map) {
-    map.control("Label46", Label46);
-    map.control("Label1", Label1);
-    map.control("List1", List1);
-    map.control("List2", List2);
-    map.control("Label2", Label2);
-    map.control("Label3", Label3);
-    map.control("Text1", Text1);
-    map.control("Command2", Command2);
-    map.control("Command3", Command3);
-    map.control("Command4", Command4);
-    map.control("Command6", Command6);
-    map.control("Command5", Command5);
-    map.control("Command1", Command1);
-    map.control("Command9", Command9);
-    map.control("Frame1", Frame1);
-    map.control("lbl_find", lbl_find);
-    map.control("lbl_replace", lbl_replace);
-    map.control("Text2", Text2);
-    map.control("Text3", Text3);
-    map.control("Command8", Command8);
-    map.control("Command7", Command7);
-    map.control("Frame2", Frame2);
-    map.control("Label7", Label7);
-    map.control("lbl_help_names", lbl_help_names);
-    map.control("lbl_help_lists", lbl_help_lists);
-    map.control("lbl_help_replace", lbl_help_replace);
-    map.control("Command11", Command11);
-    map.control("CommonDialog1", CommonDialog1);
-    map.event("List1", "Click", [this] { List1_Click(); });
-    map.event("Command1", "Click", [this] { Command1_Click(); });
-    map.event("Command2", "Click", [this] { Command2_Click(); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
-    map.event("Command4", "Click", [this] { Command4_Click(); });
-    map.event("Command5", "Click", [this] { Command5_Click(); });
-    map.event("Command6", "Click", [this] { Command6_Click(); });
-    map.event("Command7", "Click", [this] { Command7_Click(); });
-    map.event("Command8", "Click", [this] { Command8_Click(); });
-    map.event("Command9", "Click", [this] { Command9_Click(); });
-    map.event("Command11", "Click", [this] { Command11_Click(); });
     map.event("Form", "QueryUnload", [this] { Command9_Click(); });
+    map.events<&Form17::List1_Click, &Form17::Command1_Click, &Form17::Command2_Click,
+               &Form17::Command3_Click, &Form17::Command4_Click, &Form17::Command5_Click,
+               &Form17::Command6_Click, &Form17::Command7_Click, &Form17::Command8_Click,
+               &Form17::Command9_Click, &Form17::Command11_Click>(*this);
 }
 
 } // namespace twk

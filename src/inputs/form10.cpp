@@ -8,42 +8,15 @@
 
 namespace twk {
 
-namespace {
-
-constexpr int screen_number = 10;
-
-} // namespace
-
 void Form10::enumerate(ScreenMap& map) {
-    map.control("List1", List1);
-    map.control("Text2", Text2);
-    map.control("Command2", Command2);
-    map.control("Text1", Text1);
-    map.control("Command3", Command3);
-    map.control("Command4", Command4);
-    map.control("Command5", Command5);
-    map.control("Command1", Command1);
-    map.control("lbl_format", lbl_format);
-    map.control("lbl_example", lbl_example);
     map.event("Text1", "Change", [this] { show_example(); });
-    map.control("Data1", Data1);
-    map.control("MSFlexGrid1", MSFlexGrid1);
-    map.event("List1", "Click", [this] { List1_Click(); });
-    map.event("Command1", "Click", [this] { Command1_Click(); });
-    map.event("Command2", "Click", [this] { Command2_Click(); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
-    map.event("Command4", "Click", [this] { Command4_Click(); });
-    map.event("Command5", "Click", [this] { Command5_Click(); });
+    map.events<&Form10::List1_Click, &Form10::Command1_Click, &Form10::Command2_Click,
+               &Form10::Command3_Click, &Form10::Command4_Click, &Form10::Command5_Click>(*this);
 }
 
 void Form10::Form_Load() {
-    marcar_forma(screen_number, true);
     synonyms_ = open_synonyms();
     refrescar_sinonimos();
-}
-
-void Form10::Form_Unload() {
-    marcar_forma(screen_number, false);
 }
 
 void Form10::refrescar_sinonimos() {

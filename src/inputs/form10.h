@@ -12,29 +12,31 @@ class Form10 {
   public:
     static constexpr const char* name = "Form10";
     static constexpr TextView title = u"Synonym Dictionary";
+    static constexpr bool marked = true;
 
     Form10() {
         Data1.visible = false;
         MSFlexGrid1.visible = false;
     }
 
-    ListBox List1; ///< the words, in their order
-    TextBox Text2; ///< word to add
-    CommandButton Command2{u"Add Word"};
-    TextBox Text1; ///< synonym text of the selected word
-    CommandButton Command3{u"Modify Synonym"};
-    CommandButton Command4{u"Delete Word"};
-    CommandButton Command5{u"Help"};
-    CommandButton Command1{u"Exit"};
-    Label Data1;      ///< laid out, used by nothing
-    Grid MSFlexGrid1; ///< likewise
+    ScreenMap map; ///< the controls below enter themselves
 
-    Label lbl_format{Text(synonym_format)};
-    Label lbl_example{synonym_example({}, {})}; ///< of the entry as typed
+    TWK_CONTROL(ListBox, List1); ///< the words, in their order
+    TWK_CONTROL(TextBox, Text2); ///< word to add
+    TWK_CONTROL(CommandButton, Command2, u"Add Word");
+    TWK_CONTROL(TextBox, Text1); ///< synonym text of the selected word
+    TWK_CONTROL(CommandButton, Command3, u"Modify Synonym");
+    TWK_CONTROL(CommandButton, Command4, u"Delete Word");
+    TWK_CONTROL(CommandButton, Command5, u"Help");
+    TWK_CONTROL(CommandButton, Command1, u"Exit");
+    TWK_CONTROL(Label, Data1);      ///< laid out, used by nothing
+    TWK_CONTROL(Grid, MSFlexGrid1); ///< likewise
+
+    TWK_CONTROL(Label, lbl_format, Text(synonym_format));
+    TWK_CONTROL(Label, lbl_example, synonym_example({}, {})); ///< of the entry as typed
 
     void enumerate(ScreenMap& map);
     void Form_Load();
-    void Form_Unload();
     /// Refills the list and empties both boxes.
     void refrescar_sinonimos();
     void List1_Click();

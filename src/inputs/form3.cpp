@@ -18,7 +18,6 @@ namespace twk {
 
 namespace {
 
-constexpr int screen_number = 3;
 constexpr int most_words = 20;
 /// Place of the entry to edit while none is found. An entry that stands at this very place counts as none.
 constexpr int no_index = 100;
@@ -28,6 +27,7 @@ constexpr int no_index = 100;
 Form3::Form3() {
     List1.multi_select = true;
     List2.multi_select = true;
+    op_imp[0].value = true;
     Text1.take_lines = [this](const Text& lines) { add_keywords(lines); };
     Text2.take_lines = [this](const Text& lines) { add_subkeywords(lines); };
     Frame2.visible = false;
@@ -42,7 +42,6 @@ void Form3::Form_Load() {
     Frame1.visible = false;
     Frame3.visible = false;
     silent = 0;
-    marcar_forma(screen_number, true);
     open_store();
     take_last_key(base_datos_.OpenRecordset(statements::project_named(screen<Form2>().txt_name[0].text())),
                   u"pid", pid_form);
@@ -56,10 +55,6 @@ void Form3::Form_Load() {
 void Form3::list_keywords() {
     for (const auto row : base_datos_.OpenRecordset(statements::keywords_of(pid_form)))
         List1.add_item(row.Fields(u"keyword").text());
-}
-
-void Form3::Form_Unload() {
-    marcar_forma(screen_number, false);
 }
 
 void Form3::open_store() {
@@ -361,49 +356,15 @@ void Form3::Command1_Click() {
 }
 
 void Form3::enumerate(ScreenMap& map) {
-    map.control("lbl_intro", lbl_intro);
-    map.control("lbl_keywords", lbl_keywords);
-    map.control("lbl_advice", lbl_advice);
-    map.control("Text1", Text1);
-    map.control("List1", List1);
-    map.control("Command2", Command2);
-    map.control("Command21", Command21);
-    map.control("Command7", Command7);
-    map.control("Text2", Text2);
-    map.control("List2", List2);
-    map.control("Command3", Command3);
-    map.control("Command22", Command22);
-    map.control("Command10", Command10);
-    map.control("lbl_keyw", lbl_keyw);
-    map.control("lbl_skeyw", lbl_skeyw);
-    map.control("keyw", keyw);
-    map.control("skeyw", skeyw);
-    map.control("Command8", Command8);
-    map.control("Command6", Command6);
-    map.control("cmd_wizard", cmd_wizard);
-    map.control("cmd_wizard_sub", cmd_wizard_sub);
-    map.control("Command5", Command5);
-    map.control("Command1", Command1);
-    map.event("Text1", "Click", [this] { Text1_Click(); });
     map.event("Text1", "Enter", [this] { Command2_Click(); });
-    map.event("Text2", "Change", [this] { Text2_Change(); });
     map.event("Text2", "Enter", [this] { Command3_Click(); });
-    map.event("List1", "Click", [this] { List1_Click(); });
-    map.event("List2", "Click", [this] { List2_Click(); });
-    map.event("Command2", "Click", [this] { Command2_Click(); });
-    map.event("Command21", "Click", [this] { Command21_Click(); });
-    map.event("Command7", "Click", [this] { Command7_Click(); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
-    map.event("Command22", "Click", [this] { Command22_Click(); });
-    map.event("Command10", "Click", [this] { Command10_Click(); });
-    map.event("Command8", "Click", [this] { Command8_Click(); });
-    map.event("Command6", "Click", [this] { Command6_Click(); });
-    map.event("cmd_wizard", "Click", [this] { cmd_wizard_Click(); });
-    map.event("cmd_wizard_sub", "Click", [this] { cmd_wizard_sub_Click(); });
-    map.event("Command5", "Click", [this] { Command5_Click(); });
-    map.event("Command1", "Click", [this] { Command1_Click(); });
     enumerate_moves(map);
     enumerate_lists(map);
+    map.events<&Form3::Text1_Click, &Form3::Text2_Change, &Form3::List1_Click, &Form3::List2_Click,
+               &Form3::Command2_Click, &Form3::Command21_Click, &Form3::Command7_Click,
+               &Form3::Command3_Click, &Form3::Command22_Click, &Form3::Command10_Click,
+               &Form3::Command8_Click, &Form3::Command6_Click, &Form3::cmd_wizard_Click,
+               &Form3::cmd_wizard_sub_Click, &Form3::Command5_Click, &Form3::Command1_Click>(*this);
 }
 
 } // namespace twk

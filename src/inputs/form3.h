@@ -17,6 +17,7 @@ class Form3 {
   public:
     static constexpr const char* name = "Form3";
     static constexpr TextView title = u"Step 2 of 6 - Keywords";
+    static constexpr bool marked = true;
     static constexpr int least_keywords = 3; ///< that Next lets pass, whatever its words say
     static constexpr TextView too_few_keywords = u"You must provide more than 3 keywords";
 
@@ -24,75 +25,79 @@ class Form3 {
 
     Form3();
 
-    Label lbl_keywords{u"Keywords / Keyword Phrases."};
-    Label lbl_intro{
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(Label, lbl_keywords, u"Keywords / Keyword Phrases.");
+    TWK_CONTROL(
+        Label, lbl_intro,
         u"You can create 3 kinds of gateway pages: first level (based on primary keywords),  second level "
         u"(based in subkeywords) and random (all keywords). Each type of page has different structure "
-        u"and linking profile. Use all the possible, relevant keywords."};
-    Label lbl_advice{
+        u"and linking profile. Use all the possible, relevant keywords.");
+    TWK_CONTROL(
+        Label, lbl_advice,
         u"Use Keywords or keyword phrases for important concepts and add SubKeywords to them for added "
-        u"weight."};
-    TextBox Text1; ///< keyword entry
-    ListBox List1; ///< the keywords, in store order, then in order of adding
-    CommandButton Command2{u"&Add Keyword"};
-    CommandButton Command21{u"Edit Keyword"};
-    CommandButton Command7{u"Delete &Keyword"};
-    TextBox Text2; ///< subkeyword entry
-    ListBox List2; ///< subkeywords of the selected keyword
-    CommandButton Command3{u"A&dd SubKeyword"};
-    CommandButton Command22{u"Edit SubKeyword"};
-    CommandButton Command10{u"Delete &SubKeyword"};
-    Label lbl_keyw{u"Keywords: "}, lbl_skeyw{u"Subkeywords:"};
-    Label keyw, skeyw; ///< counts of the two lists
-    CommandButton Command8{u"E&dit Synonym for this Keyword"};
-    CommandButton Command6; ///< opens the spider
-    CommandButton cmd_wizard{u"Keyword Wizard"};
-    CommandButton cmd_wizard_sub{u"Subkeyword Wizard"};
-    CommandButton Command5{u"&Next"};
-    CommandButton Command1{u"&Help"};
-    Label lbl_copy{u"Use keywords from another project?"};
-    ComboBox Combo1{u"Pick a project"};
+        u"weight.");
+    TWK_CONTROL(TextBox, Text1); ///< keyword entry
+    TWK_CONTROL(ListBox, List1); ///< the keywords, in store order, then in order of adding
+    TWK_CONTROL(CommandButton, Command2, u"&Add Keyword");
+    TWK_CONTROL(CommandButton, Command21, u"Edit Keyword");
+    TWK_CONTROL(CommandButton, Command7, u"Delete &Keyword");
+    TWK_CONTROL(TextBox, Text2); ///< subkeyword entry
+    TWK_CONTROL(ListBox, List2); ///< subkeywords of the selected keyword
+    TWK_CONTROL(CommandButton, Command3, u"A&dd SubKeyword");
+    TWK_CONTROL(CommandButton, Command22, u"Edit SubKeyword");
+    TWK_CONTROL(CommandButton, Command10, u"Delete &SubKeyword");
+    TWK_CONTROL(Label, lbl_keyw, u"Keywords: ");
+    TWK_CONTROL(Label, lbl_skeyw, u"Subkeywords:");
+    TWK_CONTROL(Label, keyw);
+    TWK_CONTROL(Label, skeyw); ///< counts of the two lists
+    TWK_CONTROL(CommandButton, Command8, u"E&dit Synonym for this Keyword");
+    TWK_CONTROL(CommandButton, Command6); ///< opens the spider
+    TWK_CONTROL(CommandButton, cmd_wizard, u"Keyword Wizard");
+    TWK_CONTROL(CommandButton, cmd_wizard_sub, u"Subkeyword Wizard");
+    TWK_CONTROL(CommandButton, Command5, u"&Next");
+    TWK_CONTROL(CommandButton, Command1, u"&Help");
+    TWK_CONTROL(Label, lbl_copy, u"Use keywords from another project?");
+    TWK_CONTROL(ComboBox, Combo1, u"Pick a project");
 
     // Moving a subkeyword
-    CommandButton Command11{u"<<"};
-    Frame Frame1{u"Move Keywords and Subkeywords"};
-    Label Label5{u"xxxxxxxxxxxxxxxxxxxxxxxxxxxx"};
-    std::array<OptionButton, 2> Option1{OptionButton{u"Move as a Keyword"},
-                                        OptionButton{u"Move as another's keyword subkeyword."}};
-    ListBox List3;
-    CommandButton Command15{u"Move this Subkeyword"};
-    CommandButton Command13{u"Cancel"};
-    CommandButton Command14{u"Help"};
+    TWK_CONTROL(CommandButton, Command11, u"<<");
+    TWK_CONTROL(Frame, Frame1, u"Move Keywords and Subkeywords");
+    TWK_CONTROL(Label, Label5, u"xxxxxxxxxxxxxxxxxxxxxxxxxxxx");
+    TWK_CONTROLS(OptionButton, 2, Option1, u"Move as a Keyword", u"Move as another's keyword subkeyword.");
+    TWK_CONTROL(ListBox, List3);
+    TWK_CONTROL(CommandButton, Command15, u"Move this Subkeyword");
+    TWK_CONTROL(CommandButton, Command13, u"Cancel");
+    TWK_CONTROL(CommandButton, Command14, u"Help");
 
     // Moving a keyword
-    CommandButton Command12{u">>"};
-    Frame Frame2{u"Move Keywords and Subkeywords"};
-    Label Label10{u"xxxxxxxxxxxxxxxxxxxxxxxxxxxx"};
-    Label lbl_pick{u"Pick a keyword from this list."};
-    ListBox List4;
-    CommandButton Command16{u"Move this Keyword"};
-    CommandButton Command18{u"Cancel"};
-    CommandButton Command17{u"Help"};
+    TWK_CONTROL(CommandButton, Command12, u">>");
+    TWK_CONTROL(Frame, Frame2, u"Move Keywords and Subkeywords");
+    TWK_CONTROL(Label, Label10, u"xxxxxxxxxxxxxxxxxxxxxxxxxxxx");
+    TWK_CONTROL(Label, lbl_pick, u"Pick a keyword from this list.");
+    TWK_CONTROL(ListBox, List4);
+    TWK_CONTROL(CommandButton, Command16, u"Move this Keyword");
+    TWK_CONTROL(CommandButton, Command18, u"Cancel");
+    TWK_CONTROL(CommandButton, Command17, u"Help");
 
     // Import and export
-    CommandButton cmd_import{u"&Import keyword list"};
-    CommandButton Command4{u"&Export keyword list"};
-    Frame Frame3{u"Import Keywords"};
-    DriveListBox Drive2;
-    DirListBox Dir2;
-    FileListBox File2{u"*.exp"};
-    std::array<OptionButton, 2> op_imp{OptionButton{u"Exported file", true}, OptionButton{u"General"}};
-    Label lbl_separator{u"Separation Method:"};
-    ComboBox Cmb_separator{u"Enter"};
-    CommandButton Command20{u"&Import"};
-    CommandButton Command19{u"&Cancel"};
-    Frame Frame4{u"Import Keywords"};
-    Label lbl_wait{u"Please Wait......."};
-    CommonDialog CommonDialog1;
+    TWK_CONTROL(CommandButton, cmd_import, u"&Import keyword list");
+    TWK_CONTROL(CommandButton, Command4, u"&Export keyword list");
+    TWK_CONTROL(Frame, Frame3, u"Import Keywords");
+    TWK_CONTROL(DriveListBox, Drive2);
+    TWK_CONTROL(DirListBox, Dir2);
+    TWK_CONTROL(FileListBox, File2, u"*.exp");
+    TWK_CONTROLS(OptionButton, 2, op_imp, u"Exported file", u"General");
+    TWK_CONTROL(Label, lbl_separator, u"Separation Method:");
+    TWK_CONTROL(ComboBox, Cmb_separator, u"Enter");
+    TWK_CONTROL(CommandButton, Command20, u"&Import");
+    TWK_CONTROL(CommandButton, Command19, u"&Cancel");
+    TWK_CONTROL(Frame, Frame4, u"Import Keywords");
+    TWK_CONTROL(Label, lbl_wait, u"Please Wait.......");
+    TWK_CONTROL(CommonDialog, CommonDialog1);
 
     void enumerate(ScreenMap& map);
     void Form_Load();
-    void Form_Unload();
 
     void Text1_Click(); ///< entering the box ends the selection of List1
     void Text2_Change() {}

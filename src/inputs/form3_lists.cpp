@@ -242,27 +242,8 @@ void Form3::import_line(const Text& line, std::int16_t& current) {
 }
 
 void Form3::enumerate_lists(ScreenMap& map) {
-    map.control("cmd_import", cmd_import);
-    map.control("Command4", Command4);
-    map.control("Frame3", Frame3);
-    map.control("Drive2", Drive2);
-    map.control("Dir2", Dir2);
-    map.control("File2", File2);
-    map.controls("op_imp", op_imp);
-    map.control("lbl_separator", lbl_separator);
-    map.control("Cmb_separator", Cmb_separator);
-    map.control("Command20", Command20);
-    map.control("Command19", Command19);
-    map.control("Frame4", Frame4);
-    map.control("lbl_wait", lbl_wait);
-    map.control("CommonDialog1", CommonDialog1);
-    map.event("cmd_import", "Click", [this] { cmd_import_Click(); });
-    map.event("Command4", "Click", [this] { Command4_Click(); });
-    map.event("Drive2", "Change", [this] { Drive2_Change(); });
-    map.event("Dir2", "Change", [this] { Dir2_Change(); });
-    for (int i = 0; i < 2; ++i) map.event("op_imp", i, "Click", [this, i] { op_imp_Click(i); });
-    map.event("Command20", "Click", [this] { Command20_Click(); });
-    map.event("Command19", "Click", [this] { Command19_Click(); });
+    map.events<&Form3::cmd_import_Click, &Form3::Command4_Click, &Form3::Drive2_Change, &Form3::Dir2_Change,
+               &Form3::Command20_Click, &Form3::Command19_Click, &Form3::op_imp_Click>(*this);
 }
 
 } // namespace twk

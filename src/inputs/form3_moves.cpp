@@ -231,34 +231,10 @@ void Form3::Combo1_Click() {
 }
 
 void Form3::enumerate_moves(ScreenMap& map) {
-    map.control("lbl_copy", lbl_copy);
-    map.control("Combo1", Combo1);
-    map.control("Command11", Command11);
-    map.control("Frame1", Frame1);
-    map.control("Label5", Label5);
-    map.controls("Option1", Option1);
-    map.control("List3", List3);
-    map.control("Command15", Command15);
-    map.control("Command13", Command13);
-    map.control("Command14", Command14);
-    map.control("Command12", Command12);
-    map.control("Frame2", Frame2);
-    map.control("Label10", Label10);
-    map.control("lbl_pick", lbl_pick);
-    map.control("List4", List4);
-    map.control("Command16", Command16);
-    map.control("Command18", Command18);
-    map.control("Command17", Command17);
-    map.event("Combo1", "Click", [this] { Combo1_Click(); });
-    map.event("Command11", "Click", [this] { Command11_Click(); });
-    map.event("Command12", "Click", [this] { Command12_Click(); });
-    for (int i = 0; i < 2; ++i) map.event("Option1", i, "Click", [this, i] { Option1_Click(i); });
-    map.event("Command13", "Click", [this] { Command13_Click(); });
-    map.event("Command14", "Click", [this] { Command14_Click(); });
-    map.event("Command15", "Click", [this] { Command15_Click(); });
-    map.event("Command16", "Click", [this] { Command16_Click(); });
-    map.event("Command17", "Click", [this] { Command17_Click(); });
-    map.event("Command18", "Click", [this] { Command18_Click(); });
+    map.events<&Form3::Combo1_Click, &Form3::Command11_Click, &Form3::Command12_Click,
+               &Form3::Command13_Click, &Form3::Command14_Click, &Form3::Command15_Click,
+               &Form3::Command16_Click, &Form3::Command17_Click, &Form3::Command18_Click,
+               &Form3::Option1_Click>(*this);
 }
 
 } // namespace twk

@@ -21,14 +21,14 @@ namespace twk {
 
 namespace {
 
-constexpr int screen_number = 5;
 /// Exactly so many boxes refuse another one by hand; a list that an import has pushed past does not.
 constexpr int full_list = 99;
 /// Rounds of 2 seconds that a previewed file is kept longer for a browser that has not read it yet.
 constexpr int reading_rounds = 15;
 constexpr int few_words = 100;
-/// Name that the font dialog starts from each time; its other values stay as the last one left them.
-constexpr TextView list_font = u"MS Sans Serif";
+/// The list's font, whatever the machine has for it. The font dialog starts from that name each time; its
+/// other values stay as the last one left them.
+constexpr TextView list_font = u"sans-serif";
 
 const Text& project_name() {
     return screen<Form2>().txt_name[0].text();
@@ -74,7 +74,6 @@ Text Form5::tied_text(const Text& keyword) {
 }
 
 void Form5::Form_Load() {
-    marcar_forma(screen_number, true);
     tabla_kw.resize(screen<Form3>().List1.list_count() + 1);
     RTAux.clear();
     base_datos_ = open_hive();
@@ -107,10 +106,6 @@ void Form5::fill_table() {
             tabla_kw.cell(row_number, ++column) = sub.Fields(u"element").text();
         ++row_number;
     }
-}
-
-void Form5::Form_Unload() {
-    marcar_forma(screen_number, false);
 }
 
 void Form5::refrescar_cajas() {
@@ -393,51 +388,11 @@ void Form5::Command1_Click() {
 }
 
 void Form5::enumerate(ScreenMap& map) {
-    map.control("Label1", Label1);
-    map.control("rt1", rt1);
-    map.control("lbl_unsaved", lbl_unsaved);
-    map.control("lbl_live", lbl_live);
-    map.control("tmr_live", tmr_live);
-    map.control("List1", List1);
-    map.control("Command2", Command2);
-    map.control("Command5", Command5);
-    map.control("Command3", Command3);
-    map.control("Command8", Command8);
-    map.control("Command11", Command11);
-    map.control("cmdshow", cmdshow);
-    map.control("Label6", Label6);
-    map.control("lstkeyword", lstkeyword);
-    map.control("cmdtie", cmdtie);
-    map.control("Label4", Label4);
-    map.control("combo1", combo1);
-    map.control("Command7", Command7);
-    map.control("Label2", Label2);
-    map.control("Command4", Command4);
-    map.control("Text2", Text2);
-    map.control("Command9", Command9);
-    map.control("Command1", Command1);
-    map.control("Frame1", Frame1);
-    map.control("Text3", Text3);
-    map.control("Check1", Check1);
-    map.control("Label5", Label5);
-    map.control("Command6", Command6);
-    map.control("Label3", Label3);
-    map.control("CommonDialog1", CommonDialog1);
     map.event("rt1", "Change", [this] { show_unsaved(); });
-    map.event("tmr_live", "Timer", [this] { tmr_live_Timer(); });
-    map.event("List1", "Click", [this] { List1_Click(); });
-    map.event("Command1", "Click", [this] { Command1_Click(); });
-    map.event("Command2", "Click", [this] { Command2_Click(); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
-    map.event("Command4", "Click", [this] { Command4_Click(); });
-    map.event("Command5", "Click", [this] { Command5_Click(); });
-    map.event("Command6", "Click", [this] { Command6_Click(); });
-    map.event("Command7", "Click", [this] { Command7_Click(); });
-    map.event("Command8", "Click", [this] { Command8_Click(); });
-    map.event("Command9", "Click", [this] { Command9_Click(); });
-    map.event("Command11", "Click", [this] { Command11_Click(); });
-    map.event("cmdshow", "Click", [this] { cmdshow_Click(); });
-    map.event("cmdtie", "Click", [this] { cmdtie_Click(); });
+    map.events<&Form5::tmr_live_Timer, &Form5::List1_Click, &Form5::Command1_Click, &Form5::Command2_Click,
+               &Form5::Command3_Click, &Form5::Command4_Click, &Form5::Command5_Click, &Form5::Command6_Click,
+               &Form5::Command7_Click, &Form5::Command8_Click, &Form5::Command9_Click,
+               &Form5::Command11_Click, &Form5::cmdshow_Click, &Form5::cmdtie_Click>(*this);
 }
 
 } // namespace twk

@@ -20,48 +20,52 @@ class Form5 {
   public:
     static constexpr const char* name = "Form5";
     static constexpr TextView title = u"Step 3 of 6 - Content";
+    static constexpr bool marked = true;
     static constexpr int least_boxes = 2; ///< that Next lets pass
     static constexpr TextView too_few_boxes = u"You Must enter at least 2 content boxes.";
     static constexpr TextView critic_at_rest = u"Click a content box from the list to calculate.";
 
     Form5();
 
-    Label Label1{
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(
+        Label, Label1,
         u"Fill one or more Content Boxes to supply content to your gateway pages.  You can copy and paste "
-        u"(Ctrl + V) from other sources. <html tags> are allowed. "};
-    RichTextBox rt1;                     ///< the box editor
-    Label lbl_unsaved{u"Not saved yet"}; ///< shown while the editor differs from the box
-    Label lbl_live;                      ///< words and keywords of the editor, counted while one types
-    Timer tmr_live;                      ///< counts them once the keys rest
-    ListBox List1;                       ///< the project's boxes
-    CommandButton Command2{u"Add"};
-    CommandButton Command5{u"Save"};
-    CommandButton Command3{u"Delete"};
-    CommandButton Command8{u"Clear Box"};
-    CommandButton Command11{u"Font"};
-    CommandButton cmdshow{u"Show-Html"};
-    Label Label6{u"Keywords from this project:"};
-    ComboBox lstkeyword{u"Pick a keyword"}; ///< entries "keyid-keyword"
-    CommandButton cmdtie{u"Tie"};
-    Label Label4{u"Import other project's content boxes."};
-    ComboBox combo1{u"Pick a project"};
-    CommandButton Command7{u"Use"};
-    Label Label2{u"Use the Browser to pick up available text from the WWW."};
-    CommandButton Command4{u"Go"};
-    TextBox Text2{Text(addresses::maker_site)}; ///< start address of the browser
-    CommandButton Command9{u"Help"};
-    CommandButton Command1{u"Next"};
-    Frame Frame1{u"Content Critic"};
-    TextBox Text3; ///< the critic's report
-    CheckBox Check1{u"", true};
-    Label Label5{u"Activate Content Critic"};
-    CommandButton Command6{u"Refresh Content Critic"};
-    Label Label3{u"Content Critic cleans the text from invalid characters. Press 'Save' after use."};
-    CommonDialog CommonDialog1;
+        u"(Ctrl + V) from other sources. <html tags> are allowed. ");
+    TWK_CONTROL(RichTextBox, rt1);                     ///< the box editor
+    TWK_CONTROL(Label, lbl_unsaved, u"Not saved yet"); ///< shown while the editor differs from the box
+    TWK_CONTROL(Label, lbl_live); ///< words and keywords of the editor, counted while one types
+    TWK_CONTROL(Timer, tmr_live); ///< counts them once the keys rest
+    TWK_CONTROL(ListBox, List1);  ///< the project's boxes
+    TWK_CONTROL(CommandButton, Command2, u"Add");
+    TWK_CONTROL(CommandButton, Command5, u"Save");
+    TWK_CONTROL(CommandButton, Command3, u"Delete");
+    TWK_CONTROL(CommandButton, Command8, u"Clear Box");
+    TWK_CONTROL(CommandButton, Command11, u"Font");
+    TWK_CONTROL(CommandButton, cmdshow, u"Show-Html");
+    TWK_CONTROL(Label, Label6, u"Keywords from this project:");
+    TWK_CONTROL(ComboBox, lstkeyword, u"Pick a keyword"); ///< entries "keyid-keyword"
+    TWK_CONTROL(CommandButton, cmdtie, u"Tie");
+    TWK_CONTROL(Label, Label4, u"Import other project's content boxes.");
+    TWK_CONTROL(ComboBox, combo1, u"Pick a project");
+    TWK_CONTROL(CommandButton, Command7, u"Use");
+    TWK_CONTROL(Label, Label2, u"Use the Browser to pick up available text from the WWW.");
+    TWK_CONTROL(CommandButton, Command4, u"Go");
+    TWK_CONTROL(TextBox, Text2, Text(addresses::maker_site)); ///< start address of the browser
+    TWK_CONTROL(CommandButton, Command9, u"Help");
+    TWK_CONTROL(CommandButton, Command1, u"Next");
+    TWK_CONTROL(Frame, Frame1, u"Content Critic");
+    TWK_CONTROL(TextBox, Text3); ///< the critic's report
+    TWK_CONTROL(CheckBox, Check1, u"", true);
+    TWK_CONTROL(Label, Label5, u"Activate Content Critic");
+    TWK_CONTROL(CommandButton, Command6, u"Refresh Content Critic");
+    TWK_CONTROL(Label, Label3,
+                u"Content Critic cleans the text from invalid characters. Press 'Save' after use.");
+    TWK_CONTROL(CommonDialog, CommonDialog1);
 
     void enumerate(ScreenMap& map);
     void Form_Load();
-    void Form_Unload();
     void List1_Click();
     void Command1_Click();
     void Command2_Click();

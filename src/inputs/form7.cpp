@@ -16,7 +16,6 @@ namespace twk {
 
 namespace {
 
-constexpr int screen_number = 7;
 constexpr TextView scheme = u"http://";
 
 /// What stands in the box until a main directory has been chosen.
@@ -31,26 +30,11 @@ bool ends_in_slash(TextView url) {
 } // namespace
 
 void Form7::enumerate(ScreenMap& map) {
-    map.control("lbl_main", lbl_main);
-    map.control("Text2", Text2);
-    map.control("lbl_main_note", lbl_main_note);
-    map.control("lbl_separate", lbl_separate);
-    map.control("lbl_target", lbl_target);
-    map.control("Text1", Text1);
-    map.control("Command2", Command2);
-    map.control("List1", List1);
-    map.control("Command3", Command3);
-    map.control("lbl_folders", lbl_folders);
-    map.control("Command1", Command1);
-    map.control("Command7", Command7);
-    map.event("Command1", "Click", [this] { Command1_Click(); });
-    map.event("Command2", "Click", [this] { Command2_Click(); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
-    map.event("Command7", "Click", [this] { Command7_Click(); });
+    map.events<&Form7::Command1_Click, &Form7::Command2_Click, &Form7::Command3_Click,
+               &Form7::Command7_Click>(*this);
 }
 
 void Form7::Form_Load() {
-    marcar_forma(screen_number, true);
     base_datos = open_hive();
     take_last_key(base_datos.OpenRecordset({u"select Projects.pid as X1 from Projects where name = '{}' ",
                                             screen<Form2>().txt_name[0].text()}),
@@ -60,10 +44,6 @@ void Form7::Form_Load() {
         Text2.text = Trim(row.Fields(u"host").text());
     for (const auto row : base_datos.OpenRecordset(statements::rows_of_project(u"host", pid_form)))
         List1.add_item(row.Fields(u"host").text());
-}
-
-void Form7::Form_Unload() {
-    marcar_forma(screen_number, false);
 }
 
 Text Form7::directory_refusal(const Text& main, const std::vector<Text>& others) {

@@ -13,27 +13,35 @@ class Form7 {
   public:
     static constexpr const char* name = "Form7";
     static constexpr TextView title = u"Step 4 of 6 - Hosts and Domains";
+    static constexpr bool marked = true;
 
-    Label lbl_main{u"Main gateway directory to host gateway pages (if other than target site)."};
-    TextBox Text2; ///< main gateway directory
-    Label lbl_main_note{
-        u"This directory will host the hallway page and the primary and secondary level gateway pages."};
-    Label lbl_separate{
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(Label, lbl_main,
+                u"Main gateway directory to host gateway pages (if other than target site).");
+    TWK_CONTROL(TextBox, Text2); ///< main gateway directory
+    TWK_CONTROL(
+        Label, lbl_main_note,
+        u"This directory will host the hallway page and the primary and secondary level gateway pages.");
+    TWK_CONTROL(
+        Label, lbl_separate,
         u"You can host all the generated gateway pages in a separated directory, for easy maintenance. For "
-        u"PageRank purposes the root directory is better."};
-    Label lbl_target{
+        u"PageRank purposes the root directory is better.");
+    TWK_CONTROL(
+        Label, lbl_target,
         u"Target Site or Target URL, as defined in Step 2, is the address where gateway pages point to, while "
         u"Gateway Directories are the WWW locations of the Gateway pages. A Gateway directory can be the same as "
-        u"a Target Directory, or a different directory, domain or subdomain."};
-    TextBox Text1{u"http://"}; ///< entry of a secondary one
-    ListBox List1;             ///< the secondary directories
-    CommandButton Command2{u"Add secondary gateway domain/directory"};
-    CommandButton Command3{u"Delete"};
-    Label lbl_folders{
+        u"a Target Directory, or a different directory, domain or subdomain.");
+    TWK_CONTROL(TextBox, Text1, u"http://"); ///< entry of a secondary one
+    TWK_CONTROL(ListBox, List1);             ///< the secondary directories
+    TWK_CONTROL(CommandButton, Command2, u"Add secondary gateway domain/directory");
+    TWK_CONTROL(CommandButton, Command3, u"Delete");
+    TWK_CONTROL(
+        Label, lbl_folders,
         u"If you define one or more gateway directories TWK will create additional folders to facilitate FTP "
-        u"uploading."};
-    CommandButton Command1{u"Next"};
-    CommandButton Command7{u"Help"};
+        u"uploading.");
+    TWK_CONTROL(CommandButton, Command1, u"Next");
+    TWK_CONTROL(CommandButton, Command7, u"Help");
 
     std::int16_t pid_form = 0;
     int status = 1; ///< 2 once adding has been refused
@@ -41,7 +49,6 @@ class Form7 {
 
     void enumerate(ScreenMap& map);
     void Form_Load();
-    void Form_Unload();
     void Command1_Click();
     void Command2_Click();
     void Command3_Click();

@@ -10,28 +10,12 @@
 
 namespace twk {
 
-namespace {
-
-constexpr int screen_number = 8;
-
-} // namespace
-
 void Form8::enumerate(ScreenMap& map) {
-    map.control("Label1", Label1);
-    map.control("Text1", Text1);
-    map.control("Command2", Command2);
-    map.control("Command3", Command3);
-    map.control("Command1", Command1);
-    map.control("lbl_format", lbl_format);
-    map.control("lbl_example", lbl_example);
     map.event("Text1", "Change", [this] { show_example(); });
-    map.event("Command1", "Click", [this] { Command1_Click(); });
-    map.event("Command2", "Click", [this] { Command2_Click(); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
+    map.events<&Form8::Command1_Click, &Form8::Command2_Click, &Form8::Command3_Click>(*this);
 }
 
 void Form8::Form_Load() {
-    marcar_forma(screen_number, true);
     base_datos_ = open_hive();
     synonyms_ = open_synonyms();
     show_keyword();
@@ -61,10 +45,6 @@ void Form8::show_keyword() {
         Text1.text = synonyms.is_null() ? Text() : synonyms.text();
     }
     show_example();
-}
-
-void Form8::Form_Unload() {
-    marcar_forma(screen_number, false);
 }
 
 void Form8::Command1_Click() {

@@ -14,21 +14,23 @@ class Form8 {
   public:
     static constexpr const char* name = "Form8";
     static constexpr TextView title = u"Synonym";
+    static constexpr bool marked = true;
 
-    Label Label1{u"Synonyms for "}; ///< and the keyword
-    TextBox Text1;
-    CommandButton Command2{u"Set as Synonym"};
-    CommandButton Command3{u"Delete"};
-    CommandButton Command1{u"Exit - Go Back"};
+    ScreenMap map; ///< the controls below enter themselves
 
-    Label lbl_format{Text(synonym_format)};
-    Label lbl_example{synonym_example({}, {})}; ///< of the entry as typed
+    TWK_CONTROL(Label, Label1, u"Synonyms for "); ///< and the keyword
+    TWK_CONTROL(TextBox, Text1);
+    TWK_CONTROL(CommandButton, Command2, u"Set as Synonym");
+    TWK_CONTROL(CommandButton, Command3, u"Delete");
+    TWK_CONTROL(CommandButton, Command1, u"Exit - Go Back");
+
+    TWK_CONTROL(Label, lbl_format, Text(synonym_format));
+    TWK_CONTROL(Label, lbl_example, synonym_example({}, {})); ///< of the entry as typed
 
     void enumerate(ScreenMap& map);
     void Form_Load();
     /// Shows the keyword that is selected in Step 2 now; text typed for that very one stays.
     void follow_selection();
-    void Form_Unload();
     void Command1_Click();
     void Command2_Click();
     void Command3_Click();

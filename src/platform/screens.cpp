@@ -23,6 +23,11 @@ std::string ScreenMap::Control::object_name() const {
     return index < 0 ? name : name + "_" + std::to_string(index);
 }
 
+std::pair<std::string, std::string> ScreenMap::parts_of(std::string_view method) {
+    const std::size_t at = method.rfind('_');
+    return {std::string(method.substr(0, at)), std::string(method.substr(at + 1))};
+}
+
 const ScreenMap::Control* ScreenMap::find_control(const std::string& name, int index) const {
     return found(controls_, [&](const Control& c) { return c.name == name && c.index == index; });
 }

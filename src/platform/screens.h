@@ -2,12 +2,16 @@
 #pragma once
 
 #include "platform/controls.h"
+#include "platform/module1.h"
 #include "platform/undo_stack.h"
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <typeindex>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -17,6 +21,21 @@ using ControlRef =
     std::variant<Label*, Frame*, CommandButton*, TextBox*, RichTextBox*, CheckBox*, OptionButton*, ListBox*,
                  ComboBox*, Slider*, ProgressBar*, Grid*, PictureBox*, FileListBox*, DirListBox*,
                  DriveListBox*, WebBrowser*, Inet*, CommonDialog*, Timer*>;
+
+/// "Command1_Click" for &Form5::Command1_Click. The language has no word for it, but the compilers write it
+/// into the name of a function that is made for the method: "... Method = &twk::Form5::Command1_Click; ...".
+template <auto Method> constexpr std::string_view method_name() {
+    std::string_view text = __PRETTY_FUNCTION__;
+    text.remove_prefix(text.find("Method = "));
+    text = text.substr(0, text.find_first_of(";]"));
+    return text.substr(text.rfind("::") + 2);
+}
+namespace method_name_check {
+struct Form {
+    void op_imp_Click(int);
+};
+static_assert(method_name<&Form::op_imp_Click>() == "op_imp_Click");
+} // namespace method_name_check
 
 /// What a screen is made of, told once by the screen itself: its controls and its events, for the front ends
 /// and for tests.
@@ -36,19 +55,16 @@ class ScreenMap {
         std::function<void()> run;
     };
 
-    template <class C> void control(std::string name, C& control) {
-        controls_.push_back({std::move(name), -1, &control});
-    }
-    /// An array of controls, indexed from 0.
-    template <class Array> void controls(const std::string& name, Array& array) {
-        int index = 0;
-        for (auto& each : array) controls_.push_back({name, index++, &each});
-    }
-    /// One element of an array whose indices have holes.
-    template <class C> void element(std::string name, int index, C& control) {
-        controls_.push_back({std::move(name), index, &control});
+    /// `index` -1 for one outside an array. The control must stay where it is.
+    void control(std::string name, int index, ControlRef control) {
+        controls_.push_back({std::move(name), index, control});
     }
 
+    /// The methods named Control_Event, as the events that their names tell: Command1_Click is Click of
+    /// Command1. One that takes an index is the event of every element of its array.
+    template <auto... Methods, class Form> void events(Form& form) {
+        (named_event(method_name<Methods>(), form, Methods), ...);
+    }
     void event(std::string control, std::string name, std::function<void()> run) {
         events_.push_back({std::move(control), -1, std::move(name), std::move(run)});
     }
@@ -63,9 +79,63 @@ class ScreenMap {
     const Event* find_event(const std::string& control, const std::string& name, int index = -1) const;
 
   private:
+    template <class Form> void named_event(std::string_view name, Form& form, void (Form::*run)()) {
+        const auto [control, what] = parts_of(name);
+        event(control, what, [&form, run] { (form.*run)(); });
+    }
+    template <class Form> void named_event(std::string_view name, Form& form, void (Form::*run)(int)) {
+        const auto [control, what] = parts_of(name);
+        for (const Control& each : controls_)
+            if (each.name == control)
+                event(control, each.index, what, [&form, run, index = each.index] { (form.*run)(index); });
+    }
+    /// "op_imp_Click" is Click of op_imp.
+    static std::pair<std::string, std::string> parts_of(std::string_view method);
+
     std::vector<Control> controls_;
     std::vector<Event> events_;
 };
+
+/// A control that enters itself into the map of its screen.
+template <class C> struct Named : C {
+    template <class... Initial>
+    Named(ScreenMap& map, const char* name, int index, Initial&&... initial)
+        : C(std::forward<Initial>(initial)...) {
+        map.control(name, index, static_cast<C*>(this));
+    }
+    Named(const Named&) = delete;
+    Named& operator=(const Named&) = delete;
+};
+
+/// Controls of one name, told apart by their index from 0; made from nothing or from one value each.
+template <class C, std::size_t Count> struct NamedArray : std::array<C, Count> {
+    NamedArray(ScreenMap& map, const char* name) { enter(map, name); }
+    template <class... Initial>
+    requires(sizeof...(Initial) == Count) NamedArray(ScreenMap& map, const char* name, Initial&&... initial)
+        : std::array<C, Count>{{C(std::forward<Initial>(initial))...}} {
+        enter(map, name);
+    }
+    NamedArray(const NamedArray&) = delete;
+    NamedArray& operator=(const NamedArray&) = delete;
+
+  private:
+    void enter(ScreenMap& map, const char* name) {
+        int index = 0;
+        for (C& each : *this) map.control(name, index++, &each);
+    }
+};
+
+/// The members that are a screen's controls, declared below its `ScreenMap map`:
+///   TWK_CONTROL(CommandButton, Command1, u"Next");             Command1
+///   TWK_CONTROLS(TextBox, 3, txt_url, u"a", u"b", u"c");       txt_url[0] to txt_url[2]
+///   TWK_ELEMENT(CommandButton, Command2, 110, u"Background");  Command2_110, where the indices have holes
+/// What follows the name is handed to the control. Macros, as nothing else makes one word the name of a
+/// member and a text.
+// clang-format off
+#define TWK_CONTROL(Kind, name, ...) Named<Kind> name{map, #name, -1, __VA_ARGS__}
+#define TWK_CONTROLS(Kind, count, name, ...) NamedArray<Kind, count> name{map, #name, __VA_ARGS__}
+#define TWK_ELEMENT(Kind, name, index, ...) Named<Kind> name##_##index{map, #name, index, __VA_ARGS__}
+// clang-format on
 
 /// A loaded screen as the registry and the front ends see it, whatever its class.
 struct Screen {
@@ -77,8 +147,8 @@ struct Screen {
     bool visible = false;
     ScreenMap map;
     std::shared_ptr<void> instance;
-    std::function<void()> unload_event;         ///< Form_Unload, empty when the screen has none
-    std::function<void()> activate_event;       ///< Form_Activate, likewise
+    std::function<void()> unload_event;         ///< Form_Unload, and what follows it
+    std::function<void()> activate_event;       ///< Form_Activate, empty when the screen has none
     const UndoStack* deletions = nullptr;       ///< what the screen has deleted; null for most
     std::function<void()> undo_event;           ///< takes the newest of them back
     TextView taken_files;                       ///< endings of files that can be dropped on it: ".exp .txt"
@@ -92,13 +162,16 @@ struct Screen {
 /// A screen class is default-constructible and has
 ///   static constexpr const char* name = "Form6";
 ///   static constexpr TextView title = u"Step 5 of 6 - Gateway Generation";   the caption at load
-///   void enumerate(ScreenMap& map);   tells its controls and events, once
-/// and, where it needs them, Form_Load(), Form_Unload() and Form_Activate(); a screen whose deletions can be
-/// taken back has them in `UndoStack deletions` and takes the newest back in undo_delete(). One that files
-/// may be dropped on says
+///   ScreenMap map;   in front of its controls, which enter themselves; the record takes it over at load
+/// and, where it needs them,
+///   void enumerate(ScreenMap& map);   tells its events, once
+/// Form_Load(), Form_Unload() and Form_Activate(); a screen whose deletions can be taken back has them in
+/// `UndoStack deletions` and takes the newest back in undo_delete(). One that files may be dropped on says
 ///   static constexpr TextView taken_files = u".exp .txt";
-/// and has take_file(path).
-/// A loaded screen is visible: loading shows it, unless the class says
+/// and has take_file(path). One that says
+///   static constexpr bool marked = true;
+/// is marked in `formas_abiertas`, by the number in its name, from before its Form_Load to behind its
+/// Form_Unload. A loaded screen is visible: loading shows it, unless the class says
 ///   static constexpr bool shown_when_loaded = false;
 /// A screen unloaded while an event runs leaves the registry at once and is destroyed when the outermost
 /// event has returned. A screen may unload itself while it loads: it is not shown then.
@@ -228,12 +301,30 @@ template <class S> S& screen() {
 
 namespace screen_events {
 
+/// The number in the name of a screen that is marked while it is loaded, 0 for another one.
+template <class S> constexpr int number_of() {
+    int number = 0;
+    if constexpr (requires { S::marked; })
+        for (const char each : std::string_view(S::name))
+            if (each >= '0' && each <= '9') number = number * 10 + (each - '0');
+    return number;
+}
+template <class S> ScreenMap controls_of(S& form) {
+    if constexpr (requires { form.map; }) return std::move(form.map);
+    return {};
+}
+template <class S> void enumerate(S& form, ScreenMap& map) {
+    if constexpr (requires { form.enumerate(map); }) form.enumerate(map);
+}
 template <class S> void load(S& form) {
+    if constexpr (number_of<S>() != 0) marcar_forma(number_of<S>(), true);
     if constexpr (requires { form.Form_Load(); }) form.Form_Load();
 }
 template <class S> std::function<void()> unload_of(S& form) {
-    if constexpr (requires { form.Form_Unload(); }) return [&form] { form.Form_Unload(); };
-    return {};
+    return [&form] {
+        if constexpr (requires { form.Form_Unload(); }) form.Form_Unload();
+        if constexpr (number_of<S>() != 0) marcar_forma(number_of<S>(), false);
+    };
 }
 template <class S> std::function<void()> activate_of(S& form) {
     if constexpr (requires { form.Form_Activate(); }) return [&form] { form.Form_Activate(); };
@@ -253,7 +344,8 @@ template <class S> Screen& Screens::load(const Running&) {
     made->name = S::name;
     made->caption = Text(S::title);
     made->instance = instance;
-    form.enumerate(made->map);
+    made->map = screen_events::controls_of(form);
+    screen_events::enumerate(form, made->map);
     made->unload_event = screen_events::unload_of(form);
     made->activate_event = screen_events::activate_of(form);
     if constexpr (requires { form.undo_delete(); }) {

@@ -25,8 +25,6 @@ namespace twk {
 
 namespace {
 
-constexpr int screen_number = 12;
-
 /// Runs one statement of an analysis; a fault of it leaves its field empty and the analysis goes on.
 template <class F> void ignoring_faults(F statement) {
     try {
@@ -99,16 +97,11 @@ void Form12::break_off() {
 }
 
 void Form12::Form_Load() {
-    marcar_forma(screen_number, true);
     xKeyWords.assign(static_cast<std::size_t>(screen<Form3>().List1.list_count()) + 1, Text());
     ProgressBar1.set_value(CDbl(u"0,0001"));
     desktop().navigate(wb1, u"about:blank");
     DoEvents();
     esperar(1, [this] { return !screens().is_loaded(*this) || !desktop().busy(wb1); });
-}
-
-void Form12::Form_Unload() {
-    marcar_forma(screen_number, false);
 }
 
 void Form12::reporte2(int subkeywords) {
@@ -357,28 +350,10 @@ void Form12::Command3_Click() {
 }
 
 void Form12::enumerate(ScreenMap& map) {
-    map.control("Frame1", Frame1);
-    map.control("Label6", Label6);
-    map.control("Label3", Label3);
-    map.control("Label2", Label2);
-    map.control("ProgressBar1", ProgressBar1);
-    map.control("lbl_progress", lbl_progress);
-    map.control("Label5", Label5);
-    map.control("List1", List1);
-    map.control("Label4", Label4);
-    map.control("List2", List2);
-    map.control("Label1", Label1);
-    map.control("List3", List3);
-    map.control("RichTextBox1", RichTextBox1);
-    map.control("wb1", wb1);
-    map.control("Label7", Label7);
-    map.control("Command3", Command3);
-    map.control("Command2", Command2);
     map.event("List1", "Click", [this] { List_Click(1); });
     map.event("List2", "Click", [this] { List_Click(2); });
     map.event("List3", "Click", [this] { List_Click(3); });
-    map.event("Command2", "Click", [this] { Command2_Click(); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
+    map.events<&Form12::Command2_Click, &Form12::Command3_Click>(*this);
 }
 
 } // namespace twk

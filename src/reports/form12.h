@@ -21,34 +21,37 @@ class Form12 {
   public:
     static constexpr const char* name = "Form12";
     static constexpr TextView title = u"Generated Pages Report";
+    static constexpr bool marked = true;
 
     Form12(); ///< lists, report and buttons stay disabled until a run has ended
 
-    Frame Frame1{u"Report"};
-    Label Label6{
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(Frame, Frame1, u"Report");
+    TWK_CONTROL(
+        Label, Label6,
         u"These reports describe several settings in your generated pages: words, keywords, page weight, "
         u"number of links. You can use it to adjust your TWK settings and repeat the page generation step "
         u"(exit the program and reenter to clean old files). Remember to upload each page to its corresponding "
-        u"directory, as saved in your hard disk."};
-    Label Label3{u"Now Performing Action:"};
-    Label Label2; ///< status line
-    ProgressBar ProgressBar1;
-    Label lbl_progress; ///< pages written of those planned, and the time left
-    Label Label5{u"First-Level Pages"};
-    ListBox List1;
-    Label Label4{u"Second-Level Pages"};
-    ListBox List2;
-    Label Label1{u"Random Generated Pages"};
-    ListBox List3;
-    RichTextBox RichTextBox1;
-    WebBrowser wb1;
-    Label Label7{u"(Appearance may be different than in maximized browser)"};
-    CommandButton Command3{u"Open HTML sitemap on Browser"};
-    CommandButton Command2{u"Close"};
+        u"directory, as saved in your hard disk.");
+    TWK_CONTROL(Label, Label3, u"Now Performing Action:");
+    TWK_CONTROL(Label, Label2); ///< status line
+    TWK_CONTROL(ProgressBar, ProgressBar1);
+    TWK_CONTROL(Label, lbl_progress); ///< pages written of those planned, and the time left
+    TWK_CONTROL(Label, Label5, u"First-Level Pages");
+    TWK_CONTROL(ListBox, List1);
+    TWK_CONTROL(Label, Label4, u"Second-Level Pages");
+    TWK_CONTROL(ListBox, List2);
+    TWK_CONTROL(Label, Label1, u"Random Generated Pages");
+    TWK_CONTROL(ListBox, List3);
+    TWK_CONTROL(RichTextBox, RichTextBox1);
+    TWK_CONTROL(WebBrowser, wb1);
+    TWK_CONTROL(Label, Label7, u"(Appearance may be different than in maximized browser)");
+    TWK_CONTROL(CommandButton, Command3, u"Open HTML sitemap on Browser");
+    TWK_CONTROL(CommandButton, Command2, u"Close");
 
     void enumerate(ScreenMap& map);
     void Form_Load();
-    void Form_Unload();
     void List_Click(int list); ///< 1, 2 or 3
     void Command2_Click();
     void Command3_Click();

@@ -20,8 +20,6 @@ namespace twk {
 
 namespace {
 
-constexpr int screen_number = 6;
-
 /// Project names come from Step 1's own box, not from the name under which the project was opened.
 const Text& project_name() {
     return screen<Form2>().txt_name[0].text();
@@ -40,7 +38,6 @@ Form6::Form6() {
 Form6::~Form6() = default;
 
 void Form6::Form_Load() {
-    marcar_forma(screen_number, true);
     module1().paso6_cancelado = u"0";
     carga_inicial = false;
     const Text own = beside_program(project_name() + u".dat");
@@ -58,10 +55,6 @@ void Form6::Form_Load() {
     Slider1_Change();
     carga_inicial = true;
     Frame8.visible = false;
-}
-
-void Form6::Form_Unload() {
-    marcar_forma(screen_number, false);
 }
 
 void Form6::Slider1_Change() {
@@ -244,112 +237,14 @@ void Form6::cancelar() {
 }
 
 void Form6::enumerate(ScreenMap& map) {
-    map.control("Slider1", Slider1);
-    map.control("lbl_level", lbl_level);
-    map.control("lbl_level_note", lbl_level_note);
-    enumerate_pages(map);
-    enumerate_design(map);
-    map.control("Frame7", Frame7);
-    map.control("Command3", Command3);
-    map.control("Command4", Command4);
-    map.control("lbl_advanced", lbl_advanced);
-    map.control("lbl_default", lbl_default);
-    map.control("lbl_override", lbl_override);
-    map.control("lbl_strategies", lbl_strategies);
-    map.control("Frame8", Frame8);
-    map.control("checkBulgaro", checkBulgaro);
-    map.control("Drive2", Drive2);
-    map.control("Dir2", Dir2);
-    map.control("File2", File2);
-    map.control("Label52", Label52);
-    map.control("Command5", Command5);
-    map.control("Label53", Label53);
-    map.control("Label41", Label41);
-    map.control("Command1", Command1);
-    map.control("Command7", Command7);
-    map.control("File1", File1);
-    map.control("Dir1", Dir1);
-    map.control("List1", List1);
-    map.control("CommonDialog1", CommonDialog1);
     enumerate_events(map);
 }
 
-/// Levels 1 to 3.
-void Form6::enumerate_pages(ScreenMap& map) {
-    map.control("Frame2", Frame2);
-    map.control("lbl_density", lbl_density);
-    map.control("Combo9", Combo9);
-    map.control("Check10", Check10);
-    map.control("Check11", Check11);
-    map.control("Check12", Check12);
-    map.control("Check13", Check13);
-    map.control("Check14", Check14);
-    map.control("Check15", Check15);
-    map.control("Frame1", Frame1);
-    map.control("lbl_random_pages", lbl_random_pages);
-    map.control("Combo2", Combo2);
-    map.control("lbl_redirecting", lbl_redirecting);
-    map.control("Combo3", Combo3);
-    map.control("lbl_linking", lbl_linking);
-    map.control("Combo4", Combo4);
-    map.control("lbl_main_url", lbl_main_url);
-    map.control("Combo8", Combo8);
-    map.control("Check9", Check9);
-    map.control("Check5", Check5);
-    map.control("Frame3", Frame3);
-    map.control("lbl_extension", lbl_extension);
-    map.control("Combo10", Combo10);
-    map.control("Check6", Check6);
-    map.control("Check8", Check8);
-    map.control("Check1", Check1);
-    map.control("Check2", Check2);
-    map.control("Check7", Check7);
-    map.control("Check4", Check4);
-    map.control("Check3", Check3);
-    map.control("lbl_classification", lbl_classification);
-    map.control("Combo7", Combo7);
-    map.control("lbl_language", lbl_language);
-    map.control("Combo5", Combo5);
-    map.control("lbl_separator", lbl_separator);
-    map.control("Combo6", Combo6);
-}
-
-/// Level 4.
-void Form6::enumerate_design(ScreenMap& map) {
-    map.control("Frame4", Frame4);
-    map.control("Frame6", Frame6);
-    map.controls("Template", Template);
-    map.control("lbl_font_face", lbl_font_face);
-    map.control("combo1", combo1);
-    map.element("Command2", 0, Command2_0);
-    map.control("Text4", Text4);
-    map.control("Option1", Option1);
-    map.element("Command2", 110, Command2_110);
-    map.control("Text1", Text1);
-    map.control("Option2", Option2);
-    map.control("Text3", Text3);
-    map.control("Frame5", Frame5);
-    map.control("Text2", Text2);
-    map.control("lbl_html_box", lbl_html_box);
-    map.control("lbl_not_saved", lbl_not_saved);
-}
-
 void Form6::enumerate_events(ScreenMap& map) {
-    map.event("Slider1", "Change", [this] { Slider1_Change(); });
-    map.event("Command1", "Click", [this] { Command1_Click(); });
-    for (const int index : {0, 110})
-        map.event("Command2", index, "Click", [this, index] { Command2_Click(index); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
-    map.event("Command4", "Click", [this] { Command4_Click(); });
-    map.event("Command5", "Click", [this] { Command5_Click(); });
-    map.event("Command7", "Click", [this] { Command7_Click(); });
-    map.event("Option1", "Click", [this] { Option1_Click(); });
-    map.event("Option2", "Click", [this] { Option2_Click(); });
-    for (int index = 0; index < static_cast<int>(Template.size()); ++index)
-        map.event("Template", index, "Click", [this, index] { Template_Click(index); });
-    map.event("Drive2", "Change", [this] { Drive2_Change(); });
-    map.event("Dir2", "Change", [this] { Dir2_Change(); });
-    map.event("File2", "Click", [this] { File2_Click(); });
+    map.events<&Form6::Slider1_Change, &Form6::Command1_Click, &Form6::Command3_Click, &Form6::Command4_Click,
+               &Form6::Command5_Click, &Form6::Command7_Click, &Form6::Option1_Click, &Form6::Option2_Click,
+               &Form6::Drive2_Change, &Form6::Dir2_Change, &Form6::File2_Click, &Form6::Command2_Click,
+               &Form6::Template_Click>(*this);
 }
 
 } // namespace twk

@@ -40,8 +40,8 @@ enum class Save {
     never,
 };
 
-using Target = std::variant<int, std::int16_t GatewaySettings::*, CheckBox Form6::*, ComboBox Form6::*,
-                            TextBox Form6::*>;
+using Target = std::variant<int, std::int16_t GatewaySettings::*, Named<CheckBox> Form6::*,
+                            Named<ComboBox> Form6::*, Named<TextBox> Form6::*>;
 
 struct Key {
     TextView key;

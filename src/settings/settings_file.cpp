@@ -148,24 +148,24 @@ void load_line(Form6& form, const Key& key, const Text& raw) {
     case Load::number:
         form.settings.*std::get<std::int16_t GatewaySettings::*>(key.target) = CInt(valor1(line));
         break;
-    case Load::check: cargar_check(line, form.*std::get<CheckBox Form6::*>(key.target)); break;
+    case Load::check: cargar_check(line, form.*std::get<Named<CheckBox> Form6::*>(key.target)); break;
     case Load::list: {
-        ComboBox& combo = form.*std::get<ComboBox Form6::*>(key.target);
+        ComboBox& combo = form.*std::get<Named<ComboBox> Form6::*>(key.target);
         combo.clear();
         cargar_combo(line, combo);
         break;
     }
     case Load::address:
-        (form.*std::get<TextBox Form6::*>(key.target)).text = without_quotes(valor1(line));
+        (form.*std::get<Named<TextBox> Form6::*>(key.target)).text = without_quotes(valor1(line));
         break;
     case Load::record: cargar_valor(form.settings, line, std::get<int>(key.target)); break;
     case Load::phrase: cargar_frase(form.settings, line, std::get<int>(key.target)); break;
     case Load::fixed_column: {
         const Text value = Mid(raw, 7);
-        if (const auto* box = std::get_if<TextBox Form6::*>(&key.target))
+        if (const auto* box = std::get_if<Named<TextBox> Form6::*>(&key.target))
             (form.**box).text = value;
         else
-            (form.*std::get<ComboBox Form6::*>(key.target)).text = value;
+            (form.*std::get<Named<ComboBox> Form6::*>(key.target)).text = value;
         break;
     }
     case Load::last_unit: load_option(form, key.key, Right(raw, 1)); break;
@@ -264,8 +264,8 @@ Text option_value(const Form6& form, TextView key) {
 
 /// The plain text behind a key.
 Text text_value(Form6& form, const Key& key) {
-    if (const auto* box = std::get_if<TextBox Form6::*>(&key.target)) return (form.**box).text();
-    if (const auto* combo = std::get_if<ComboBox Form6::*>(&key.target)) return (form.**combo).text();
+    if (const auto* box = std::get_if<Named<TextBox> Form6::*>(&key.target)) return (form.**box).text();
+    if (const auto* combo = std::get_if<Named<ComboBox> Form6::*>(&key.target)) return (form.**combo).text();
     const int indice = std::get<int>(key.target);
     if (key.load == Load::last_unit) return option_value(form, key.key);
     if (key.load == Load::phrase) return at(form.settings.frases, indice);
@@ -281,13 +281,14 @@ Text number_value(Form6& form, const Key& key) {
 Text value_of(Form6& form, const Key& key) {
     switch (key.save) {
     case Save::number: return number_value(form, key);
-    case Save::flag: return flag((form.*std::get<CheckBox Form6::*>(key.target)).value());
+    case Save::flag: return flag((form.*std::get<Named<CheckBox> Form6::*>(key.target)).value());
     case Save::flag_of_number: return flag(number_value(form, key) == u"1");
     case Save::always_on: return u"1";
     case Save::list:
     case Save::list_trimmed:
     case Save::quoted_list:
-    case Save::separator_list: return list_value(form.*std::get<ComboBox Form6::*>(key.target), key.save);
+    case Save::separator_list:
+        return list_value(form.*std::get<Named<ComboBox> Form6::*>(key.target), key.save);
     case Save::quoted: return u"\"" + text_value(form, key) + u"\"";
     case Save::quoted_trimmed: return u"\"" + Trim(text_value(form, key)) + u"\"";
     case Save::escaped: return u"\"" + Replace(text_value(form, key), u"\"", stored_quote) + u"\"";

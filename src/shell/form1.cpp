@@ -21,8 +21,6 @@ namespace twk {
 
 namespace {
 
-constexpr int screen_number = 1;
-
 /// The project that is to be deleted or copied.
 Statement chosen_project(const Text& name) {
     return {u"select * from Projects where name = '{}' ", name};
@@ -46,40 +44,15 @@ Form1::Form1() {
 }
 
 void Form1::enumerate(ScreenMap& map) {
-    map.control("combo1", combo1);
-    map.control("Text1", Text1);
-    map.control("Command1", Command1);
-    map.control("Command3", Command3);
-    map.control("Command4", Command4);
-    map.control("Command6", Command6);
-    map.control("Command5", Command5);
-    map.control("Command7", Command7);
-    map.control("Command2", Command2);
-    map.control("Label2", Label2);
-    map.control("Label4", Label4);
-    map.control("Label5", Label5);
-    map.control("Dir1", Dir1);
-    map.control("File1", File1);
-    map.event("combo1", "Click", [this] { combo1_Click(); });
-    map.event("Command1", "Click", [this] { Command1_Click(); });
-    map.event("Command2", "Click", [this] { Command2_Click(); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
-    map.event("Command4", "Click", [this] { Command4_Click(); });
-    map.event("Command5", "Click", [this] { Command5_Click(); });
-    map.event("Command6", "Click", [this] { Command6_Click(); });
-    map.event("Command7", "Click", [this] { Command7_Click(); });
-    map.event("Label2", "Click", [this] { Label2_Click(); });
+    map.events<&Form1::combo1_Click, &Form1::Command1_Click, &Form1::Command2_Click, &Form1::Command3_Click,
+               &Form1::Command4_Click, &Form1::Command5_Click, &Form1::Command6_Click, &Form1::Command7_Click,
+               &Form1::Label2_Click>(*this);
 }
 
 void Form1::Form_Load() {
-    marcar_forma(screen_number, true);
     module1().proyecto_actual.clear();
     module1().pid_actual = 0;
     llenar_proyectos();
-}
-
-void Form1::Form_Unload() {
-    marcar_forma(screen_number, false);
 }
 
 void Form1::llenar_proyectos() {

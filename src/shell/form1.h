@@ -15,27 +15,29 @@ class Form1 {
   public:
     static constexpr const char* name = "Form1";
     static constexpr TextView title = u"Tarnwick";
+    static constexpr bool marked = true;
 
     Form1();
 
-    ComboBox combo1{u"Select an existing Project"};
-    TextBox Text1; ///< name of the copy
-    CommandButton Command1{u"&New Project"};
-    CommandButton Command3{u"&Open Project"};
-    CommandButton Command4{u"&Delete existing Project"};
-    CommandButton Command6{u"&Copy Project to ..."};
-    CommandButton Command5{u"Edit &Synonym Dictionary"};
-    CommandButton Command7{u"&Help"};
-    CommandButton Command2{u"&Exit"};
-    Label Label2{Text(addresses::maker_site)};
-    Label Label4{u"Tarnwick"};
-    Label Label5{u"Search Engine Optimization Tool"};
-    DirListBox Dir1;   ///< walks a project's folder when it is deleted
-    FileListBox File1; ///< likewise
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(ComboBox, combo1, u"Select an existing Project");
+    TWK_CONTROL(TextBox, Text1); ///< name of the copy
+    TWK_CONTROL(CommandButton, Command1, u"&New Project");
+    TWK_CONTROL(CommandButton, Command3, u"&Open Project");
+    TWK_CONTROL(CommandButton, Command4, u"&Delete existing Project");
+    TWK_CONTROL(CommandButton, Command6, u"&Copy Project to ...");
+    TWK_CONTROL(CommandButton, Command5, u"Edit &Synonym Dictionary");
+    TWK_CONTROL(CommandButton, Command7, u"&Help");
+    TWK_CONTROL(CommandButton, Command2, u"&Exit");
+    TWK_CONTROL(Label, Label2, Text(addresses::maker_site));
+    TWK_CONTROL(Label, Label4, u"Tarnwick");
+    TWK_CONTROL(Label, Label5, u"Search Engine Optimization Tool");
+    TWK_CONTROL(DirListBox, Dir1);   ///< walks a project's folder when it is deleted
+    TWK_CONTROL(FileListBox, File1); ///< likewise
 
     void enumerate(ScreenMap& map);
     void Form_Load();
-    void Form_Unload();
     /// Adds every project's name to the list, which it does not clear.
     void llenar_proyectos();
     void combo1_Click();

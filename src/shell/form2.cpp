@@ -19,7 +19,6 @@ namespace twk {
 
 namespace {
 
-constexpr int screen_number = 2;
 constexpr TextView should_begin = u"It should begin with ´http://´";
 
 Text projects_folder() {
@@ -57,54 +56,16 @@ Text clean(const TextBox& box) {
 } // namespace
 
 void Form2::enumerate(ScreenMap& map) {
-    map.control("lbl_name", lbl_name);
-    map.controls("txt_name", txt_name);
-    map.control("lbl_name_note", lbl_name_note);
-    map.control("lbl_site_name", lbl_site_name);
-    map.controls("Text2", Text2);
-    map.control("lbl_about_site", lbl_about_site);
-    map.control("lbl_site_url", lbl_site_url);
-    map.control("lbl_other_url", lbl_other_url);
-    map.control("lbl_webmaster_url", lbl_webmaster_url);
-    map.controls("txt_url", txt_url);
-    map.control("List1", List1);
-    map.control("Command7", Command7);
-    map.control("Command8", Command8);
-    map.control("lbl_about_other", lbl_about_other);
-    map.control("lbl_about_url", lbl_about_url);
-    map.controls("lbl_sample", lbl_sample);
-    map.control("lbl_subject", lbl_subject);
-    map.control("lbl_category", lbl_category);
-    map.control("lbl_description", lbl_description);
-    map.controls("txt_dat", txt_dat);
-    map.control("lbl_about_description", lbl_about_description);
-    map.control("lbl_webmaster", lbl_webmaster);
-    map.control("Text7", Text7);
-    map.control("lbl_optional", lbl_optional);
-    map.control("Command2", Command2);
-    map.control("Command1", Command1);
-    map.control("Command3", Command3);
-    map.event("Text2", 0, "LostFocus", [this] { Text2_LostFocus(0); });
-    for (int i = 0; i < static_cast<int>(txt_url.size()); ++i)
-        map.event("txt_url", i, "LostFocus", [this, i] { txt_url_LostFocus(i); });
-    map.event("Command1", "Click", [this] { Command1_Click(); });
-    map.event("Command2", "Click", [this] { Command2_Click(); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
-    map.event("Command7", "Click", [this] { Command7_Click(); });
-    map.event("Command8", "Click", [this] { Command8_Click(); });
+    map.events<&Form2::Command1_Click, &Form2::Command2_Click, &Form2::Command3_Click, &Form2::Command7_Click,
+               &Form2::Command8_Click, &Form2::txt_url_LostFocus, &Form2::Text2_LostFocus>(*this);
 }
 
 void Form2::Form_Load() {
-    marcar_forma(screen_number, true);
     // What the last project left shows here in a new one, too.
     if (!module1().url_sitio.empty()) txt_url[0].text = module1().url_sitio;
     if (!module1().url_webmaster.empty()) txt_url[2].text = module1().url_webmaster;
     if (module1().pid_actual != 0) Command2.caption = u"Modify/Next";
     if (!dir_exists(projects_folder())) MkDir(projects_folder());
-}
-
-void Form2::Form_Unload() {
-    marcar_forma(screen_number, false);
 }
 
 Text Form2::site_name_refusal() const {

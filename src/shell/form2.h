@@ -15,45 +15,51 @@ class Form2 {
   public:
     static constexpr const char* name = "Form2";
     static constexpr TextView title = u"Step 1 of 6 - Project Properties";
+    static constexpr bool marked = true;
 
-    Label lbl_name{u"Project Name:"};
-    std::array<TextBox, 1> txt_name;
-    Label lbl_name_note{u"Will be used as project's directory name"};
-    Label lbl_site_name{u"Target Site Name:"};
-    std::array<TextBox, 1> Text2; ///< Target Site Name
-    Label lbl_site_url{u"Target Site URL:"};
-    Label lbl_other_url{u"Other Target URL:"};
-    Label lbl_webmaster_url{u"Webmaster URL:"};
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(Label, lbl_name, u"Project Name:");
+    TWK_CONTROLS(TextBox, 1, txt_name);
+    TWK_CONTROL(Label, lbl_name_note, u"Will be used as project's directory name");
+    TWK_CONTROL(Label, lbl_site_name, u"Target Site Name:");
+    TWK_CONTROLS(TextBox, 1, Text2); ///< Target Site Name
+    TWK_CONTROL(Label, lbl_site_url, u"Target Site URL:");
+    TWK_CONTROL(Label, lbl_other_url, u"Other Target URL:");
+    TWK_CONTROL(Label, lbl_webmaster_url, u"Webmaster URL:");
     /// Target Site URL, entry of another target URL, Webmaster URL.
-    std::array<TextBox, 3> txt_url{TextBox{u"http://"}, TextBox{u"http://"}, TextBox{u"http://"}};
-    ListBox List1; ///< the other target URLs
-    CommandButton Command7{u"Add"};
-    CommandButton Command8{u"Delete"};
-    Label lbl_subject{u"Subject:"};
-    Label lbl_category{u"Category:"};
-    Label lbl_description{u"Description:"};
-    std::array<TextBox, 3> txt_dat; ///< subject, category, description
-    Label lbl_webmaster{u"Webmaster Name:"};
-    Label lbl_optional{u"This is Optional"};
-    TextBox Text7; ///< webmaster's name
-    CommandButton Command2{u"&Next"};
-    CommandButton Command1{u"&Exit"};
-    CommandButton Command3{u"&Help"};
+    TWK_CONTROLS(TextBox, 3, txt_url, u"http://", u"http://", u"http://");
+    TWK_CONTROL(ListBox, List1); ///< the other target URLs
+    TWK_CONTROL(CommandButton, Command7, u"Add");
+    TWK_CONTROL(CommandButton, Command8, u"Delete");
+    TWK_CONTROL(Label, lbl_subject, u"Subject:");
+    TWK_CONTROL(Label, lbl_category, u"Category:");
+    TWK_CONTROL(Label, lbl_description, u"Description:");
+    TWK_CONTROLS(TextBox, 3, txt_dat); ///< subject, category, description
+    TWK_CONTROL(Label, lbl_webmaster, u"Webmaster Name:");
+    TWK_CONTROL(Label, lbl_optional, u"This is Optional");
+    TWK_CONTROL(TextBox, Text7); ///< webmaster's name
+    TWK_CONTROL(CommandButton, Command2, u"&Next");
+    TWK_CONTROL(CommandButton, Command1, u"&Exit");
+    TWK_CONTROL(CommandButton, Command3, u"&Help");
 
-    Label lbl_about_site{
+    TWK_CONTROL(
+        Label, lbl_about_site,
         u"Target Site is the website that you want to lead visitors to. The Site Name is used in the gateway "
-        u"pages as part of the title, also is the text for the links to the target URL. 2 or 3 words is optimal."};
-    Label lbl_about_other{u"It's convenient to include secondary  pages from the target website."};
-    Label lbl_about_url{u"Gateway pages can link to a domain, subdomain, directory, or file, such as:"};
-    std::array<Label, 3> lbl_sample{Label{u"http://www.example.com"}, Label{u"http://shop.example.com"},
-                                    Label{u"http://www.example.com/page.htm"}};
-    Label lbl_about_description{
+        u"pages as part of the title, also is the text for the links to the target URL. 2 or 3 words is optimal.");
+    TWK_CONTROL(Label, lbl_about_other,
+                u"It's convenient to include secondary  pages from the target website.");
+    TWK_CONTROL(Label, lbl_about_url,
+                u"Gateway pages can link to a domain, subdomain, directory, or file, such as:");
+    TWK_CONTROLS(Label, 3, lbl_sample, u"http://www.example.com", u"http://shop.example.com",
+                 u"http://www.example.com/page.htm");
+    TWK_CONTROL(
+        Label, lbl_about_description,
         u"A brief, accurate description of what your target site is about is very important for most search "
-        u"engines."};
+        u"engines.");
 
     void enumerate(ScreenMap& map);
     void Form_Load();
-    void Form_Unload();
     void Text2_LostFocus(int index);
     void txt_url_LostFocus(int index);
     void Command1_Click();

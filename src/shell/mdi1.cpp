@@ -35,15 +35,8 @@ const std::vector<MenuEntry>& mdi1::menu() {
 }
 
 void mdi1::enumerate(ScreenMap& map) {
-    map.event("a2", "Click", [this] { a2_Click(); });
-    map.event("a3", "Click", [this] { a3_Click(); });
-    map.event("a4", "Click", [this] { a4_Click(); });
-    map.event("b2", "Click", [this] { b2_Click(); });
-    map.event("b3", "Click", [this] { b3_Click(); });
-    map.event("c1", "Click", [this] { c1_Click(); });
-    map.event("c2", "Click", [this] { c2_Click(); });
-    map.event("c3", "Click", [this] { c3_Click(); });
-    map.event("D", "Click", [this] { D_Click(); });
+    map.events<&mdi1::a2_Click, &mdi1::a3_Click, &mdi1::a4_Click, &mdi1::b2_Click, &mdi1::b3_Click,
+               &mdi1::c1_Click, &mdi1::c2_Click, &mdi1::c3_Click, &mdi1::D_Click>(*this);
 }
 
 void mdi1::a2_Click() {

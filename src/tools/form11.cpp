@@ -9,13 +9,8 @@
 namespace twk {
 
 void Form11::Form_Load() {
-    marcar_forma(11, true);
     wb1.silent = true;
     desktop().navigate(wb1, screen<Form5>().Text2.text());
-}
-
-void Form11::Form_Unload() {
-    marcar_forma(11, false);
 }
 
 void Form11::wb1_NavigateComplete() {
@@ -49,20 +44,9 @@ void Form11::Command1_Click() {
 }
 
 void Form11::enumerate(ScreenMap& map) {
-    map.control("wb1", wb1);
-    map.control("Text1", Text1);
-    map.control("Command5", Command5);
-    map.control("Command2", Command2);
-    map.control("Command3", Command3);
-    map.control("Command4", Command4);
-    map.control("Command1", Command1);
-    map.event("wb1", "NavigateComplete", [this] { wb1_NavigateComplete(); });
     map.event("Text1", "Enter", [this] { Command5_Click(); });
-    map.event("Command1", "Click", [this] { Command1_Click(); });
-    map.event("Command2", "Click", [this] { Command2_Click(); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
-    map.event("Command4", "Click", [this] { Command4_Click(); });
-    map.event("Command5", "Click", [this] { Command5_Click(); });
+    map.events<&Form11::wb1_NavigateComplete, &Form11::Command1_Click, &Form11::Command2_Click,
+               &Form11::Command3_Click, &Form11::Command4_Click, &Form11::Command5_Click>(*this);
 }
 
 } // namespace twk

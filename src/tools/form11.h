@@ -10,18 +10,20 @@ class Form11 {
   public:
     static constexpr const char* name = "Form11";
     static constexpr TextView title = u"Web Browser";
+    static constexpr bool marked = true;
 
-    WebBrowser wb1;
-    TextBox Text1; ///< address; follows the page that has loaded
-    CommandButton Command5{u"Go!"};
-    CommandButton Command2{u"Back"};
-    CommandButton Command3{u"Forward"};
-    CommandButton Command4{u"Home"};
-    CommandButton Command1{u"Pick up DOCUMENT TEXT and copy to content box"};
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(WebBrowser, wb1);
+    TWK_CONTROL(TextBox, Text1); ///< address; follows the page that has loaded
+    TWK_CONTROL(CommandButton, Command5, u"Go!");
+    TWK_CONTROL(CommandButton, Command2, u"Back");
+    TWK_CONTROL(CommandButton, Command3, u"Forward");
+    TWK_CONTROL(CommandButton, Command4, u"Home");
+    TWK_CONTROL(CommandButton, Command1, u"Pick up DOCUMENT TEXT and copy to content box");
 
     void enumerate(ScreenMap& map);
     void Form_Load();
-    void Form_Unload();
     void wb1_NavigateComplete();
     void Command1_Click();
     void Command2_Click();

@@ -13,9 +13,11 @@ class Form16 {
 
     Form16() { Text1.read_only = true; }
 
-    Label Label1;
-    TextBox Text1; ///< the log
-    CommandButton Command1{u"Close"};
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(Label, Label1);
+    TWK_CONTROL(TextBox, Text1); ///< the log
+    TWK_CONTROL(CommandButton, Command1, u"Close");
 
     void enumerate(ScreenMap& map);
     void Command1_Click();

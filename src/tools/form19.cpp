@@ -155,20 +155,8 @@ void Form19::Command4_Click() {
 }
 
 void Form19::enumerate(ScreenMap& map) {
-    map.control("wb1", wb1);
-    map.control("Label4", Label4);
-    map.control("List1", List1);
-    map.control("Command5", Command5);
-    map.control("Command1", Command1);
-    map.control("Command4", Command4);
-    map.control("Frame2", Frame2);
-    map.control("Label7", Label7);
-    map.control("Label6", Label6);
-    map.control("Command11", Command11);
-    map.event("Command5", "Click", [this] { Command5_Click(); });
-    map.event("Command1", "Click", [this] { Command1_Click(); });
-    map.event("Command4", "Click", [this] { Command4_Click(); });
-    map.event("Command11", "Click", [this] { Command11_Click(); });
+    map.events<&Form19::Command5_Click, &Form19::Command1_Click, &Form19::Command4_Click,
+               &Form19::Command11_Click>(*this);
 }
 
 } // namespace twk

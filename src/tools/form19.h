@@ -18,19 +18,22 @@ class Form19 {
 
     Form19() { List1.tick_marks = true; }
 
-    WebBrowser wb1;
-    Label Label4{u"This list of keywords and subkeywords can be usefull in your project."};
-    ListBox List1; ///< the suggestions
-    CommandButton Command5{u"Use keywords"};
-    CommandButton Command1{u"Help"};
-    CommandButton Command4{u"Cancel"};
-    Frame Frame2{u"Help"};
-    Label Label7{u"Keyword Wizard"};
-    Label Label6{
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(WebBrowser, wb1);
+    TWK_CONTROL(Label, Label4, u"This list of keywords and subkeywords can be usefull in your project.");
+    TWK_CONTROL(ListBox, List1); ///< the suggestions
+    TWK_CONTROL(CommandButton, Command5, u"Use keywords");
+    TWK_CONTROL(CommandButton, Command1, u"Help");
+    TWK_CONTROL(CommandButton, Command4, u"Cancel");
+    TWK_CONTROL(Frame, Frame2, u"Help");
+    TWK_CONTROL(Label, Label7, u"Keyword Wizard");
+    TWK_CONTROL(
+        Label, Label6,
         u"This feature provides you a list of suggested keywords and subkeywords for your project according "
         u"to the keywords you have previously added. Just check or uncheck the keywords you want to export "
-        u"from this screen into your keywords list by clicking \"Use Keywords\"."};
-    CommandButton Command11{u"Close"};
+        u"from this screen into your keywords list by clicking \"Use Keywords\".");
+    TWK_CONTROL(CommandButton, Command11, u"Close");
 
     void enumerate(ScreenMap& map);
     void Form_Load();

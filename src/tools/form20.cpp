@@ -105,67 +105,13 @@ void Form20::Command13_Click() {
 }
 
 void Form20::enumerate(ScreenMap& map) {
-    map.control("wb1", wb1);
-    map.control("Text2", Text2);
-    map.control("Command8", Command8);
-    map.control("Command6", Command6);
-    map.control("Command3", Command3);
-    map.control("Command4", Command4);
-    map.control("Command7", Command7);
-    map.control("Command11", Command11);
-    map.control("Command5", Command5);
-    map.control("Frame1", Frame1);
-    map.control("Label2", Label2);
-    map.control("Command1", Command1);
-    map.control("Frame2", Frame2);
-    map.control("Text1", Text1);
-    map.control("ProgressBar2", ProgressBar2);
-    map.control("Command14", Command14);
-    map.control("Command15", Command15);
-    map.control("Frame3", Frame3);
-    map.control("List1", List1);
-    map.control("Command13", Command13);
-    map.control("Command12", Command12);
-    map.control("Frame5", Frame5);
-    map.control("Label1", Label1);
-    map.control("Label8", Label8);
-    map.control("Inet1", Inet1);
-    enumerate_options(map);
-    map.event("Command1", "Click", [this] { Command1_Click(); });
-    map.event("Command2", "Click", [this] { Command2_Click(); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
-    map.event("Command4", "Click", [this] { Command4_Click(); });
-    map.event("Command5", "Click", [this] { Command5_Click(); });
-    map.event("Command6", "Click", [this] { Command6_Click(); });
-    map.event("Command7", "Click", [this] { Command7_Click(); });
-    map.event("Command8", "Click", [this] { Command8_Click(); });
-    map.event("Command9", "Click", [this] { Command9_Click(); });
-    map.event("Command10", "Click", [this] { Command10_Click(); });
-    map.event("Command11", "Click", [this] { Command11_Click(); });
-    map.event("Command12", "Click", [this] { Command12_Click(); });
-    map.event("Command13", "Click", [this] { Command13_Click(); });
-    map.event("Command14", "Click", [this] { Command14_Click(); });
-    map.event("Command15", "Click", [this] { Command15_Click(); });
-    map.event("Label8", "Click", [this] { Label8_Click(); });
     map.event("Text2", "Enter", [this] { Command8_Click(); });
-}
-
-void Form20::enumerate_options(ScreenMap& map) {
-    map.control("Frame4", Frame4);
-    map.control("Label3", Label3);
-    map.control("combo1", combo1);
-    map.control("Label5", Label5);
-    map.control("Check1", Check1);
-    map.control("List2", List2);
-    map.control("Text3", Text3);
-    map.control("Command9", Command9);
-    map.control("Command10", Command10);
-    map.control("Label6", Label6);
-    map.control("Check2", Check2);
-    map.control("lbl_related", lbl_related);
-    map.control("Label7", Label7);
-    map.control("Text4", Text4);
-    map.control("Command2", Command2);
+    map.events<
+        &Form20::Command1_Click, &Form20::Command2_Click, &Form20::Command3_Click, &Form20::Command4_Click,
+        &Form20::Command5_Click, &Form20::Command6_Click, &Form20::Command7_Click, &Form20::Command8_Click,
+        &Form20::Command9_Click, &Form20::Command10_Click, &Form20::Command11_Click, &Form20::Command12_Click,
+        &Form20::Command13_Click, &Form20::Command14_Click, &Form20::Command15_Click, &Form20::Label8_Click>(
+        *this);
 }
 
 } // namespace twk

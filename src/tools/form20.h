@@ -17,55 +17,60 @@ class Form20 {
 
     Form20();
 
-    WebBrowser wb1; ///< the results page
-    TextBox Text2;  ///< address
-    CommandButton Command8{u"Go!"};
-    CommandButton Command6{u"Back"};
-    CommandButton Command3{u"Forward"};
-    CommandButton Command4{u"Home"};
-    CommandButton Command7{u"Spider"}; ///< reads "Cancell" while a pass runs, and that is all that tells so
-    CommandButton Command11{u"Configure Spider"};
-    CommandButton Command5{u"Close"};
+    ScreenMap map; ///< the controls below enter themselves
 
-    Frame Frame1{u"Spider Instructions"};
-    Label Label2{
+    TWK_CONTROL(WebBrowser, wb1); ///< the results page
+    TWK_CONTROL(TextBox, Text2);  ///< address
+    TWK_CONTROL(CommandButton, Command8, u"Go!");
+    TWK_CONTROL(CommandButton, Command6, u"Back");
+    TWK_CONTROL(CommandButton, Command3, u"Forward");
+    TWK_CONTROL(CommandButton, Command4, u"Home");
+    TWK_CONTROL(CommandButton, Command7,
+                u"Spider"); ///< reads "Cancell" while a pass runs, and that is all that tells so
+    TWK_CONTROL(CommandButton, Command11, u"Configure Spider");
+    TWK_CONTROL(CommandButton, Command5, u"Close");
+
+    TWK_CONTROL(Frame, Frame1, u"Spider Instructions");
+    TWK_CONTROL(
+        Label, Label2,
         u"Load any Search Engine and click \"Spider\". TWK will extract the contents of the keyword metatags "
-        u"in the results page."};
-    CommandButton Command1{u"Help"};
+        u"in the results page.");
+    TWK_CONTROL(CommandButton, Command1, u"Help");
 
-    Frame Frame2{u"Spider Process"};
-    TextBox Text1; ///< the log, newest entry first
-    ProgressBar ProgressBar2;
-    CommandButton Command14{u"View Log"};
-    CommandButton Command15{u"Reset"};
+    TWK_CONTROL(Frame, Frame2, u"Spider Process");
+    TWK_CONTROL(TextBox, Text1); ///< the log, newest entry first
+    TWK_CONTROL(ProgressBar, ProgressBar2);
+    TWK_CONTROL(CommandButton, Command14, u"View Log");
+    TWK_CONTROL(CommandButton, Command15, u"Reset");
 
-    Frame Frame3{u"Spider Results"};
-    ListBox List1;
-    CommandButton Command13{u"Send to project"};
-    CommandButton Command12{u"Reset"};
+    TWK_CONTROL(Frame, Frame3, u"Spider Results");
+    TWK_CONTROL(ListBox, List1);
+    TWK_CONTROL(CommandButton, Command13, u"Send to project");
+    TWK_CONTROL(CommandButton, Command12, u"Reset");
 
-    Frame Frame4{u"Spider Options"};
-    Label Label3{u"Max. # of pages to spider:"};
-    ComboBox combo1;
-    Label Label5{u"Exclude URLs with these words:"};
-    CheckBox Check1{u"", true};
-    ListBox List2;
-    TextBox Text3;
-    CommandButton Command9{u"Add"};
-    CommandButton Command10{u"Delete"};
-    Label Label6{u"Don't spider related URLs"};
-    CheckBox Check2{u"", true};
-    Label lbl_related{
+    TWK_CONTROL(Frame, Frame4, u"Spider Options");
+    TWK_CONTROL(Label, Label3, u"Max. # of pages to spider:");
+    TWK_CONTROL(ComboBox, combo1);
+    TWK_CONTROL(Label, Label5, u"Exclude URLs with these words:");
+    TWK_CONTROL(CheckBox, Check1, u"", true);
+    TWK_CONTROL(ListBox, List2);
+    TWK_CONTROL(TextBox, Text3);
+    TWK_CONTROL(CommandButton, Command9, u"Add");
+    TWK_CONTROL(CommandButton, Command10, u"Delete");
+    TWK_CONTROL(Label, Label6, u"Don't spider related URLs");
+    TWK_CONTROL(CheckBox, Check2, u"", true);
+    TWK_CONTROL(
+        Label, lbl_related,
         u"A results page may show several URLs for one site: its plain address and a \"related:\" address "
-        u"among them."};
-    Label Label7{u"Request TimeOut (seconds):"};
-    TextBox Text4{u"60"};
-    CommandButton Command2{u"Go back"};
+        u"among them.");
+    TWK_CONTROL(Label, Label7, u"Request TimeOut (seconds):");
+    TWK_CONTROL(TextBox, Text4, u"60");
+    TWK_CONTROL(CommandButton, Command2, u"Go back");
 
-    Frame Frame5{u"Wait"};
-    Label Label1{u"Please wait..."};
-    Label Label8{u"The TWK Keyword Thief is working. "}; ///< a click hides the frame
-    Inet Inet1;
+    TWK_CONTROL(Frame, Frame5, u"Wait");
+    TWK_CONTROL(Label, Label1, u"Please wait...");
+    TWK_CONTROL(Label, Label8, u"The TWK Keyword Thief is working. "); ///< a click hides the frame
+    TWK_CONTROL(Inet, Inet1);
 
     void enumerate(ScreenMap& map);
     void Form_Load();
@@ -102,7 +107,6 @@ class Form20 {
     int time_outs = 0; ///< time-outs of the pass
 
   private:
-    void enumerate_options(ScreenMap& map);
     bool running() const;
     void log(const Text& entry);
     void take_links(int limit);

@@ -32,12 +32,7 @@ void Form21::cmdgoback_Click() {
 }
 
 void Form21::enumerate(ScreenMap& map) {
-    map.control("WebBrowser1", WebBrowser1);
-    map.control("Text1", Text1);
-    map.control("cmdrefresh", cmdrefresh);
-    map.control("cmdgoback", cmdgoback);
-    map.event("cmdrefresh", "Click", [this] { cmdrefresh_Click(); });
-    map.event("cmdgoback", "Click", [this] { cmdgoback_Click(); });
+    map.events<&Form21::cmdrefresh_Click, &Form21::cmdgoback_Click>(*this);
 }
 
 } // namespace twk

@@ -11,10 +11,12 @@ class Form21 {
     static constexpr const char* name = "Form21";
     static constexpr TextView title = u"Web Browser";
 
-    WebBrowser WebBrowser1;
-    TextBox Text1; ///< the HTML of the box
-    CommandButton cmdrefresh{u"Refresh"};
-    CommandButton cmdgoback{u"Go Back"};
+    ScreenMap map; ///< the controls below enter themselves
+
+    TWK_CONTROL(WebBrowser, WebBrowser1);
+    TWK_CONTROL(TextBox, Text1); ///< the HTML of the box
+    TWK_CONTROL(CommandButton, cmdrefresh, u"Refresh");
+    TWK_CONTROL(CommandButton, cmdgoback, u"Go Back");
 
     void enumerate(ScreenMap& map);
     void cmdrefresh_Click();

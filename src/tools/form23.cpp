@@ -31,6 +31,7 @@ double progress(int last, int index) {
 } // namespace
 
 void Form23::Form_Load() {
+    Option1[0].value = true;
     combo1.clear();
     combo1.text = u"Pick a project";
     Dir2.set_path(app_path());
@@ -184,49 +185,10 @@ void Form23::Command3_Click() {
 }
 
 void Form23::enumerate(ScreenMap& map) {
-    map.controls("Frame1", Frame1);
-    map.control("Label46", Label46);
-    map.control("Drive2", Drive2);
-    map.control("Dir2", Dir2);
-    map.control("Text1", Text1);
-    map.control("Label1", Label1);
-    map.control("Text2", Text2);
-    map.control("Check1", Check1);
-    map.controls("Option1", Option1);
-    map.control("Label2", Label2);
-    map.control("Text3", Text3);
-    map.control("Label3", Label3);
-    map.control("Text4", Text4);
-    map.control("Check2", Check2);
-    map.control("Check3", Check3);
-    map.control("cmdFindAll", cmdFindAll);
-    map.control("lbl_warning", lbl_warning);
-    map.control("Label4", Label4);
-    map.control("combo1", combo1);
-    map.control("Label5", Label5);
-    map.control("List1", List1);
-    map.control("cmdTWK", cmdTWK);
-    map.control("gridReplace", gridReplace);
-    map.control("Command1", Command1);
-    map.control("Command5", Command5);
-    map.control("Text5", Text5);
-    map.control("ProgressBar1", ProgressBar1);
-    map.control("Command2", Command2);
-    map.control("Command7", Command7);
-    map.control("Command3", Command3);
-    map.control("dir_escondido", dir_escondido);
-    map.control("file_escondido", file_escondido);
-    map.event("Drive2", "Change", [this] { Drive2_Change(); });
-    map.event("Dir2", "Change", [this] { Dir2_Change(); });
-    for (int i = 0; i < 2; ++i) map.event("Option1", i, "Click", [this, i] { Option1_Click(i); });
-    map.event("Check3", "Click", [this] { Check3_Click(); });
-    map.event("cmdFindAll", "Click", [this] { cmdFindAll_Click(); });
-    map.event("cmdTWK", "Click", [this] { cmdTWK_Click(); });
-    map.event("Command1", "Click", [this] { Command1_Click(); });
-    map.event("Command2", "Click", [this] { Command2_Click(); });
-    map.event("Command3", "Click", [this] { Command3_Click(); });
-    map.event("Command5", "Click", [this] { Command5_Click(); });
-    map.event("Command7", "Click", [this] { Command7_Click(); });
+    map.events<&Form23::Drive2_Change, &Form23::Dir2_Change, &Form23::Check3_Click, &Form23::cmdFindAll_Click,
+               &Form23::cmdTWK_Click, &Form23::Command1_Click, &Form23::Command2_Click,
+               &Form23::Command3_Click, &Form23::Command5_Click, &Form23::Command7_Click,
+               &Form23::Option1_Click>(*this);
 }
 
 } // namespace twk

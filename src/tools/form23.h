@@ -21,49 +21,51 @@ class Form23 {
     /// Places in `Frame1`.
     enum FrameIndex : std::size_t { all_files, placeholders, grid, results };
 
-    std::array<Frame, 4> Frame1{Frame{u"All File - Find and Replace"},
-                                Frame{u"TWK Generated HTM - PlaceHolders"}, Frame{u"PlaceHolders"},
-                                Frame{u"Results"}};
+    ScreenMap map; ///< the controls below enter themselves
 
-    Label Label46{u"Select the paht in which you will be looking for PlaceHolders..."};
-    DriveListBox Drive2;
-    DirListBox Dir2;
-    TextBox Text1; ///< the folder
-    Label Label1{u"Insert a criteria to select files..."};
-    TextBox Text2{u"*.htm"};
-    CheckBox Check1{u"Recurse Subdirectories?"};
-    std::array<OptionButton, 2> Option1{OptionButton{u"All Files - Find and Replace", true},
-                                        OptionButton{u"TWK Generatd HTM - PlaceHolders"}};
+    TWK_CONTROLS(Frame, 4, Frame1, u"All File - Find and Replace", u"TWK Generated HTM - PlaceHolders",
+                 u"PlaceHolders", u"Results");
 
-    Label Label2{u"Insert a string to FIND ..."};
-    TextBox Text3;
-    Label Label3{u"Insert a string to REPLACE ..."};
-    TextBox Text4;
-    CheckBox Check2{u"Case-Sensitive Match?"}; ///< nothing reads it
-    CheckBox Check3{u"Find Only?"};
-    CommandButton cmdFindAll{u"Find and Replace"};
-    Label lbl_warning{
+    TWK_CONTROL(Label, Label46, u"Select the paht in which you will be looking for PlaceHolders...");
+    TWK_CONTROL(DriveListBox, Drive2);
+    TWK_CONTROL(DirListBox, Dir2);
+    TWK_CONTROL(TextBox, Text1); ///< the folder
+    TWK_CONTROL(Label, Label1, u"Insert a criteria to select files...");
+    TWK_CONTROL(TextBox, Text2, u"*.htm");
+    TWK_CONTROL(CheckBox, Check1, u"Recurse Subdirectories?");
+    TWK_CONTROLS(OptionButton, 2, Option1, u"All Files - Find and Replace",
+                 u"TWK Generatd HTM - PlaceHolders");
+
+    TWK_CONTROL(Label, Label2, u"Insert a string to FIND ...");
+    TWK_CONTROL(TextBox, Text3);
+    TWK_CONTROL(Label, Label3, u"Insert a string to REPLACE ...");
+    TWK_CONTROL(TextBox, Text4);
+    TWK_CONTROL(CheckBox, Check2, u"Case-Sensitive Match?"); ///< nothing reads it
+    TWK_CONTROL(CheckBox, Check3, u"Find Only?");
+    TWK_CONTROL(CommandButton, cmdFindAll, u"Find and Replace");
+    TWK_CONTROL(
+        Label, lbl_warning,
         u"Lines without the text to find are lost from the files, and there is no backup. Run it with "
-        u"\"Find Only?\" first."};
+        u"\"Find Only?\" first.");
 
-    Label Label4{u"Select a project to use its keywords..."};
-    ComboBox combo1{u"Pick a project"};
-    Label Label5{u"Select elements to replace..."};
-    ListBox List1;
-    CommandButton cmdTWK{u"Next"};
+    TWK_CONTROL(Label, Label4, u"Select a project to use its keywords...");
+    TWK_CONTROL(ComboBox, combo1, u"Pick a project");
+    TWK_CONTROL(Label, Label5, u"Select elements to replace...");
+    TWK_CONTROL(ListBox, List1);
+    TWK_CONTROL(CommandButton, cmdTWK, u"Next");
 
-    Grid gridReplace;
-    CommandButton Command1{u"Find and Replace"};
-    CommandButton Command5{u"Close/Cancel"};
+    TWK_CONTROL(Grid, gridReplace);
+    TWK_CONTROL(CommandButton, Command1, u"Find and Replace");
+    TWK_CONTROL(CommandButton, Command5, u"Close/Cancel");
 
-    TextBox Text5; ///< the log
-    ProgressBar ProgressBar1;
-    CommandButton Command2{u"Close"};
+    TWK_CONTROL(TextBox, Text5); ///< the log
+    TWK_CONTROL(ProgressBar, ProgressBar1);
+    TWK_CONTROL(CommandButton, Command2, u"Close");
 
-    CommandButton Command7{u"Help"};
-    CommandButton Command3{u"Exit"};
-    DirListBox dir_escondido;
-    FileListBox file_escondido;
+    TWK_CONTROL(CommandButton, Command7, u"Help");
+    TWK_CONTROL(CommandButton, Command3, u"Exit");
+    TWK_CONTROL(DirListBox, dir_escondido);
+    TWK_CONTROL(FileListBox, file_escondido);
 
     void enumerate(ScreenMap& map);
     void Form_Load();

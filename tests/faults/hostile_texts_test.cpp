@@ -115,8 +115,8 @@ TEST_F(HostileTexts, ApostrophesInStepOne) {
     for (TextBox& box : step1.txt_dat) box.text = u"text";
     const std::string rows = app.all_rows();
     for (const Text attack : attacks) {
-        for (TextBox* box :
-             {&step1.txt_dat[0], &step1.txt_dat[1], &step1.txt_dat[2], &step1.Text7, &step1.txt_url[2]}) {
+        for (TextBox* box : std::initializer_list<TextBox*>{
+                 &step1.txt_dat[0], &step1.txt_dat[1], &step1.txt_dat[2], &step1.Text7, &step1.txt_url[2]}) {
             const Text before = box->text();
             box->text = attack;
             refused<Form2>("Command2", attack);

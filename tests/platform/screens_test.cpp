@@ -22,14 +22,13 @@ struct Counted {
 struct Sample {
     static constexpr const char* name = "Sample";
     static constexpr TextView title = u"A sample";
-    TextBox Text1;
-    std::array<CommandButton, 2> Command;
+    ScreenMap map;
+    TWK_CONTROL(TextBox, Text1);
+    TWK_CONTROLS(CommandButton, 2, Command);
     Counted counted;
     int loads = 0;
 
     void enumerate(ScreenMap& map) {
-        map.control("Text1", Text1);
-        map.controls("Command", Command);
         map.event("Command", 0, "Click", [this] { unload_itself(); });
         map.event("Command", 1, "Click", [] { throw RuntimeFault(fault_overflow); });
         map.event("Text1", "Change", [] { throw std::runtime_error("surprise"); });
@@ -48,20 +47,17 @@ struct Sample {
 struct Faulty {
     static constexpr const char* name = "Faulty";
     static constexpr TextView title = u"Faulty";
-    void enumerate(ScreenMap&) {}
     void Form_Load() { throw RuntimeFault(fault_store_missing, u"no store"); }
 };
 
 struct Other {
     static constexpr const char* name = "Other";
     static constexpr TextView title = u"Other";
-    void enumerate(ScreenMap&) {}
 };
 
 struct Hasty {
     static constexpr const char* name = "Hasty";
     static constexpr TextView title = u"Hasty";
-    void enumerate(ScreenMap&) {}
     void Form_Load() { screens().unload<Hasty>(); }
 };
 
