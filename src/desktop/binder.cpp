@@ -51,7 +51,7 @@ struct Owed {
 };
 
 std::deque<Owed> owed;
-bool settling = false;
+bool raising = false;
 
 void forget(const ScreenBinding& binding, const ScreenMap::Control& control, std::string_view event) {
     std::erase_if(owed, [&](const Owed& each) {
@@ -132,13 +132,6 @@ void ScreenBinding::fire(const ScreenMap::Control& control, const char* event) {
     if (after_event) after_event();
 }
 
-bool ScreenBinding::fire_form(const char* event) {
-    if (screen_ == nullptr || screen_->map.find_event("Form", event) == nullptr) return false;
-    screens().fire(*screen_, "Form", event);
-    if (after_event) after_event();
-    return true;
-}
-
 void ScreenBinding::run(const std::function<void()>& event) {
     if (screen_ == nullptr) return;
     screens().dispatch(event);
@@ -147,7 +140,7 @@ void ScreenBinding::run(const std::function<void()>& event) {
 
 void ScreenBinding::act(const ScreenMap::Control& control, const char* event) {
     forget(*this, control, event);
-    settle();
+    raise_owed();
     fire(control, event);
 }
 
@@ -155,21 +148,21 @@ void ScreenBinding::owe(const ScreenMap::Control& control, const char* event) {
     if (!has_event(control, event)) return;
     forget(*this, control, event);
     owed.push_back({this, &control, event});
-    QTimer::singleShot(0, this, &ScreenBinding::settle_when_idle);
+    QTimer::singleShot(0, this, &ScreenBinding::raise_owed_when_idle);
 }
 
-void ScreenBinding::settle_when_idle() {
+void ScreenBinding::raise_owed_when_idle() {
     constexpr int while_held = 10; // milliseconds
     if (owed.empty()) return;
-    if (settling || QGuiApplication::mouseButtons() != Qt::NoButton)
-        QTimer::singleShot(while_held, this, &ScreenBinding::settle_when_idle);
+    if (raising || QGuiApplication::mouseButtons() != Qt::NoButton)
+        QTimer::singleShot(while_held, this, &ScreenBinding::raise_owed_when_idle);
     else
-        settle();
+        raise_owed();
 }
 
-bool ScreenBinding::settle() {
-    if (settling) return false; // an event that is owed shows a message, and others go on meanwhile
-    settling = true;
+bool ScreenBinding::raise_owed() {
+    if (raising) return false; // an event that is owed shows a message, and others go on meanwhile
+    raising = true;
     bool taken_back = false;
     while (!owed.empty()) {
         const Owed next = owed.front();
@@ -178,7 +171,7 @@ bool ScreenBinding::settle() {
         if (next.binding != nullptr) next.binding->fire(*next.control, next.event.data());
         taken_back |= next.event == "LostFocus" && times_focus_given() != given;
     }
-    settling = false;
+    raising = false;
     return taken_back;
 }
 

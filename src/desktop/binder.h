@@ -29,7 +29,6 @@ class ScreenBinding : public QObject {
 
     /// Raises an event of the screen. Nothing happens when the screen has none of that name or is gone.
     void fire(const ScreenMap::Control& control, const char* event);
-    bool fire_form(const char* event);
     /// Runs something that may end in a fault, as an event does.
     void run(const std::function<void()>& event);
     /// Raises an event that the user's hand has caused, behind all that is owed.
@@ -39,7 +38,7 @@ class ScreenBinding : public QObject {
     void owe(const ScreenMap::Control& control, const char* event);
     /// Raises what is owed to all screens, in the order in which it happened. Gives whether something that
     /// the user has left has taken the focus back.
-    static bool settle();
+    static bool raise_owed();
 
     bool has_event(const ScreenMap::Control& control, const char* event) const;
     /// The control that a widget shows, null for none.
@@ -59,7 +58,7 @@ class ScreenBinding : public QObject {
   private:
     void bind_controls(QWidget& form);
     void check_events();
-    void settle_when_idle();
+    void raise_owed_when_idle();
 
     Screen* screen_;
     std::set<std::string> offered_;

@@ -120,7 +120,7 @@ void BrowserView::follow(const QWebEngineLoadingInfo& loading) {
     loading_ = loading.status() == QWebEngineLoadingInfo::LoadStartedStatus;
     if (loading_) told_ = false;
     if (!another || is(asked_)) pending_ = false;
-    settle();
+    tell_end();
 }
 
 /// A change of address without loading is a navigation within the page.
@@ -128,11 +128,11 @@ void BrowserView::take_address(const QUrl& url) {
     Q_EMIT located(url.toString(QUrl::FullyEncoded));
     if (asked_.isEmpty() || url == asked_) pending_ = false;
     if (!busy()) told_ = false;
-    settle();
+    tell_end();
 }
 
 /// Tells the end of a navigation, once.
-void BrowserView::settle() {
+void BrowserView::tell_end() {
     if (busy() || told_) return;
     told_ = true;
     if (html_.isEmpty()) Q_EMIT finished();
@@ -143,7 +143,7 @@ void BrowserView::settle() {
 void BrowserView::look_after() {
     if (answered_) {
         pending_ = false;
-        settle();
+        tell_end();
         return;
     }
     answered_ = true;
@@ -160,7 +160,7 @@ void BrowserView::process_ended() {
         go_();
     } else {
         pending_ = loading_ = false;
-        settle();
+        tell_end();
     }
 }
 
@@ -207,7 +207,7 @@ void BrowserView::leave_page(const QUrl& asked, std::function<void()> go) {
                                      });
     watch_.start(begun_ ? patience : patience_at_start);
     go_();
-    QTimer::singleShot(0, this, &BrowserView::settle);
+    QTimer::singleShot(0, this, &BrowserView::tell_end);
 }
 
 void BrowserView::show_html(const QString& html) {

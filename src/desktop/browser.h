@@ -54,7 +54,7 @@ class BrowserView : public QWidget {
     void take_address(const QUrl& url);
     void look_after();
     void process_ended();
-    void settle();
+    void tell_end();
     void show_waiting_html();
     QVariant ask_page(const QString& script);
 

@@ -152,7 +152,7 @@ bool link(const ControlLink<CommandButton>& link) {
     QObject::connect(button, &QAbstractButton::clicked, &link.binding, [link, button] {
         const auto* const push = qobject_cast<const QPushButton*>(button);
         // A box that has refused what it holds, and said so, need not be refused once more by Next.
-        if (ScreenBinding::settle() && push != nullptr && push->isDefault()) return;
+        if (ScreenBinding::raise_owed() && push != nullptr && push->isDefault()) return;
         link.binding.fire(link.name, "Click");
     });
     link.binding.offer(link.name, "Click");
@@ -174,8 +174,7 @@ bool link(const ControlLink<CheckBox>& link) {
     auto* const box = qobject_cast<QCheckBox*>(&link.widget);
     if (box == nullptr) return false;
     watch_control(link, {Prop::caption, Prop::value}, [box, &control = link.control](Prop changed) {
-        if (changed == Prop::caption && !control.caption().empty())
-            box->setText(wrapped(to_qt(control.caption()), caption_columns));
+        if (changed == Prop::caption) box->setText(wrapped(to_qt(control.caption()), caption_columns));
         if (changed == Prop::value) box->setChecked(control.value());
     });
     QObject::connect(box, &QCheckBox::clicked, &link.binding, [link](bool on) {
@@ -191,8 +190,7 @@ bool link(const ControlLink<OptionButton>& link) {
     auto* const option = qobject_cast<QRadioButton*>(&link.widget);
     if (option == nullptr) return false;
     watch_control(link, {Prop::caption, Prop::value}, [option, &control = link.control](Prop changed) {
-        if (changed == Prop::caption && !control.caption().empty())
-            option->setText(wrapped(to_qt(control.caption()), caption_columns));
+        if (changed == Prop::caption) option->setText(wrapped(to_qt(control.caption()), caption_columns));
         if (changed != Prop::value) return;
         // The screen sets the group's options one by one, all off included.
         option->setAutoExclusive(false);

@@ -155,10 +155,10 @@ std::optional<FontChoice> QtDesktop::ask_font(const FontChoice& start) {
 }
 
 void QtDesktop::DoEvents() {
-    if (!pumped_.isValid() || pumped_.nsecsElapsed() >= pause_.count()) settle();
+    if (!pumped_.isValid() || pumped_.nsecsElapsed() >= pause_.count()) run_all_events();
 }
 
-void QtDesktop::settle() {
+void QtDesktop::run_all_events() {
     using namespace std::chrono_literals;
     QElapsedTimer took;
     took.start();

@@ -28,7 +28,7 @@ class QtDesktop : public Desktop {
 
     /// A call that comes within some 35 ms behind the end of the one before does nothing.
     void DoEvents() override;
-    void settle() override;
+    void run_all_events() override;
     void wait(std::chrono::milliseconds time, const std::function<bool()>& enough) override;
     void start(const Text& file_or_address) override;
     Text get_setting(TextView section, TextView key, const Text& fallback) override;

@@ -72,7 +72,7 @@ Text Transfer::fetch(Inet& inet, const Text& address) {
         throw RuntimeFault(fault_file_not_found);
 
     QNetworkRequest request(url);
-    request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Mozilla/5.0 (compatible; Tarnwick)"));
+    request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Tarnwick"));
     const std::unique_ptr<QNetworkReply, LaterDelete> reply(manager_.get(request));
     under_way_.push_back({&inet, reply.get()});
     QByteArray bytes;

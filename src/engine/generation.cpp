@@ -101,7 +101,7 @@ void run_phases(Run& run) {
         default: break;
         }
         run.lista_kw.clear();
-        desktop().settle();
+        desktop().run_all_events();
     }
     run.fase = 5;
 }

@@ -31,15 +31,14 @@ struct OpenPage {
 
     std::function<void()> written; ///< told of each page that is counted
 
-    /// Proves that the page itself can be opened, one that is missing being made empty in the end, and starts
-    /// `salida` on its sibling, the name plus "aux", and an empty record. Fault 75 when the path leaves the
-    /// project.
+    /// Proves that a page which is there can be read, and starts `salida` on its sibling, the name plus "aux",
+    /// and an empty record. Fault 75 when the path leaves the project.
     void open(const Text& path);
-    /// Closes both streams; the sibling takes the page's place. Counts the page.
+    /// Ends the sibling, which takes the page's place. Counts the page.
     void close();
     /// Counts a page that stands.
     void count();
-    /// Lets go of a page under way; one that was never replaced stands empty.
+    /// Lets go of a page under way; one that was not there before stands empty.
     void abandon();
     /// Bytes of a file, without a question for a page of the run.
     std::int64_t size_of(const Text& path) const;

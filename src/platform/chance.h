@@ -18,7 +18,6 @@ class Chance {
 
     /// Starts from `seed` mod 2^24 and lets no Randomize change it.
     void fix_seed(std::uint64_t seed);
-    void release_seed() { fixed_ = false; }
 
   private:
     static constexpr std::uint64_t modulus = 1u << 24;

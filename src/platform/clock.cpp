@@ -40,8 +40,4 @@ Text ahora() {
     return from_utf8(buffer);
 }
 
-void Sleep(int milliseconds) {
-    clock().sleep(std::chrono::milliseconds(milliseconds));
-}
-
 } // namespace twk

@@ -57,6 +57,4 @@ void set_clock(std::shared_ptr<Clock> clock);
 /// The present date and time in its default text form, "24/11/2026 10:18:05 a.m.".
 Text ahora();
 
-void Sleep(int milliseconds);
-
 } // namespace twk

@@ -71,8 +71,8 @@ class Desktop {
     /// over a call that comes too soon behind the one before, so that a loop may call this as often as it
     /// likes.
     virtual void DoEvents() = 0;
-    /// The same at the end of a stretch of work: nothing is passed over.
-    virtual void settle() { DoEvents(); }
+    /// The same at the end of a stretch of work: no call is passed over.
+    virtual void run_all_events() { DoEvents(); }
     /// Waits. With windows other events run meanwhile, any event of any screen among them, and the wait ends
     /// early as soon as `enough` says so; an empty one never does. Without windows the clock sleeps the time.
     virtual void wait(std::chrono::milliseconds time, const std::function<bool()>& enough);

@@ -42,9 +42,7 @@ RuntimeFault told_fault(int number, TextView sentence) {
 }
 
 Text fault_message(const RuntimeFault& fault) {
-    Text message = fault.advice;
-    if (!message.empty()) message += u"\n\n";
-    message += u"Run-time error '" + from_utf8(std::to_string(fault.number())) + u"':\n\n" + fault.text();
+    Text message = u"Run-time error '" + from_utf8(std::to_string(fault.number())) + u"':\n\n" + fault.text();
     if (!fault.stage.empty()) message += u"\n\n" + fault.stage;
     if (!fault.page.empty()) message += u"\n\nPage: " + fault.page;
     return message;

@@ -8,7 +8,7 @@
 
 namespace twk {
 
-/// Numbers of the faults that the platform and the store throw.
+/// Numbers of the faults.
 enum Fault : int {
     fault_argument = 5,
     fault_overflow = 6,
@@ -37,8 +37,8 @@ enum Fault : int {
     fault_timed_out = 35761,
 };
 
-/// A run-time fault: thrown by the platform and the store alone, caught by the few routines that trap faults
-/// and by the dispatcher of events.
+/// A run-time fault: ends the event under way, unless one of the few routines that trap faults stands
+/// between; the dispatcher of events shows it.
 class RuntimeFault : public std::exception {
   public:
     RuntimeFault(int number, Text text);
@@ -48,8 +48,6 @@ class RuntimeFault : public std::exception {
     const Text& text() const { return text_; }
     const char* what() const noexcept override { return utf8_.c_str(); }
 
-    /// One plain sentence that says what to change, shown above the number and the text; empty for most.
-    Text advice;
     /// The stage of the run and the page under way, for the message; empty outside a run.
     Text stage;
     Text page;
@@ -72,8 +70,7 @@ template <class Step> void stepping_over(Step step) {
 /// front of the usual text of the number.
 RuntimeFault told_fault(int number, TextView sentence);
 
-/// "Run-time error 'N':", a blank line and the text, below the advice, when there is one; then the stage and
-/// the page, when there are any.
+/// "Run-time error 'N':", a blank line and the text; then the stage and the page, when there are any.
 Text fault_message(const RuntimeFault& fault);
 
 } // namespace twk

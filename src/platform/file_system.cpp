@@ -138,11 +138,6 @@ bool file_exists(const Text& path) {
     return is_kind(path, S_IFREG);
 }
 
-Text Dir(const Text& path) {
-    if (!file_exists(path)) return {};
-    return Text(last_name(TextView(from_utf8(disk_path(path)))));
-}
-
 void MkDir(const Text& path) {
     const std::string name = disk_path(path);
     if (::mkdir(name.c_str(), 0777) != 0) fail_with(errno == ENOENT ? ENOTDIR : errno, path);

@@ -42,11 +42,9 @@ class FileSystemObject {
     void DeleteFolder(const FencedPath& path);
 };
 
-/// Whether there is a folder (`Dir` with the directory attribute) or a file of that name.
+/// Whether there is a folder, or a file, of that name.
 bool dir_exists(const Text& path);
 bool file_exists(const Text& path);
-/// Name of the file when there is one, empty otherwise.
-Text Dir(const Text& path);
 /// Fault 75 when it is there already, 76 when its parent is not.
 void MkDir(const Text& path);
 void MkDir(const FencedPath& path);

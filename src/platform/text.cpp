@@ -209,10 +209,6 @@ Text UCase(TextView text) {
     return out;
 }
 
-Text StrReverse(TextView text) {
-    return Text(text.rbegin(), text.rend());
-}
-
 bool contains(TextView text, TextView find) {
     return position(text, find, 0) != npos;
 }

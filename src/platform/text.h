@@ -6,7 +6,8 @@
 #include <vector>
 
 /// Text as the whole program holds it: 16-bit units; lengths and positions count units, and positions start
-/// at 1. The operations bear the names under which they are known, with exactly their known rules.
+/// at 1. The screens' routines are written in these operations; what each does at the edges is part of what
+/// they do.
 namespace twk {
 
 using Text = std::u16string;
@@ -52,9 +53,6 @@ inline char16_t lower(char16_t unit) {
     if (unit >= 0x80) return lower_beyond_ascii(unit);
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
 }
-
-/// Units in reverse order.
-Text StrReverse(TextView text);
 
 bool contains(TextView text, TextView find);
 /// Equality without regard to case.

@@ -31,12 +31,6 @@ Text TextStream::readline() {
     return line;
 }
 
-Text TextStream::ReadAll() {
-    Text rest = content_.substr(at_);
-    at_ = content_.size();
-    return rest;
-}
-
 bool TextStream::AtEndOfStream() const {
     return at_ >= content_.size();
 }

@@ -25,8 +25,6 @@ class TextStream {
 
     /// The next line without its end. Fault 62 at the end of the file.
     Text readline();
-    /// All that has not been read yet.
-    Text ReadAll();
     bool AtEndOfStream() const;
 
     void write(TextView text);

@@ -37,7 +37,7 @@ void ShownReport::begin(const Project& project) {
     held_.emplace(screens());
     held_->add<Form12>();
     screens().show<Form12>();
-    desktop().settle();
+    desktop().run_all_events();
     report.reporte2(project.total_sub);
     report.Reporte(project.tabla_kw, project.n_keywords);
 }
@@ -106,7 +106,7 @@ void ShownReport::finish(int first_level_pages, const PageCounts& counts) {
     report.reporte_nivel3(counts.second_level, counts.random);
     report.ended(facts());
     report.ProgressBar1.set_value(100);
-    desktop().settle();
+    desktop().run_all_events();
     screen<Form12>().Command2.enabled = true;
 }
 

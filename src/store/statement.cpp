@@ -9,8 +9,8 @@ namespace twk {
 
 namespace {
 
-RuntimeFault statement_fault(const Text& statement, TextView why) {
-    return {fault_statement, u"Syntax error in the statement: " + Text(why) + u"\n" + statement};
+Text syntax_error(const Text& statement, TextView why) {
+    return u"Syntax error in the statement: " + Text(why) + u"\n" + statement;
 }
 
 /// What an apostrophe has made of the statement.
@@ -29,9 +29,8 @@ TextView break_in(TextView statement) {
 }
 
 [[noreturn]] void refuse_apostrophe(const Text& statement) {
-    RuntimeFault fault = statement_fault(statement, break_in(statement));
-    fault.advice = u"An apostrophe (') cannot be stored here.";
-    throw fault;
+    throw RuntimeFault(fault_statement, u"An apostrophe (') cannot be stored here.\n" +
+                                            syntax_error(statement, break_in(statement)));
 }
 
 /// The library would take a NUL for the end.
@@ -43,7 +42,7 @@ TextView break_in(TextView statement) {
 } // namespace
 
 void malformed_statement(const Text& statement, TextView why) {
-    throw statement_fault(statement, why);
+    throw RuntimeFault(fault_statement, syntax_error(statement, why));
 }
 
 Text detail::filled(TextView literal, std::initializer_list<Text> values) {

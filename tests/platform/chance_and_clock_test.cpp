@@ -45,7 +45,7 @@ TEST(Draws, OfNothingTakeNoChance) {
     EXPECT_EQ(xrnum(0), 0);
     EXPECT_EQ(xrnum(1000), static_cast<int>(same.Rnd() * 1000));
     EXPECT_EQ(chance().Rnd(), same.Rnd());
-    chance().release_seed();
+    chance() = {};
 }
 
 TEST(Clock, TellsDateAndTimeInItsOwnWords) {

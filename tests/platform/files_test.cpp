@@ -71,7 +71,6 @@ TEST(Streams, ReadLinesWhateverTheirEnd) {
     for (const char16_t* const line : {u"a", u"", u"b", u"c", u"d"}) EXPECT_EQ(in->readline(), line);
     EXPECT_TRUE(in->AtEndOfStream());
     EXPECT_EQ(fault_of([&] { in->readline(); }), fault_past_end);
-    EXPECT_EQ(in->ReadAll(), u"");
     EXPECT_EQ(fault_of([&] { in->write(u"x"); }), fault_path_access);
 }
 
@@ -109,8 +108,6 @@ TEST(Names, AreFoundWithoutRegardToCase) {
     write_page(app.path(u"PROJECTS/Página.HTM"), u"one");
     EXPECT_TRUE(app.exists(u"Projects/Página.HTM"));
     EXPECT_TRUE(file_exists(app.path(u"projects/pÁGINA.htm")));
-    EXPECT_EQ(Dir(app.path(u"projects/PÁGINA.htm")), u"Página.HTM");
-    EXPECT_EQ(Dir(app.path(u"projects")), u"");
     write_page(app.path(u"projects/página.htm"), u"two"); // the same file
     EXPECT_EQ(list_files(app.path(u"projects"), u"*"), (std::vector<Text>{u"Página.HTM"}));
     // Something else makes a file while the names are known.
@@ -136,16 +133,16 @@ TEST(Names, OfASoleWriterFollowTheProgramAndAfterwardsOthersToo) {
         const NameIndex::SoleWriter alone;
         EXPECT_TRUE(NameIndex::is_missing(to_utf8(app.path(u"P/new.htm"))));
         EXPECT_FALSE(NameIndex::is_missing(to_utf8(app.path(u"P/OLD.htm"))));
-        EXPECT_EQ(Dir(app.path(u"P/old.HTM")), u"Old.htm");
+        EXPECT_EQ(disk_path(app.path(u"P/old.HTM")), to_utf8(app.path(u"P/Old.htm")));
         write_page(app.path(u"P/New.htm"), u"one");
-        EXPECT_EQ(Dir(app.path(u"P/new.htm")), u"New.htm");
+        EXPECT_EQ(disk_path(app.path(u"P/new.htm")), to_utf8(app.path(u"P/New.htm")));
         FileSystemObject().MoveOver(own.within(app.path(u"P/New.htm")), own.within(app.path(u"P/OLD.htm")));
         EXPECT_EQ(list_files(app.path(u"P"), u"*"), (std::vector<Text>{u"OLD.htm"}));
         EXPECT_TRUE(NameIndex::is_missing(to_utf8(app.path(u"P/New.htm"))));
     }
     app.write(u"P/Other.htm", "of another program");
     const NameIndex::SoleWriter alone;
-    EXPECT_EQ(Dir(app.path(u"P/other.HTM")), u"Other.htm");
+    EXPECT_EQ(disk_path(app.path(u"P/other.HTM")), to_utf8(app.path(u"P/Other.htm")));
 }
 
 TEST(MoveOver, LeavesOneFileUnderTheNameAsGiven) {

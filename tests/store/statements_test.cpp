@@ -91,17 +91,17 @@ TEST(Values, WithAnApostropheOrANulAreRefusedInWordsAndWithTheStatement) {
         EXPECT_TRUE(desktop.last_message().ends_with(u"\n" + text));
         return Left(desktop.last_message(), Len(desktop.last_message()) - Len(text) - 1);
     };
-    const Text fault = u"Run-time error '3075':\n\nSyntax error in the statement: ";
-    const Text advice = u"An apostrophe (') cannot be stored here.\n\n";
-    EXPECT_EQ(told(u"it's", u"x"), advice + fault + u"a quote is not closed");
-    EXPECT_EQ(told(u"x", u"y'"), advice + fault + u"a quote is not closed");
+    const Text number = u"Run-time error '3075':\n\n", syntax = u"Syntax error in the statement: ";
+    const Text apostrophe = number + u"An apostrophe (') cannot be stored here.\n" + syntax;
+    EXPECT_EQ(told(u"it's", u"x"), apostrophe + u"a quote is not closed");
+    EXPECT_EQ(told(u"x", u"y'"), apostrophe + u"a quote is not closed");
     for (const char16_t* const value :
          {u"x' --", u"x' /* ", u"x' ; delete from host where ( '' = '", u"' ; --"})
-        EXPECT_EQ(told(value, u"y"), advice + fault + u"text that belongs to no statement");
+        EXPECT_EQ(told(value, u"y"), apostrophe + u"text that belongs to no statement");
     for (const char16_t* const value : {u"rock 'n' roll", u"x' or '1'='1", u"x''", u"' || name || '"})
-        EXPECT_EQ(told(u"y", value), advice + fault + u"an apostrophe in a value");
-    EXPECT_EQ(told(u"x'", u"'y"), advice + fault + u"an apostrophe in a value") << "even in number";
-    EXPECT_EQ(told(u"x", u"a" + Text(1, u'\0') + u"b"), fault + u"unrecognized token: \"'a\"");
+        EXPECT_EQ(told(u"y", value), apostrophe + u"an apostrophe in a value");
+    EXPECT_EQ(told(u"x'", u"'y"), apostrophe + u"an apostrophe in a value") << "even in number";
+    EXPECT_EQ(told(u"x", u"a" + Text(1, u'\0') + u"b"), number + syntax + u"unrecognized token: \"'a\"");
     EXPECT_EQ(Statement(u"select '{}'", Text(u"{} \"d\" -- ;")).text(), u"select '{} \"d\" -- ;'");
 }
 
