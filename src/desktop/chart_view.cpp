@@ -31,9 +31,8 @@ void ChartView::clear() {
 
 QColor ChartView::colour(int kind, const QPalette& palette) {
     const bool dark = palette.color(QPalette::Base).lightness() < 128;
-    static const QColor on_light[] = {QColor(0x8a929d), QColor(0x2a6fdb), QColor(0xc77700), QColor(0x2f8f56)};
-    static const QColor on_dark[] = {QColor(0x9aa2ad), QColor(0x6ea8fe), QColor(0xf0b24c), QColor(0x63c488)};
-    return (dark ? on_dark : on_light)[kind >= 1 && kind <= 3 ? kind : 0];
+    const auto& colours = dark ? kind_colours_on_dark : kind_colours_on_light;
+    return {colours[kind >= 1 && kind <= 3 ? static_cast<std::size_t>(kind) : 0]};
 }
 
 void ChartView::paintEvent(QPaintEvent*) {

@@ -9,6 +9,10 @@
 /// Numbers for charts of a report: whoever draws them adds nothing but lines and colours.
 namespace twk {
 
+/// Colours of the kinds in every chart, 0 other to 3 random, on light and on dark ground.
+inline constexpr std::array kind_colours_on_light{"#8a929d", "#2a6fdb", "#c77700", "#2f8f56"};
+inline constexpr std::array kind_colours_on_dark{"#9aa2ad", "#6ea8fe", "#f0b24c", "#63c488"};
+
 /// How many pages of each kind lie between two values.
 struct Histogram {
     struct Bar {

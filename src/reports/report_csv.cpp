@@ -3,6 +3,7 @@
 
 #include "platform/numbers.h"
 #include "reports/page_story.h"
+#include "reports/report_svg.h"
 
 namespace twk {
 
@@ -15,7 +16,7 @@ std::string number(double value) {
 }
 
 std::string density(float value) {
-    return value < 0 ? std::string() : to_utf8(to_text(Round(static_cast<double>(value) * 100) / 100));
+    return value < 0 ? std::string() : short_number(static_cast<double>(value));
 }
 
 class Line {

@@ -25,6 +25,21 @@ std::string thousands(std::int64_t n) {
     return to_utf8(Format(static_cast<double>(n), u"###,0"));
 }
 
+/// The style sheet with the colours of the kinds in their places.
+std::string styles() {
+    std::string text = report_page::style;
+    const auto put = [&text](std::string_view place, const auto& colours) {
+        std::string told;
+        for (std::size_t kind = 0; kind < colours.size(); ++kind)
+            told += "--k" + count(kind) + ":" + colours[kind] + ";";
+        for (std::size_t at = 0; (at = text.find(place, at)) != std::string::npos;)
+            text.replace(at, place.size(), told);
+    };
+    put("{on light}", kind_colours_on_light);
+    put("{on dark}", kind_colours_on_dark);
+    return text;
+}
+
 class Page {
   public:
     explicit Page(const SiteReport& report)
@@ -50,7 +65,7 @@ class Page {
             "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src "
             "'unsafe-inline'; script-src 'unsafe-inline'\">\n"
             "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>Report of " +
-            name + "</title>\n<style>" + report_page::style + "</style>\n</head>\n<body>\n<h1>" + name +
+            name + "</title>\n<style>" + styles() + "</style>\n</head>\n<body>\n<h1>" + name +
             "</h1>\n<p class=\"soft\">Generated pages, " + escaped(report_.facts.made_at) +
             "</p>\n<nav><a href=\"#findings\">Findings</a><a href=\"#upload\">Where to upload</a>"
             "<a href=\"#charts\">Charts</a><a href=\"#table\">Pages</a></nav>\n";

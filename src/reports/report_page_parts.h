@@ -4,11 +4,12 @@
 /// What every written report has in common: its style sheet and its script.
 namespace twk::report_page {
 
+/// The colours of the kinds of pages come in the places in braces.
 inline constexpr const char* style = R"(
 :root{color-scheme:light dark;--bg:#fff;--fg:#1c2026;--soft:#5a6370;--line:#d8dde4;--card:#f5f7fa;
---k0:#8a929d;--k1:#2a6fdb;--k2:#c77700;--k3:#2f8f56;--broken:#b3261e;--poor:#9a5b00;--hint:#40607f}
+{on light}--broken:#b3261e;--poor:#9a5b00;--hint:#40607f}
 @media (prefers-color-scheme:dark){:root{--bg:#15181d;--fg:#e6e9ee;--soft:#a3acb8;--line:#363d47;--card:#1e232a;
---k0:#9aa2ad;--k1:#6ea8fe;--k2:#f0b24c;--k3:#63c488;--broken:#ff8f86;--poor:#f0b24c;--hint:#9cc3ea}}
+{on dark}--broken:#ff8f86;--poor:#f0b24c;--hint:#9cc3ea}}
 *{box-sizing:border-box}
 body{margin:0 auto;padding:24px;max-width:1500px;background:var(--bg);color:var(--fg);
 font:15px/1.5 system-ui,"Segoe UI",Roboto,"Noto Sans",sans-serif}
@@ -39,8 +40,8 @@ th[aria-sort=ascending] button::after{content:" \25B2"}th[aria-sort=descending] 
 #filter{margin:0 0 8px;padding:6px 10px;width:min(420px,100%);font:inherit;color:inherit;background:var(--bg);
 border:1px solid var(--line);border-radius:6px}
 summary{cursor:pointer}details ul{margin:4px 0;padding-left:18px}
-@media print{:root{color-scheme:light;--bg:#fff;--fg:#000;--soft:#444;--line:#bbb;--card:#fff;--k0:#8a929d;--k1:#2a6fdb;
---k2:#c77700;--k3:#2f8f56;--broken:#b3261e;--poor:#9a5b00;--hint:#40607f}
+@media print{:root{color-scheme:light;--bg:#fff;--fg:#000;--soft:#444;--line:#bbb;--card:#fff;
+{on light}--broken:#b3261e;--poor:#9a5b00;--hint:#40607f}
 @page{size:A4 landscape;margin:12mm}
 body{padding:0;max-width:none;font-size:10pt;-webkit-print-color-adjust:exact;print-color-adjust:exact}
 nav,#filter{display:none}th{position:static}table{font-size:7.5pt}th,td{padding:2px 4px}
