@@ -41,7 +41,7 @@ void Form19::tomar_web() {
     desktop().navigate(wb1, u"about:blank");
     if (mode == 1) List1.clear();
     for (const Text& word : words) {
-        look_up(word, mode);
+        buscar_termino(word, mode);
         if (is_over()) return;
     }
     Frame2.visible = false;
@@ -53,11 +53,7 @@ bool Form19::is_over() const {
     return !screens().is_loaded(*this) || !screens().is_loaded<Form3>();
 }
 
-void Form19::buscar_termino(const Text& term) {
-    look_up(term, modo_asistente);
-}
-
-void Form19::look_up(const Text& term, int mode) {
+void Form19::buscar_termino(const Text& term, int mode) {
     screens().record<Form19>().caption = u"Keyword Wizard";
     const Text wanted = Trim(term);
     if (wanted.empty()) return;

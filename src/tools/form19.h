@@ -44,8 +44,9 @@ class Form19 {
 
     /// Runs the lookups of the current mode, for the words that are there when it is called.
     void tomar_web();
-    /// One lookup. A suggestion without "&mkt" behind its term is fault 5.
-    void buscar_termino(const Text& term);
+    /// One lookup in that mode, whatever the present one is by then. A suggestion without "&mkt" behind its
+    /// term is fault 5.
+    void buscar_termino(const Text& term, int mode);
 
     std::int16_t modo_asistente = 1; ///< 1 keywords, 2 subkeywords
     /// Mode 2: the words to look up in column 0, behind each the suggestions found.
@@ -55,7 +56,6 @@ class Form19 {
     int asked_ = 0; ///< counts the pages that lookups have asked the browser for
 
     bool is_over() const;
-    void look_up(const Text& term, int mode);
     bool wait_for_browser(const std::function<bool()>& enough);
     void take_suggestion(const Text& address, const Text& term, int mode);
     bool is_known(const Text& suggestion) const;
