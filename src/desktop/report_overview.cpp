@@ -344,7 +344,6 @@ QString ReportOverview::chosen_as_text() const {
 void add_report_overview(QWidget& form, ScreenBinding& binding) {
     auto* const tab = form.findChild<QWidget*>(QStringLiteral("tab_overview"));
     auto* const ended = form.findChild<QWidget*>(QStringLiteral("Command2"));
-    if (tab == nullptr || ended == nullptr) return;
     auto* const column = new QVBoxLayout(tab);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(new ReportOverview(binding, *ended));

@@ -72,7 +72,7 @@ class ReportOverview : public QWidget {
     QTableView* table_;
 };
 
-/// Puts the overview behind the second tab of the report's form. Nothing happens to another form.
+/// Puts the overview behind the second tab of Form12's form.
 void add_report_overview(QWidget& form, ScreenBinding& binding);
 
 } // namespace twk

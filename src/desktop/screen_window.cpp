@@ -6,6 +6,7 @@
 #include "desktop/qt_text.h"
 #include "desktop/report_overview.h"
 #include "desktop/room.h"
+#include "reports/form12.h"
 #include "shell/wizard_state.h"
 
 #include <QCloseEvent>
@@ -54,7 +55,7 @@ ScreenWindow::ScreenWindow(Screen& screen, Room& room)
     room_.add(*this);
 
     binding_ = std::make_unique<ScreenBinding>(screen, *form_);
-    add_report_overview(*form_, *binding_);
+    if (screen.name == Form12::name) add_report_overview(*form_, *binding_);
     const auto show_title = [this, &screen](Prop) {
         setWindowTitle(to_qt(screen.caption()));
         room_.retitle();
