@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "desktop/forms.h"
 #include "desktop/qt_text.h"
 #include "opened_addresses.h"
 #include "shell/mdi1.h"
@@ -24,6 +25,28 @@ namespace {
 using Binding = test::WindowTest;
 using test::User;
 
+/// Captions stand in the core alone: the form is drawn without them, and its window shows the core's.
+void expect_captions_of_the_core(const Screen& screen, const ScreenWindow& window) {
+    const std::unique_ptr<const QWidget> drawn(make_form(screen.name));
+    EXPECT_EQ(drawn->windowTitle(), QString());
+    EXPECT_EQ(window.windowTitle(), to_qt(screen.caption()));
+    const auto caption_in = [](const QWidget& form, const std::string& name) {
+        const auto* const widget = form.findChild<const QWidget*>(QString::fromStdString(name));
+        const QVariant title = widget->property("title");
+        return (title.isValid() ? title : widget->property("text")).toString().simplified();
+    };
+    for (const ScreenMap::Control& each : screen.map.all_controls())
+        std::visit(
+            [&](const auto* control) {
+                if constexpr (requires { control->caption(); }) {
+                    const std::string name = each.object_name();
+                    EXPECT_EQ(caption_in(*drawn, name), QString()) << name;
+                    EXPECT_EQ(caption_in(window, name), to_qt(control->caption()).simplified()) << name;
+                }
+            },
+            each.ref);
+}
+
 TEST_F(Binding, EveryControlOfEveryScreenHasItsWidgetAndEveryEventItsSignal) {
     test::show_every_screen();
     ASSERT_EQ(qt.window().windows().size(), test::screen_count);
@@ -34,6 +57,7 @@ TEST_F(Binding, EveryControlOfEveryScreenHasItsWidgetAndEveryEventItsSignal) {
         window->open();
         EXPECT_EQ(qt.window().front(), window);
         for (const std::string& each : window->binding().unbound()) ADD_FAILURE() << each;
+        expect_captions_of_the_core(screen, *window);
         QSet<const QWidget*> labelled;
         for (const QLabel* label : window->findChildren<QLabel*>()) labelled << label->buddy();
         for (const QWidget* each : window->findChildren<QWidget*>()) {
