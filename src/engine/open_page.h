@@ -31,8 +31,8 @@ struct OpenPage {
 
     std::function<void()> written; ///< told of each page that is counted
 
-    /// Proves that a page which is there can be read, and starts `salida` on its sibling, the name plus "aux",
-    /// and an empty record. Fault 75 when the path leaves the project.
+    /// Proves that a page that is there can be read; starts `salida` on its sibling, the name plus "aux", and
+    /// an empty record. Fault 75 when the path leaves the project.
     void open(const Text& path);
     /// Ends the sibling, which takes the page's place. Counts the page.
     void close();
