@@ -320,11 +320,9 @@ template <class S> void load(S& form) {
     if constexpr (number_of<S>() != 0) marcar_forma(number_of<S>(), true);
     if constexpr (requires { form.Form_Load(); }) form.Form_Load();
 }
-template <class S> std::function<void()> unload_of(S& form) {
-    return [&form] {
-        if constexpr (requires { form.Form_Unload(); }) form.Form_Unload();
-        if constexpr (number_of<S>() != 0) marcar_forma(number_of<S>(), false);
-    };
+template <class S> void unload(S& form) {
+    if constexpr (requires { form.Form_Unload(); }) form.Form_Unload();
+    if constexpr (number_of<S>() != 0) marcar_forma(number_of<S>(), false);
 }
 template <class S> std::function<void()> activate_of(S& form) {
     if constexpr (requires { form.Form_Activate(); }) return [&form] { form.Form_Activate(); };
@@ -346,7 +344,7 @@ template <class S> Screen& Screens::load(const Running&) {
     made->instance = instance;
     made->map = screen_events::controls_of(form);
     screen_events::enumerate(form, made->map);
-    made->unload_event = screen_events::unload_of(form);
+    made->unload_event = [&form] { screen_events::unload(form); };
     made->activate_event = screen_events::activate_of(form);
     if constexpr (requires { form.undo_delete(); }) {
         made->deletions = &form.deletions;
