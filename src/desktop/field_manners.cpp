@@ -76,8 +76,11 @@ void browse(const ScreenBinding& binding, const QStringList& lists, const QStrin
     if (folders == nullptr) return;
     Text folder, file;
     if (files != nullptr) {
-        const auto chosen = desktop().ask_open_file(
-            {.title = u"Choose a file", .start_folder = folders->path(), .filter = files->pattern()});
+        const auto chosen = desktop().ask_open_file({.title = u"Choose a file",
+                                                     .start_folder = folders->path(),
+                                                     .filter = files->pattern(),
+                                                     .file_name = {},
+                                                     .ending = {}});
         if (!chosen || binding.screen() == nullptr) return;
         const std::size_t name = chosen->rfind(path_separator);
         folder = chosen->substr(0, std::max<std::size_t>(name, 1));
