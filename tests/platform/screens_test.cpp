@@ -45,8 +45,10 @@ struct Sample {
 };
 
 struct Faulty {
-    static constexpr const char* name = "Faulty";
+    static constexpr const char* name = "Faulty20";
     static constexpr TextView title = u"Faulty";
+    static constexpr bool marked = true;
+    void Form_Unload() { EXPECT_NE(module1().formas_abiertas[20], 0); }
     void Form_Load() { throw RuntimeFault(fault_store_missing, u"no store"); }
 };
 
@@ -133,6 +135,7 @@ TEST_F(ScreensTest, ShowAFaultAndStayOpen) {
     desktop.expect(u"Run-time error '3024':\n\nno store");
     EXPECT_FALSE(screens().dispatch([] { screen<Faulty>(); }));
     EXPECT_FALSE(screens().is_loaded<Faulty>());
+    EXPECT_EQ(module1().formas_abiertas[20], 0) << "it was marked until it had gone";
 
     RuntimeFault in_a_run(fault_disk_full);
     in_a_run.stage = u"Writing first-level pages";
