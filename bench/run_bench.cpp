@@ -17,7 +17,7 @@
 //   --report FILE  what the report holds of every page
 //   --window yes   in the program's own windows, on whatever display Qt finds (QT_QPA_PLATFORM=offscreen:
 //   none)
-//   --line yes     one line of figures: pages, bytes, seconds, processor seconds, MB resident
+//   --line yes     one line of figures: pages, bytes, seconds, processor seconds, the kernel's, MB resident
 
 #include "engine/run.h"
 #include "inputs/form3.h"
@@ -147,18 +147,17 @@ void write_report(const std::string& file) {
              {&page.path, &page.kb, &page.kind, &page.words, &page.title, &page.title_words, &page.file,
               &page.url, &page.links, &page.links_to, &page.redirect})
             put(*each);
-        for (const KeywordAnalysis& each : page.keywords)
-            for (const Text* field : {&each.count, &each.density, &each.title_count, &each.title_density})
+        for (std::size_t k = 0; k < page.keywords.size(); ++k) {
+            const KeywordTexts texts = keyword_texts(page, k);
+            for (const Text* field : {&texts.count, &texts.density, &texts.title_count, &texts.title_density})
                 put(*field);
+        }
         out << '\n';
     }
 }
 
-double processor_seconds(const rusage& usage) {
-    const auto seconds = [](const timeval& time) {
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
-    };
-    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+double in_seconds(const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
 }
 
 /// Runs; true when the run came to its end.
@@ -170,12 +169,14 @@ bool timed_run(const Size& size, const TextShape& shape, const Options& options)
     form.Command1_Click();
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
     getrusage(RUSAGE_SELF, &after);
-    const double processor = processor_seconds(after) - processor_seconds(before);
+    const double kernel = in_seconds(after.ru_stime) - in_seconds(before.ru_stime);
+    const double processor = in_seconds(after.ru_utime) - in_seconds(before.ru_utime) + kernel;
     const auto pages = static_cast<long long>(form.run->page.pages_written);
     const auto bytes = static_cast<double>(form.run->page.bytes_written);
     const double resident = static_cast<double>(after.ru_maxrss) / 1024;
     if (!options.value("--line").empty())
-        std::printf("%lld %.0f %.3f %.3f %.0f\n", pages, bytes, seconds.count(), processor, resident);
+        std::printf("%lld %.0f %.3f %.3f %.3f %.0f\n", pages, bytes, seconds.count(), processor, kernel,
+                    resident);
     else
         std::printf("%d keywords x %d subkeywords, %d boxes of %d words, %d random pages, template %d\n"
                     "%lld pages, %.1f MB, %.2f s, %.2f s of processor, %.0f MB resident at most\n",
@@ -270,7 +271,12 @@ int main(int argc, char** argv) {
     const TextShape shape = shape_of(options);
     const Benchmark run{size, shape, options, folder};
     bool finished = false;
-#ifdef BENCH_WINDOWS
+#ifndef BENCH_WINDOWS
+    if (!options.value("--window").empty()) {
+        std::fprintf(stderr, "Built without the windows.\n");
+        return 2;
+    }
+#else
     if (!options.value("--window").empty())
         finished = run_in_windows(run, argc, argv);
     else

@@ -170,7 +170,7 @@ Text fitted_text(Run& run, Text& texto, const Text& keyword, const FittingTo& to
 Text fitted_text(Run& run, const SpacedText& spaced, const Text& keyword, const FittingTo& to) {
     int sentences = 0;
     Text out = Ajustar_KW(run.choices, spaced, keyword, to.density, &sentences);
-    note(run.page.made, to, sentences, !spaced.piezas.empty() && out.empty());
+    note(run.page.made, to, sentences, !spaced.blank() && out.empty());
     return out;
 }
 
@@ -178,8 +178,8 @@ int xrnum2(int n) {
     return xrnum(n);
 }
 
-Text highLight(Project& project, const GatewaySettings& settings, TextView texto) {
-    return project.marks.highLight(texto, project.keywords(), settings.hl_abre, settings.hl_cierra);
+void highLight(Project& project, const GatewaySettings& settings, Text& texto) {
+    project.marks.highLight(texto, project.keywords(), settings.hl_abre, settings.hl_cierra);
 }
 
 namespace {

@@ -54,8 +54,8 @@ Text fitted_text(Run& run, const SpacedText& spaced, const Text& keyword, const 
 /// The draw of `xrnum`.
 int xrnum2(int n);
 
-/// Marks every keyword that stands between blanks, in its own case.
-Text highLight(Project& project, const GatewaySettings& settings, TextView texto);
+/// Marks every keyword that stands between blanks, in its own case. In place.
+void highLight(Project& project, const GatewaySettings& settings, Text& texto);
 
 /// A text made fit for a file name: separator for blanks, plain letters, lower case. "}", ",", "/", "\" and
 /// "." pass through.

@@ -157,7 +157,7 @@ Text TP1_content(Run& run, int k) {
     }
     made.empty_text = trim_view(t).empty();
     run.report.status(u"Optimizing First-Level Page");
-    if (run.choices.highlight_keywords()) t = highLight(run.project, run.settings, t);
+    if (run.choices.highlight_keywords()) highLight(run.project, run.settings, t);
     Text s = fill(u"<p>{1}<p>{2}", t, list_comment(run.choices, run.lista_kw));
     replace_all(s, u". ", u".<p>"); // in the comment, too
     return s;

@@ -126,7 +126,7 @@ Text tp3_content(Run& run, ContentPool& pool) {
         made.count_replaced(limit_keywords(run.project, run.settings, run.report, s, kept,
                                            u" for file " + to_text(run.cuenta_archivos)));
     }
-    if (choices.highlight_keywords()) s = highLight(run.project, run.settings, s);
+    if (choices.highlight_keywords()) highLight(run.project, run.settings, s);
     return fill(u"{1}<p>{2}<p></font>", font_line(choices), s);
 }
 

@@ -178,7 +178,7 @@ void write_content_block(SecondLevelPage& sub, bool split_sentences, bool count_
     // The caption speaks of random pages here, too.
     made.count_replaced(limit_keywords(run.project, s, run.report, texto_pagina, kept_occurrences));
     replace_all(texto_pagina, u". ", run.lista_kw); // the sentence ends go
-    if (run.choices.highlight_keywords()) texto_pagina = highLight(run.project, s, texto_pagina);
+    if (run.choices.highlight_keywords()) highLight(run.project, s, texto_pagina);
     run.page.writeline(u"<table border = 1 width=75% cellpadding=4><tr><td align=center><p>"
                        u"{1}</p></td></tr></table><br>",
                        texto_pagina);

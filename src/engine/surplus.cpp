@@ -15,7 +15,8 @@ int limit_keywords(Project& project, const GatewaySettings& settings, RunReport&
     const Text of_all = u"/" + to_text(project.n_keywords) + u" done" + Text(tail);
     int replaced = 0;
     for (int i = 0; i < project.n_keywords; ++i) {
-        report.status(u"Updating Random-Generated Page " + to_text(i) + of_all);
+        Text told = u"Updating Random-Generated Page " + to_text(i);
+        report.status(std::move(told += of_all));
         DoEvents();
         Text& keyword = project.tabla_kw.cell(i);
         const std::int16_t found = counts.contar(i, keyword);

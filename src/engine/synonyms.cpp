@@ -133,7 +133,7 @@ Text Synonyms::sinonimo(const Text& texto) {
         out.append(other != nullptr ? TextView(*other) : pieza).append(1, u' ');
     }
     out.append(t, from); // the words behind the share stay
-    return Trim(out);
+    return Trim(std::move(out));
 }
 
 } // namespace twk

@@ -192,6 +192,16 @@ Text Trim(TextView text) {
     return Text(trim_view(text));
 }
 
+Text Trim(Text&& text) {
+    const TextView kept = trim_view(text);
+    const auto in_front = static_cast<std::size_t>(kept.data() - text.data());
+    const std::size_t size = kept.size();
+    if (size == 0) return {};
+    text.resize(in_front + size);
+    text.erase(0, in_front);
+    return std::move(text);
+}
+
 char16_t lower_beyond_ascii(char16_t unit) {
     return tables().lower[unit];
 }

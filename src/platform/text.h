@@ -44,6 +44,8 @@ std::vector<TextView> split_views(TextView text, TextView separator = u" ");
 
 /// Cuts blanks (and nothing else) from both ends.
 Text Trim(TextView text);
+/// The same for a text that the caller does not keep.
+Text Trim(Text&& text);
 TextView trim_view(TextView text);
 
 Text LCase(TextView text);

@@ -142,21 +142,12 @@ const KeywordSet& Form12::keyword_set() {
 
 void Form12::analyse_body(PageAnalysis& page, const Text& html) {
     Text cuerpo = visible_text(html);
-    std::int16_t words = 0;
-    ignoring_faults([&] {
-        Text en_linea = Replace(cuerpo, vbCrLf, u" "); // a line end parts words, too
-        words = contar_palabras(en_linea);
-        page.words = to_text(words);
-    });
+    ignoring_faults([&] { page.words = to_text(words_of_lines(cuerpo)); });
     KeywordCounts counts(keyword_set(), cuerpo);
     for (std::size_t k = 0; k < page.keywords.size(); ++k) {
         if (xKeyWords[k].empty()) continue;
         KeywordAnalysis& found = page.keywords[k];
-        ignoring_faults([&] {
-            const std::int16_t n = counts.contar(static_cast<int>(k), xKeyWords[k]);
-            found.count = n == 0 ? Text(u"0") : to_text(n);
-            if (words != 0) found.density = n == 0 ? Text(u".") : Format(n * 100.0 / words, u"##.##");
-        });
+        ignoring_faults([&] { found.in_body = counts.contar(static_cast<int>(k), xKeyWords[k]); });
     }
 }
 
@@ -170,13 +161,13 @@ void Form12::analyse_title(PageAnalysis& page, const Text& html) {
         KeywordAnalysis& found = page.keywords[k];
         ignoring_faults([&] {
             const std::int16_t n = counts.contar(static_cast<int>(k), xKeyWords[k]);
+            found.in_title = n;
             if (counts.absent()) { // its density leaves the title alone
-                found.title_count = found.title_density = u"0";
+                found.title_density = 0;
                 return;
             }
-            found.title_count = to_text(n);
             counts.changed();
-            found.title_density = to_text(densidad2(n, titulo, xKeyWords[k]));
+            found.title_density = static_cast<std::int16_t>(densidad2(n, titulo, xKeyWords[k]));
         });
     }
 }
@@ -305,7 +296,7 @@ Text Form12::report_text(const PageAnalysis& page, int list) const {
     }
     const auto keyword_lines = [&](TextView where, auto count, auto density) {
         for (std::size_t k = 0; k < page.keywords.size(); ++k) {
-            const KeywordAnalysis& found = page.keywords[k];
+            const KeywordTexts found = keyword_texts(page, k);
             const Text named = u" for [" + xKeyWords[k] + u"]";
             if (found.*count == u"0") {
                 line(u"No KeyWords" + LCase(where) + named);
@@ -316,11 +307,11 @@ Text Form12::report_text(const PageAnalysis& page, int list) const {
         }
     };
     line(u"Body Word Count: " + page.words + u" words");
-    keyword_lines(u"", &KeywordAnalysis::count, &KeywordAnalysis::density);
+    keyword_lines(u"", &KeywordTexts::count, &KeywordTexts::density);
     line(u"");
     line(u"Title: " + page.title);
     line(u"Title Word Count: " + page.title_words + u" words");
-    keyword_lines(u" in Title", &KeywordAnalysis::title_count, &KeywordAnalysis::title_density);
+    keyword_lines(u" in Title", &KeywordTexts::title_count, &KeywordTexts::title_density);
     line(u"URL: " + (list == 1 ? screen<Form7>().Text2.text() + u"\\" + page.file : page.url));
     line(u"");
     line(u"Make sure this file is uploaded to the directory above. Otherwise generated-pages will not be "

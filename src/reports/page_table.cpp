@@ -54,9 +54,9 @@ void measure_own_keyword(PageRow& row, const PageAnalysis& page) {
     const int k = row.made.keyword;
     if (k < 0 || k >= std::ssize(page.keywords)) return;
     const KeywordAnalysis& found = page.keywords[static_cast<std::size_t>(k)];
-    row.own_count = whole(found.count);
-    row.own_title_count = whole(found.title_count);
-    if (!found.density.empty()) row.own_density = Val(found.density);
+    row.own_count = found.in_body;
+    row.own_title_count = found.in_title;
+    row.own_density = keyword_density(page, static_cast<std::size_t>(k)).value_or(row.own_density);
 }
 
 PageRow row_of(const SiteReport& report, const PageAnalysis& page, LinkBook& book) {
@@ -148,8 +148,9 @@ SiteReport make_site_report(const std::vector<PageAnalysis>& pages, const std::v
             if (row.made.index) ++of.indexes;
         }
         for (std::size_t k = 0; k < keywords.size(); ++k) {
-            const bool known = k < page->keywords.size() && !page->keywords[k].density.empty();
-            report.densities.push_back(known ? static_cast<float>(Val(page->keywords[k].density)) : -1.0F);
+            const auto density =
+                k < page->keywords.size() ? keyword_density(*page, k) : std::optional<double>();
+            report.densities.push_back(static_cast<float>(density.value_or(-1)));
         }
     }
     join_links(report, told, others, book, folders);

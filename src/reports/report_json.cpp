@@ -26,7 +26,7 @@ std::string relative_path(const Text& path) {
                                                       : TextView(path));
 }
 
-Json keyword_analysis(const Text& keyword, const KeywordAnalysis& found) {
+Json keyword_analysis(const Text& keyword, const KeywordTexts& found) {
     return {{"keyword", to_utf8(keyword)},
             {"count", figure(found.count)},
             {"density", figure(found.density)},
@@ -100,7 +100,7 @@ void add_overview(Json& page, const SiteReport& site, const PageRow& row,
 Json page_analysis(const PageAnalysis& page, const std::vector<Text>& keywords) {
     Json all = Json::array();
     for (std::size_t k = 0; k < keywords.size() && k < page.keywords.size(); ++k)
-        if (!keywords[k].empty()) all.push_back(keyword_analysis(keywords[k], page.keywords[k]));
+        if (!keywords[k].empty()) all.push_back(keyword_analysis(keywords[k], keyword_texts(page, k)));
     return {{"kind", figure(page.kind)},
             {"path", relative_path(page.path)},
             {"kb", figure(page.kb)},

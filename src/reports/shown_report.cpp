@@ -42,8 +42,8 @@ void ShownReport::begin(const Project& project) {
     report.Reporte(project.tabla_kw, project.n_keywords);
 }
 
-void ShownReport::status(const Text& text) {
-    screen<Form12>().Label2.caption = text;
+void ShownReport::status(Text text) {
+    screen<Form12>().Label2.caption = std::move(text);
 }
 
 double ShownReport::progress() const {

@@ -57,36 +57,33 @@ const KeywordMarks::Mark& KeywordMarks::mark(int k) {
 
 /// Marks all keywords in one pass. That gives what one keyword after the other gives as long as no mark makes
 /// a new occurrence: it begins and ends, within its blanks, with units that no keyword holds, and holds no
-/// keyword between blanks itself. Nothing where that is not certain.
-std::optional<Text> KeywordMarks::marked_at_once(TextView text) {
+/// keyword between blanks itself. Leaves the text alone, and is false, where that is not certain.
+bool KeywordMarks::mark_at_once(Text& text) {
     const std::optional<Hits> hits = closed_ ? independent(*between_blanks_, hits_) : std::nullopt;
-    if (!hits) return std::nullopt;
-    std::size_t size = text.size();
-    for (const PatternSet::Hit& hit : *hits) {
-        if (!mark(hit.pattern).plain) return std::nullopt;
-        size += at(marks_, hit.pattern).text.size();
-    }
-    Text out;
-    out.reserve(size);
+    if (!hits) return false;
+    for (const PatternSet::Hit& hit : *hits)
+        if (!mark(hit.pattern).plain) return false;
+    out_.clear();
     std::size_t from = 0;
     for (const PatternSet::Hit& hit : *hits) {
         const TextView mark = at(marks_, hit.pattern).text;
         const bool shares_blank = hit.at < from;
-        if (!shares_blank) out.append(text, from, hit.at - from);
-        out.append(mark.substr(shares_blank ? 1 : 0));
+        if (!shares_blank) out_.append(text, from, hit.at - from);
+        out_.append(mark.substr(shares_blank ? 1 : 0));
         from = hit.at + between_blanks_->pattern(hit.pattern).size();
     }
-    return out.append(text, from);
+    out_.append(text, from);
+    text.swap(out_);
+    return true;
 }
 
-Text KeywordMarks::highLight(TextView texto, const std::vector<Text>& keywords, TextView opening,
+void KeywordMarks::highLight(Text& texto, const std::vector<Text>& keywords, TextView opening,
                              TextView closing) {
     learn(keywords, opening, closing);
     hits_.clear();
     between_blanks_->find(texto, 0, texto.size(), hits_);
-    if (hits_.empty()) return Text(texto);
-    if (std::optional<Text> r = marked_at_once(texto)) return std::move(*r);
-    return plain::highLight(Text(texto), keywords, opening, closing);
+    if (!hits_.empty() && !mark_at_once(texto))
+        texto = plain::highLight(std::move(texto), keywords, opening, closing);
 }
 
 } // namespace twk

@@ -10,8 +10,8 @@ namespace twk {
 /// Marks keywords in one text after the other; keeps how to find them while they stay the same.
 class KeywordMarks {
   public:
-    /// What `plain::highLight` gives.
-    Text highLight(TextView texto, const std::vector<Text>& keywords, TextView opening, TextView closing);
+    /// Makes of the text what `plain::highLight` gives, in place.
+    void highLight(Text& texto, const std::vector<Text>& keywords, TextView opening, TextView closing);
 
   private:
     /// The marked form of a keyword, between blanks, and whether it holds none between blanks itself.
@@ -22,14 +22,15 @@ class KeywordMarks {
 
     void learn(const std::vector<Text>& keywords, TextView opening, TextView closing);
     const Mark& mark(int k);
-    std::optional<Text> marked_at_once(TextView text);
+    bool mark_at_once(Text& text);
 
     std::vector<Text> keywords_;
     Text opening_, closing_;
     bool closed_ = false; ///< no keyword can begin or end in what a mark adds
     std::optional<PatternSet> between_blanks_;
     std::vector<Mark> marks_;
-    std::vector<PatternSet::Hit> hits_; ///< room that is used again
+    std::vector<PatternSet::Hit> hits_; ///< room that is used again, as is `out_`
+    Text out_;
 };
 
 } // namespace twk

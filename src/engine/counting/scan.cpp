@@ -46,11 +46,16 @@ bool survives_a_count(TextView texto) {
 }
 
 TextScan space_for_a_count(Text& texto, TextView for_opening) {
-    const TextScan scan(texto);
-    const bool replaced = scan.opens_tags && replace_all(texto, highlight_opening, for_opening);
-    if (!replaced && scan.spaced) return scan;
-    space_tags(texto);
-    return TextScan(texto);
+    TextScan scan(texto);
+    if (scan.opens_tags && replace_all(texto, highlight_opening, for_opening)) {
+        space_tags(texto);
+        return TextScan(texto);
+    }
+    if (scan.spaced) return scan;
+    space_tags(texto); // which changes only the blanks
+    scan.spaced = true;
+    scan.blanks = count_units(texto, [](char16_t unit) { return unit == u' '; });
+    return scan;
 }
 
 Text& quitar_dobles(Text& texto) {

@@ -3,7 +3,6 @@
 
 #include "engine/counting/words.h"
 #include "platform/numbers.h"
-#include "platform/subscript.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -17,7 +16,7 @@ namespace {
 /// joints bring go in the end anyway.
 struct Segments {
     const LinkingSentences& sentences;
-    const std::vector<TextView>& piezas; ///< of one text, single blanks between them
+    const SpacedText& spaced;
     std::uint64_t lengths; ///< a bit for the length of each anchor word, the last for all from 63 on
     int w;
     Text out{};
@@ -37,13 +36,11 @@ struct Segments {
         return false;
     }
 
-    TextView pieza(std::int64_t p) const { return at(piezas, p); }
-
     /// Appends the segment from piece `first`, `step` + 1 pieces; false when it was the last one.
     bool append(std::int64_t first, int step) {
         const std::int64_t last = first + step;
         std::int64_t p = first;
-        while (p <= last && !is_anchor(pieza(p))) ++p;
+        while (p <= last && !is_anchor(spaced.pieces(p, p))) ++p;
         if (p > last) { // no anchor word: the last sentence, glued to the last word
             append_pieces(first, last);
             append_single(f);
@@ -63,10 +60,9 @@ struct Segments {
     /// A blank and the pieces `from` to `to`, if there are any.
     void append_pieces(std::int64_t from, std::int64_t to) {
         if (from > to) return;
-        const char16_t* const begin = pieza(from).data();
-        const TextView end = pieza(to);
+        const TextView together = spaced.pieces(from, to);
         if (!out.empty() && out.back() != u' ') out.push_back(u' ');
-        out.append(begin, end.data() + end.size());
+        out.append(together);
     }
 
     void append_single(TextView added) {
@@ -101,13 +97,25 @@ void check_densidad(TextView texto, const Text& keyword) {
 
 } // namespace
 
-SpacedText::SpacedText(Text text)
-    : texto(std::move(text)), palabras(contar_palabras(texto)),
-      piezas(split_views(trim_view(quitar_dobles(texto)))) {}
+SpacedText::SpacedText(Text text) : texto(std::move(text)), palabras(contar_palabras(texto)) {
+    const TextView kept = trim_view(quitar_dobles(texto));
+    if (kept.empty()) return;
+    const auto blank = [](char16_t unit) { return unit == u' '; };
+    starts.resize(static_cast<std::size_t>(count_units(kept, blank)) + 2);
+    const auto in_front = static_cast<std::uint32_t>(kept.data() - texto.data());
+    starts.front() = in_front;
+    // Written for every unit, kept behind a blank: no branch to be guessed.
+    std::size_t n = 1;
+    for (std::uint32_t i = 0; i < kept.size(); ++i) {
+        starts[n] = in_front + i + 1;
+        n += blank(kept[i]) ? 1 : 0;
+    }
+    starts[n] = in_front + static_cast<std::uint32_t>(kept.size()) + 1;
+}
 
 Text Ajustar_KW(const SpacedText& spaced, const Text& keyword, int densidad_pedida,
                 const LinkingSentences& sentences) {
-    if (spaced.piezas.empty() || densidad_pedida < 1) return {};
+    if (spaced.blank() || densidad_pedida < 1) return {};
     const int w = spaced.palabras;
     const Text k = Trim(keyword);
     check_densidad(spaced.texto, k);
@@ -117,14 +125,14 @@ Text Ajustar_KW(const SpacedText& spaced, const Text& keyword, int densidad_pedi
     std::uint64_t lengths = 0; // none that counts without a keyword
     if (!k.empty())
         for (const Text& ancla : sentences.anchors) lengths |= Segments::length_bit(ancla);
-    Segments segments{sentences, spaced.piezas, lengths, w};
+    Segments segments{sentences, spaced, lengths, w};
     segments.out.reserve(spaced.texto.size() + spaced.texto.size() / 2);
     const auto n = static_cast<int>(Int(por_cien - 1));
     for (int i = 0; i <= n; ++i)
         if (!segments.append(static_cast<std::int64_t>(i) * step, step)) break;
     check_densidad(segments.out, k);
     if (sentences.put_in != nullptr) *sentences.put_in += segments.put_in;
-    return Trim(segments.out);
+    return Trim(std::move(segments.out));
 }
 
 } // namespace twk

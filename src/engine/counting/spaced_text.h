@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/counting/sentences.h"
+#include "platform/subscript.h"
 #include "platform/text.h"
 
 #include <cstdint>
@@ -16,9 +17,18 @@ struct SpacedText {
     SpacedText(const SpacedText&) = delete;
     SpacedText& operator=(const SpacedText&) = delete;
 
+    /// Without a word.
+    bool blank() const { return starts.empty(); }
+    /// Piece number `first` to `last` of the text without the blanks at its ends. Fault 9 outside it.
+    TextView pieces(std::int64_t first, std::int64_t last) const {
+        const std::uint32_t begin = at(starts, first), end = at(starts, last + 1);
+        return TextView(texto).substr(begin, end - 1 - begin);
+    }
+
     Text texto;
     std::int16_t palabras;
-    std::vector<TextView> piezas; ///< of `texto`, without the blanks at its ends
+    /// Where each piece begins in `texto`, and one blank behind the last; empty when there is none.
+    std::vector<std::uint32_t> starts;
 };
 
 /// What `plain::Ajustar_KW` gives for the text. The pieces are put together without a copy of each, and the

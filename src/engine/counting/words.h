@@ -11,6 +11,9 @@ namespace twk {
 /// blank on both sides. The text keeps that spacing and loses its highlight openings. Fault 6 past 32767.
 std::int16_t contar_palabras(Text& texto);
 
+/// The same for a text of lines, which end with CR LF, as if a blank stood for each line end.
+std::int16_t words_of_lines(const Text& texto);
+
 /// Occurrences of the keyword, as a substring in the text's own case. The keyword becomes trimmed lower case
 /// (single blanks, if it is a phrase); the text gets blanks around tags, single blanks, and its "$$$" become
 /// blanks. Fault 6 past 32767.
