@@ -15,6 +15,9 @@
 //   --keywords K   phrases ("garden topic 7"), words of their own, or words that share their beginning:
 //   shared
 //   --report FILE  what the report holds of every page
+//   --overview yes then how long the overview takes: put together, written as HTML; in windows opened,
+//   sorted,
+//                  filtered
 //   --window yes   in the program's own windows, on whatever display Qt finds (QT_QPA_PLATFORM=offscreen:
 //   none)
 //   --line yes     one line of figures: pages, bytes, seconds, processor seconds, the kernel's, MB resident
@@ -25,6 +28,7 @@
 #include "platform/process.h"
 #include "platform/silent_desktop.h"
 #include "reports/form12.h"
+#include "reports/report_file.h"
 #include "settings/form6.h"
 #include "shell/form2.h"
 #include "shell/module1.h"
@@ -36,13 +40,18 @@
 #include "shell/mdi1.h"
 
 #include <QApplication>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QTableView>
 #endif
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <map>
 #include <random>
 #include <sstream>
@@ -156,6 +165,52 @@ void write_report(const std::string& file) {
     }
 }
 
+double seconds_of(const std::function<void()>& work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+void time_overview() {
+    Form12& report = screen<Form12>();
+    std::size_t bytes = 0;
+    const double together = seconds_of([&] { report.overview(); });
+    const double written =
+        seconds_of([&] { bytes = written_report(report, ReportFormat::html).value_or("").size(); });
+    std::printf("overview put together in %.2f s, HTML of %.1f MB in %.2f s\n", together,
+                static_cast<double>(bytes) / 1e6, written);
+}
+
+#ifdef BENCH_WINDOWS
+template <class Widget> Widget* widget_named(const char* name) {
+    for (QWidget* each : QApplication::allWidgets())
+        if (each->objectName() == QLatin1String(name)) return qobject_cast<Widget*>(each);
+    return nullptr;
+}
+
+/// What a hand waits for, each until it is drawn.
+void time_table() {
+    auto* const tabs = widget_named<QTabWidget>("tabs_report");
+    auto* const table = widget_named<QTableView>("overview_pages");
+    auto* const filter = widget_named<QLineEdit>("overview_filter");
+    if (tabs == nullptr || table == nullptr || filter == nullptr) return;
+    const auto drawn = [](const std::function<void()>& act) {
+        return seconds_of([&act] {
+            act();
+            QCoreApplication::processEvents();
+        });
+    };
+    const double opened = drawn([&] { tabs->setCurrentIndex(1); });
+    double sorted = 0;
+    for (int column = 0; column < table->model()->columnCount(); ++column)
+        if (!table->isColumnHidden(column))
+            sorted = std::max(sorted, drawn([&] { table->sortByColumn(column, Qt::AscendingOrder); }));
+    const double filtered = drawn([&] { filter->setText(QStringLiteral("7")); });
+    std::printf("table opened in %.2f s, sorted by any column in %.2f s at most, filtered in %.2f s\n",
+                opened, sorted, filtered);
+}
+#endif
+
 double in_seconds(const timeval& time) {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
 }
@@ -183,6 +238,12 @@ bool timed_run(const Size& size, const TextShape& shape, const Options& options)
                     size.keywords, size.subkeywords, size.boxes, size.words, size.random_pages, size.layout,
                     pages, bytes / 1e6, seconds.count(), processor, resident);
     if (const std::string file = options.value("--report"); !file.empty()) write_report(file);
+    if (!options.value("--overview").empty()) {
+        time_overview();
+#ifdef BENCH_WINDOWS
+        time_table();
+#endif
+    }
     return form.run->finished;
 }
 

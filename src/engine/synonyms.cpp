@@ -11,6 +11,7 @@
 #include "store/stores.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <map>
 #include <unordered_map>
 
@@ -27,17 +28,20 @@ class Dictionary {
         const std::size_t j = rows_.size();
         by_keyword_.emplace(LCase(clave_k), j);
         by_synonym_.emplace(LCase(sinonimo_s), j);
+        lengths_ |= length_bit(clave_k) | length_bit(sinonimo_s);
         rows_.push_back(
             {first_letter(clave_k), first_letter(sinonimo_s), std::move(sinonimo_k), std::move(clave_s)});
     }
 
     /// What stands for the word; null when nothing does.
     const Text* find(TextView word) {
-        const Text plain = LCase(word);
-        const std::size_t k = row_of(by_keyword_, plain);
-        const std::size_t s = row_of(by_synonym_, plain);
+        if ((lengths_ & length_bit(word)) == 0) return nullptr; // most words, with a small dictionary
+        plain_.assign(word);
+        for (char16_t& unit : plain_) unit = lower(unit);
+        const std::size_t k = row_of(by_keyword_, plain_);
+        const std::size_t s = row_of(by_synonym_, plain_);
         const std::size_t first = std::min(k, s);
-        if (first == none || first > last_row(first_letter(plain))) return nullptr;
+        if (first == none || first > last_row(first_letter(plain_))) return nullptr;
         return k <= s ? &rows_[k].sinonimo_k : &rows_[s].clave_s; // the keyword's row comes first
     }
 
@@ -48,6 +52,11 @@ class Dictionary {
     };
     using Index = std::unordered_map<Text, std::size_t>;
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
+
+    /// A bit for the length of a word, the last for all from 63 on.
+    static std::uint64_t length_bit(TextView word) {
+        return std::uint64_t{1} << std::min<std::size_t>(word.size(), 63);
+    }
 
     static Text first_letter(TextView word) { return LCase(word.substr(0, 1)); }
 
@@ -70,6 +79,8 @@ class Dictionary {
 
     std::vector<Row> rows_;
     Index by_keyword_, by_synonym_;
+    std::uint64_t lengths_ = 0; ///< of all words, by `length_bit`
+    Text plain_;                ///< room for the word looked up, that is used again
     std::map<Text, std::size_t> last_rows_;
 };
 

@@ -140,10 +140,10 @@ const KeywordSet& Form12::keyword_set() {
     return *counted_;
 }
 
-void Form12::analyse_body(PageAnalysis& page, const Text& html) {
+void Form12::analyse_body(PageAnalysis& page, const Text& html, const KeywordSet& set) {
     Text cuerpo = visible_text(html);
     ignoring_faults([&] { page.words = to_text(words_of_lines(cuerpo)); });
-    KeywordCounts counts(keyword_set(), cuerpo);
+    KeywordCounts counts(set, cuerpo);
     for (std::size_t k = 0; k < page.keywords.size(); ++k) {
         if (xKeyWords[k].empty()) continue;
         KeywordAnalysis& found = page.keywords[k];
@@ -151,12 +151,12 @@ void Form12::analyse_body(PageAnalysis& page, const Text& html) {
     }
 }
 
-void Form12::analyse_title(PageAnalysis& page, const Text& html) {
+void Form12::analyse_title(PageAnalysis& page, const Text& html, const KeywordSet& set) {
     if (!contains(html, u"<title>")) return;
     Text titulo;
     ignoring_faults([&] { titulo = page.title = title_of(html); });
     ignoring_faults([&] { page.title_words = to_text(contar_palabras(titulo)); });
-    KeywordCounts counts(keyword_set(), titulo);
+    KeywordCounts counts(set, titulo);
     for (std::size_t k = 0; k < page.keywords.size(); ++k) {
         KeywordAnalysis& found = page.keywords[k];
         ignoring_faults([&] {
@@ -193,8 +193,9 @@ void Form12::reporte2_2(const Text& path, const Text& page, std::int16_t& index,
     ignoring_faults(
         [&] { entry.kb = to_text(static_cast<double>(bytes < 0 ? FileLen(path) : bytes) / 1000); });
     entry.kind = to_text(kind);
-    analyse_body(entry, page);
-    analyse_title(entry, page);
+    const KeywordSet& set = keyword_set();
+    analyse_body(entry, page, set);
+    analyse_title(entry, page, set);
     if (contains(page, u"<!-- url")) ignoring_faults([&] { entry.url = commented_url(page); });
     entry.leads_to = book_.read(path, page, siblings);
     entry.links = to_text(static_cast<int>(entry.leads_to.mentions) - 1); // leaves one out

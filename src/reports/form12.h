@@ -99,8 +99,8 @@ class Form12 {
     void enable_lists(bool on);
     void plan_pages(const KeywordTable& tabla);
     const KeywordSet& keyword_set();
-    void analyse_body(PageAnalysis& page, const Text& html);
-    void analyse_title(PageAnalysis& page, const Text& html);
+    void analyse_body(PageAnalysis& page, const Text& html, const KeywordSet& set);
+    void analyse_title(PageAnalysis& page, const Text& html, const KeywordSet& set);
     void fill_list(ListBox& list, int first, int end, int width);
     Text report_text(const PageAnalysis& page, int list) const;
 

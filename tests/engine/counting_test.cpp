@@ -94,6 +94,9 @@ TEST(Counts, EqualTheirPlainForm) {
         Text words = simple, simple_words = simple;
         ASSERT_EQ(contar_palabras(words), plain::contar_palabras(simple_words)) << seed;
         ASSERT_EQ(words, simple_words) << seed;
+        const Text lines = Replace(Replace(Replace(simple, u"a", vbCrLf), u"l", u"\r"), u"e", u"\n");
+        Text in_one_line = Replace(lines, vbCrLf, u" ");
+        ASSERT_EQ(words_of_lines(lines), plain::contar_palabras(in_one_line)) << seed;
         std::vector<Text> simple_keywords = soup.keywords();
         std::vector<Text> fast_keywords = simple_keywords;
         const Text with = soup.substitute();
