@@ -44,8 +44,9 @@ std::optional<std::int64_t> pieces_of_lines(TextView text) {
     constexpr std::size_t block = 16384; // no counter overflows
     const std::size_t last = text.size() - 1;
     const auto parts = [&text, last](std::size_t at) {
-        return text[at] == u' ' || (text[at] == u'\n' && at > 0 && text[at - 1] == u'\r') ||
-               (text[at] == u'\r' && at < last && text[at + 1] == u'\n');
+        const char16_t before = at > 0 ? text[at - 1] : u' ', next = at < last ? text[at + 1] : u' ';
+        return text[at] == u' ' || (text[at] == u'\n' && before == u'\r') ||
+               (text[at] == u'\r' && next == u'\n');
     };
     std::int64_t pieces = (parts(0) ? 0 : 1) + (parts(0) && !parts(1) ? 1 : 0) +
                           (last > 1 && parts(last - 1) && !parts(last) ? 1 : 0);
