@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/entry_delegate.h"
 
+#include "desktop/looks.h"
 #include "desktop/tool_icons.h"
 
 #include <QApplication>
@@ -14,18 +15,15 @@ namespace {
 
 constexpr int margin = 3;
 
-QFont small(QFont font) {
-    font.setPointSizeF(font.pointSizeF() * 0.87);
-    return font;
-}
-
 } // namespace
 
 EntryDelegate::EntryDelegate(QListWidget& list) : QStyledItemDelegate(&list) {}
 
 QSize EntryDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& at) const {
     QSize size = QStyledItemDelegate::sizeHint(option, at);
-    if (note) size.rheight() += QFontMetrics(small(option.font)).height() + margin;
+    if (!note) return size;
+    size.setWidth(1); // a long one is cut to the width of the list
+    size.rheight() += QFontMetrics(sized(option.font, Letters::small)).height() + margin;
     return size;
 }
 
@@ -51,7 +49,7 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const int first = option.fontMetrics.height();
     painter->drawText(QRect(room.topLeft(), QSize(room.width(), first)), Qt::AlignLeft | Qt::AlignVCenter,
                       option.fontMetrics.elidedText(name, Qt::ElideRight, room.width()));
-    painter->setFont(small(option.font));
+    painter->setFont(sized(option.font, Letters::small));
     painter->setPen(faded(colour));
     painter->drawText(room.adjusted(0, first, 0, 0), Qt::AlignLeft | Qt::AlignTop,
                       QFontMetrics(painter->font()).elidedText(words, Qt::ElideRight, room.width()));

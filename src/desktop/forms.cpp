@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/forms.h"
 
+#include "desktop/looks.h"
 #include "ui_disclaimer.h"
 #include "ui_form1.h"
 #include "ui_form10.h"
@@ -33,6 +34,7 @@ template <class Form> QWidget* built() {
     auto* const widget = new QWidget;
     Form form;
     form.setupUi(widget);
+    dress(*widget);
     return widget;
 }
 

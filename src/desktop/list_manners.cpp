@@ -55,7 +55,7 @@ void ListManners::add_filter() {
     auto* const holder = new QWidget(parent);
     auto* const column = new QVBoxLayout(holder);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(3);
+    column->setSpacing(2);
     delete parent->layout()->replaceWidget(&list_, holder);
     filter_ = new QLineEdit;
     filter_->setObjectName(QStringLiteral("filter_") + list_.objectName());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/rail.h"
 
+#include "desktop/looks.h"
 #include "desktop/qt_text.h"
 #include "desktop/tool_icons.h"
 #include "shell/side_tools.h"
@@ -76,9 +77,7 @@ QFont RailEntry::name_font(bool here) const {
 }
 
 QFont RailEntry::small_font() const {
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.87);
-    return small;
+    return sized(font(), Letters::small);
 }
 
 int RailEntry::words_begin() const {
@@ -142,8 +141,8 @@ void RailEntry::paintEvent(QPaintEvent*) {
         painter.setBrush(back);
         painter.drawRoundedRect(room, 5, 5);
     }
-    QColor text = colours.color(isEnabled() ? QPalette::Active : QPalette::Disabled,
-                                here_ ? QPalette::HighlightedText : QPalette::WindowText);
+    QColor text = colours.color(QPalette::Active, here_ ? QPalette::HighlightedText : QPalette::WindowText);
+    if (!isEnabled()) text.setAlphaF(0.45F); // many a dark palette makes what is disabled hard to see
     const int size = mark_size(fontMetrics());
     const QRect mark(margin + 2, (height() - size) / 2, size, size);
     paint_mark(painter, mark, text);
@@ -173,8 +172,7 @@ void RailEntry::paintEvent(QPaintEvent*) {
 
 QLabel* Rail::heading(const QString& text) {
     auto* const label = new QLabel(text, this);
-    QFont small = label->font();
-    small.setPointSizeF(small.pointSizeF() * 0.87);
+    QFont small = sized(label->font(), Letters::small);
     small.setBold(true);
     label->setFont(small);
     label->setContentsMargins(margin + 2, 10, margin, 2);
@@ -193,8 +191,7 @@ Rail::Rail() {
     project_->setTextFormat(Qt::PlainText);
     project_->setContentsMargins(margin + 2, 4, margin, 4);
     project_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    QFont large = project_->font();
-    large.setPointSizeF(large.pointSizeF() * 1.15);
+    QFont large = sized(project_->font(), Letters::heading);
     large.setBold(true);
     project_->setFont(large);
     column->addWidget(project_);

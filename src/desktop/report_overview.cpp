@@ -56,6 +56,7 @@ ReportOverview::ReportOverview(ScreenBinding& binding, QWidget& ended)
     counts_->setWordWrap(true);
     column->addWidget(counts_);
     auto* const parts = new QSplitter(Qt::Vertical);
+    parts->setObjectName(QStringLiteral("overview_parts"));
     auto* const lower = new QWidget;
     auto* const below = new QVBoxLayout(lower);
     below->setContentsMargins(0, 0, 0, 0);
@@ -84,6 +85,7 @@ QWidget* ReportOverview::build_head() {
     destinations_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     destinations_->setSelectionBehavior(QAbstractItemView::SelectRows);
     auto* const head = new QSplitter;
+    head->setObjectName(QStringLiteral("overview_head"));
     head->addWidget(titled(QStringLiteral("&Findings (a click shows their pages)"), {findings_, why_}));
     head->addWidget(titled(QStringLiteral("C&harts"), {charts_, chart_}));
     head->addWidget(titled(QStringLiteral("Where to &upload"), {destinations_}));

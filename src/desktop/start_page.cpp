@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/start_page.h"
 
+#include "desktop/looks.h"
 #include "desktop/qt_text.h"
 #include "platform/faults.h"
 #include "shell/project_list.h"
@@ -40,11 +41,9 @@ StartPage::StartPage()
     auto* const middle = new QWidget;
     middle->setMaximumWidth(widest);
     auto* const column = new QVBoxLayout(middle);
-    column->setSpacing(10);
+    column->setSpacing(12);
     auto* const title = new QLabel(tr("Projects"));
-    QFont large = title->font();
-    large.setPointSizeF(large.pointSizeF() * 1.6);
-    title->setFont(large);
+    title->setFont(sized(title->font(), Letters::title));
     column->addWidget(title);
     auto* const words = new QLabel(tr(about));
     words->setWordWrap(true);
@@ -60,7 +59,7 @@ StartPage::StartPage()
     buttons->addWidget(open_);
     column->addLayout(buttons);
     auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(16, 16, 16, 16);
+    row->setContentsMargins(12, 12, 12, 12);
     row->addStretch(1);
     row->addWidget(middle, 100);
     row->addStretch(1);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/tool_icons.h"
 
+#include <QGuiApplication>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <map>
@@ -79,6 +81,37 @@ void paint_tool_icon(QPainter& painter, const QRect& place, const QString& entry
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(path);
     painter.restore();
+}
+
+namespace {
+
+/// Is drawn anew whenever it is shown, as the palette may have changed.
+class SignEngine : public QIconEngine {
+  public:
+    explicit SignEngine(QString entry) : entry_(std::move(entry)) {}
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        painter->setRenderHint(QPainter::Antialiasing);
+        paint_tool_icon(*painter, place, entry_,
+                        QGuiApplication::palette().color(group, QPalette::ButtonText));
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap made(size);
+        made.fill(Qt::transparent);
+        QPainter painter(&made);
+        paint(&painter, made.rect(), mode, state);
+        return made;
+    }
+    QIconEngine* clone() const override { return new SignEngine(*this); }
+
+  private:
+    QString entry_;
+};
+
+} // namespace
+
+QIcon tool_icon(const QString& entry) {
+    return QIcon(new SignEngine(entry));
 }
 
 QColor warning_colour(const QPalette& palette) {

@@ -110,10 +110,10 @@ Text Form5::note_of(int box) {
             return u"more words than can be counted";
         }
     }
-    Text note = to_text(words) + (words == 1 ? u" word" : u" words");
+    Text note = box == List1.list_index() && lbl_unsaved.visible() ? u"not saved yet; " : u"";
+    note += to_text(words) + (words == 1 ? u" word" : u" words");
     const auto ties = tied_to_.find(at(caja_cid, box));
     if (ties != tied_to_.end()) note += u"; tied: " + joined(ties->second, u", ");
-    if (box == List1.list_index() && lbl_unsaved.visible()) note += u"; not saved yet";
     return note;
 }
 

@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QSplitter>
 #include <QTest>
 
 namespace twk {
@@ -60,6 +61,10 @@ TEST_F(Binding, EveryControlOfEveryScreenHasItsWidgetAndEveryEventItsSignal) {
         expect_captions_of_the_core(screen, *window);
         QSet<const QWidget*> labelled;
         for (const QLabel* label : window->findChildren<QLabel*>()) labelled << label->buddy();
+        QSet<QString> splitters;
+        for (const QSplitter* each : window->findChildren<QSplitter*>()) splitters << each->objectName();
+        EXPECT_EQ(splitters.size(), window->findChildren<QSplitter*>().size())
+            << "each is remembered by name";
         for (const QWidget* each : window->findChildren<QWidget*>()) {
             const bool named = !each->accessibleName().isEmpty() || labelled.contains(each) ||
                                qobject_cast<const QAbstractButton*>(each) != nullptr ||
