@@ -10,13 +10,9 @@ namespace {
 constexpr int width = 420, height = 200;
 constexpr int left = 44, right = 8, top = 10, bottom = 30;
 
-std::string number(double value) {
-    return short_number(value);
-}
-
 std::string text_at(double x, double y, std::string_view anchor, std::string_view text) {
-    return "<text x=\"" + number(x) + "\" y=\"" + number(y) + "\" text-anchor=\"" + std::string(anchor) +
-           "\">" + std::string(text) + "</text>";
+    return "<text x=\"" + short_number(x) + "\" y=\"" + short_number(y) + "\" text-anchor=\"" +
+           std::string(anchor) + "\">" + std::string(text) + "</text>";
 }
 
 std::string opening(int w, int h, const std::string& label) {
@@ -33,10 +29,11 @@ std::string bar_parts(const Histogram& chart, const Histogram::Bar& bar, double 
         if (pages == 0) continue;
         const double h = static_cast<double>(pages) * (height - top - bottom) / chart.most;
         y -= h;
-        out += "<rect class=\"k" + std::to_string(kind) + "\" x=\"" + number(x) + "\" y=\"" + number(y) +
-               "\" width=\"" + number(w) + "\" height=\"" + number(h) + "\"><title>" +
-               escaped(kind_name(kind)) + ": " + std::to_string(pages) + " pages, " + number(bar.from) +
-               " to " + number(bar.to) + " " + escaped(chart.unit) + "</title></rect>";
+        out += "<rect class=\"k" + std::to_string(kind) + "\" x=\"" + short_number(x) + "\" y=\"" +
+               short_number(y) + "\" width=\"" + short_number(w) + "\" height=\"" + short_number(h) +
+               "\"><title>" + escaped(kind_name(kind)) + ": " + std::to_string(pages) + " pages, " +
+               short_number(bar.from) + " to " + short_number(bar.to) + " " + escaped(chart.unit) +
+               "</title></rect>";
     }
     return out;
 }
@@ -47,10 +44,10 @@ std::string axes(const Histogram& chart) {
                       std::to_string(base) + "H" + std::to_string(width - right) + "\"/>";
     out += text_at(left - 5, top + 8, "end", std::to_string(chart.most));
     out += text_at(left - 5, base, "end", "0");
-    out += text_at(left, base + 14, "start", number(chart.bars.front().from));
-    out += text_at(width - right, base + 14, "end", number(chart.bars.back().to));
+    out += text_at(left, base + 14, "start", short_number(chart.bars.front().from));
+    out += text_at(width - right, base + 14, "end", short_number(chart.bars.back().to));
     const double middle = (chart.bars.front().from + chart.bars.back().to) / 2;
-    out += text_at((left + width - right) / 2.0, base + 14, "middle", number(middle));
+    out += text_at((left + width - right) / 2.0, base + 14, "middle", short_number(middle));
     return out + text_at((left + width - right) / 2.0, base + 27, "middle", escaped(chart.unit));
 }
 
@@ -111,8 +108,9 @@ std::string as_svg(const LinkMatrix& chart) {
         for (int to = 0; to < n; ++to) {
             const int links = chart.links[static_cast<std::size_t>(from)][static_cast<std::size_t>(to)];
             const double share = chart.most == 0 ? 0 : static_cast<double>(links) / chart.most;
-            out += "<rect class=\"k1\" fill-opacity=\"" + number(links == 0 ? 0.04 : 0.12 + 0.5 * share) +
-                   "\" x=\"" + number(head + to * cell_w + 1.0) + "\" y=\"" + number(y + 1) + "\" width=\"" +
+            out += "<rect class=\"k1\" fill-opacity=\"" +
+                   short_number(links == 0 ? 0.04 : 0.12 + 0.5 * share) + "\" x=\"" +
+                   short_number(head + to * cell_w + 1.0) + "\" y=\"" + short_number(y + 1) + "\" width=\"" +
                    std::to_string(cell_w - 2) + "\" height=\"" + std::to_string(cell_h - 2) + "\"/>";
             out += text_at(head + (to + 0.5) * cell_w, y + cell_h / 2.0 + 4, "middle", std::to_string(links));
         }
