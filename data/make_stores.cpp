@@ -97,7 +97,7 @@ SampleProject read_sample(const Text& path) {
         section = u"content";
     }
     for (ContentBox& box : sample.boxes)
-        while (box.text.ends_with(vbCrLf)) box.text.resize(box.text.size() - vbCrLf.size());
+        while (box.text.ends_with(vbCrLf)) box.text.erase(box.text.size() - vbCrLf.size());
     return sample;
 }
 
