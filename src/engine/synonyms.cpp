@@ -53,11 +53,6 @@ class Dictionary {
     using Index = std::unordered_map<Text, std::size_t>;
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
 
-    /// A bit for the length of a word, the last for all from 63 on.
-    static std::uint64_t length_bit(TextView word) {
-        return std::uint64_t{1} << std::min<std::size_t>(word.size(), 63);
-    }
-
     static Text first_letter(TextView word) { return LCase(word.substr(0, 1)); }
 
     static std::size_t row_of(const Index& index, const Text& word) {

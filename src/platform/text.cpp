@@ -193,12 +193,8 @@ Text Trim(TextView text) {
 }
 
 Text Trim(Text&& text) {
-    const TextView kept = trim_view(text);
-    const auto in_front = static_cast<std::size_t>(kept.data() - text.data());
-    const std::size_t size = kept.size();
-    if (size == 0) return {};
-    text.resize(in_front + size);
-    text.erase(0, in_front);
+    text.erase(text.find_last_not_of(u' ') + 1); // all of it when there are only blanks: npos + 1 is 0
+    text.erase(0, text.find_first_not_of(u' '));
     return std::move(text);
 }
 

@@ -39,6 +39,11 @@ Text& quitar_dobles(Text& texto);
 /// Puts a blank before every "<" and behind every ">", then collapses runs of blanks. In place.
 void space_tags(Text& texto);
 
+/// A bit for the length of a word, the last for all from 63 on: the bits of many words rule out most others.
+inline std::uint64_t length_bit(TextView word) {
+    return std::uint64_t{1} << (word.size() < 63 ? word.size() : 63);
+}
+
 /// Number of units of which the test holds; blocks with small counters, which compilers vectorise.
 template <class Test> std::int64_t count_units(TextView texto, Test test) {
     constexpr std::size_t block = 4096;

@@ -23,10 +23,6 @@ struct Segments {
     Text f{};       ///< the sentence chosen last
     int put_in = 0; ///< sentences
 
-    static std::uint64_t length_bit(TextView pieza) {
-        return std::uint64_t{1} << std::min<std::size_t>(pieza.size(), 63);
-    }
-
     bool is_anchor(TextView pieza) const {
         if ((lengths & length_bit(pieza)) == 0) return false;
         const char16_t first = lower(pieza.front());
@@ -124,7 +120,7 @@ Text Ajustar_KW(const SpacedText& spaced, const Text& keyword, int densidad_pedi
     if (step < 2) return {};
     std::uint64_t lengths = 0; // none that counts without a keyword
     if (!k.empty())
-        for (const Text& ancla : sentences.anchors) lengths |= Segments::length_bit(ancla);
+        for (const Text& ancla : sentences.anchors) lengths |= length_bit(ancla);
     Segments segments{sentences, spaced, lengths, w};
     segments.out.reserve(spaced.texto.size() + spaced.texto.size() / 2);
     const auto n = static_cast<int>(Int(por_cien - 1));

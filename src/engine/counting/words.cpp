@@ -38,42 +38,41 @@ std::int16_t contar_palabras(Text& texto) {
 
 namespace {
 
-/// Pieces of the text, of two units or more, between blanks and line ends; nothing when there is an end of a
-/// tag. Its one pass has no early exit and small counters: compilers vectorise that.
-std::optional<std::int64_t> pieces_of_lines(TextView text) {
+/// Whether a piece between blanks and line ends begins with `here`, behind `first` and `before`.
+unsigned short begins_piece(char16_t first, char16_t before, char16_t here, char16_t next) {
+    const unsigned short behind = (before == u' ') | ((before == u'\n') & (first == u'\r'));
+    const unsigned short parts =
+        (here == u' ') | ((here == u'\n') & (before == u'\r')) | ((here == u'\r') & (next == u'\n'));
+    return static_cast<unsigned short>(behind & ~parts);
+}
+
+/// Pieces of the text between blanks and line ends. All but its ends is one pass with small counters, which
+/// compilers vectorise.
+std::int64_t pieces_of_lines(TextView text) {
     constexpr std::size_t block = 16384; // no counter overflows
-    const std::size_t last = text.size() - 1;
-    const auto parts = [&text, last](std::size_t at) {
-        const char16_t before = at > 0 ? text[at - 1] : u' ', next = at < last ? text[at + 1] : u' ';
-        return text[at] == u' ' || (text[at] == u'\n' && before == u'\r') ||
-               (text[at] == u'\r' && next == u'\n');
+    const auto unit = [text](std::size_t at) { return at < text.size() ? text[at] : u' '; };
+    const auto begins_at = [&unit](std::size_t at) {
+        return begins_piece(unit(at - 2), unit(at - 1), unit(at), unit(at + 1));
     };
-    std::int64_t pieces = (parts(0) ? 0 : 1) + (parts(0) && !parts(1) ? 1 : 0) +
-                          (last > 1 && parts(last - 1) && !parts(last) ? 1 : 0);
-    unsigned short tags = 0;
-    for (const std::size_t at : {std::size_t{0}, std::size_t{1}, last})
-        tags = static_cast<unsigned short>(tags | (text[at] == u'<') | (text[at] == u'>'));
+    std::int64_t pieces = begins_at(0) + begins_at(1);
+    if (text.size() < 3) return pieces;
+    const std::size_t last = text.size() - 1;
     for (std::size_t from = 2; from < last; from += block) {
         const std::size_t end = std::min(last, from + block);
         unsigned short begun = 0;
-        for (std::size_t i = from; i < end; ++i) {
-            const char16_t here = text[i], before = text[i - 1], first = text[i - 2], next = text[i + 1];
-            const unsigned short behind = (before == u' ') | ((before == u'\n') & (first == u'\r'));
-            const unsigned short ends =
-                (here == u' ') | ((here == u'\n') & (before == u'\r')) | ((here == u'\r') & (next == u'\n'));
-            begun = static_cast<unsigned short>(begun + (behind & ~ends));
-            tags = static_cast<unsigned short>(tags | (here == u'<') | (here == u'>'));
-        }
+        for (std::size_t i = from; i < end; ++i)
+            begun = static_cast<unsigned short>(begun +
+                                                begins_piece(text[i - 2], text[i - 1], text[i], text[i + 1]));
         pieces += begun;
     }
-    return tags == 0 ? std::optional(pieces) : std::nullopt;
+    return pieces + begins_at(last);
 }
 
 } // namespace
 
 std::int16_t words_of_lines(const Text& texto) {
-    const auto pieces = texto.size() < 2 ? std::nullopt : pieces_of_lines(texto);
-    if (pieces) return as_count(*pieces);
+    const auto tag_end = [](char16_t unit) { return unit == u'<' || unit == u'>'; };
+    if (count_units(texto, tag_end) == 0) return as_count(pieces_of_lines(texto));
     Text in_one_line = Replace(texto, u"\r\n", u" ");
     return contar_palabras(in_one_line);
 }
