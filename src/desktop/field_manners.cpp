@@ -4,6 +4,7 @@
 #include "desktop/binder.h"
 #include "desktop/qt_text.h"
 #include "platform/desktop.h"
+#include "platform/paths.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -82,9 +83,8 @@ void browse(const ScreenBinding& binding, const QStringList& lists, const QStrin
                                                      .file_name = {},
                                                      .ending = {}});
         if (!chosen || binding.screen() == nullptr) return;
-        const std::size_t name = chosen->rfind(path_separator);
-        folder = chosen->substr(0, std::max<std::size_t>(name, 1));
-        file = chosen->substr(name + 1);
+        folder = folder_of(TextView(*chosen));
+        file = last_name(TextView(*chosen));
     } else {
         folder = from_qt(QFileDialog::getExistingDirectory(QApplication::activeWindow(), folder_title,
                                                            to_qt(folders->path())));

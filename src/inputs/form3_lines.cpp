@@ -4,6 +4,7 @@
 #include "inputs/form3.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
+#include "platform/paths.h"
 
 #include <algorithm>
 
@@ -72,12 +73,11 @@ void Form3::add_lines(const Text& lines, TextBox& box, void (Form3::*add)(), Tex
 }
 
 void Form3::take_file(const Text& path) {
-    const auto name_at = path.rfind(path_separator) + 1;
     op_imp_Click(LCase(path).ends_with(u".exp") ? 0 : 1);
     cmd_import_Click();
-    Dir2.set_path(path.substr(0, std::max<std::size_t>(name_at, 2) - 1));
+    Dir2.set_path(folder_of(TextView(path)));
     Dir2_Change();
-    File2.list_index = File2.place_of(path.substr(name_at));
+    File2.list_index = File2.place_of(Text(last_name(TextView(path))));
 }
 
 } // namespace twk

@@ -18,15 +18,6 @@
 
 namespace twk {
 
-namespace {
-
-/// Project names come from Step 1's own box, not from the name under which the project was opened.
-const Text& step1_name() {
-    return screen<Form2>().txt_name[0].text();
-}
-
-} // namespace
-
 Form6::Form6() {
     Frame1.visible = false;
     Frame3.visible = false;
@@ -40,12 +31,13 @@ Form6::~Form6() = default;
 void Form6::Form_Load() {
     module1().paso6_cancelado = u"0";
     carga_inicial = false;
-    const Text own = beside_program(step1_name() + u".dat");
+    const Text own = beside_program(choices.project_name() + u".dat");
     tomar_de_dat(*this, FileSystemObject().FileExists(own) ? own : beside_program(u"twk.dat"));
     if (!screens().is_loaded<Form6>()) return; // no settings file: the screen has closed itself
     // Names the default file whichever was read.
     screens().record<Form6>().caption = u"Step 5 of 6 - Gateway Generation - Using twk.dat";
-    take_last_key(open_hive().OpenRecordset(statements::project_named(step1_name())), u"pid", pid_form);
+    take_last_key(open_hive().OpenRecordset(statements::project_named(choices.project_name())), u"pid",
+                  pid_form);
     // The extension of the file is overridden here: 5.n only counts in a later load.
     Combo10.clear();
     Combo10.add_item(u".htm");
@@ -97,12 +89,12 @@ void make_even(ComboBox& how_many) {
 /// A name that leads elsewhere gets no settings file; the run will stop at its folder.
 void save_own_settings(Form6& form) {
     try {
-        const Fence named(beside_program(u"Projects"), step1_name());
+        const Fence named(beside_program(u"Projects"), form.choices.project_name());
     } catch (const RuntimeFault&) {
         MsgBox(u"File wasn't saved.");
         return;
     }
-    guardar_dat(form, beside_program(step1_name() + u".dat"));
+    guardar_dat(form, beside_program(form.choices.project_name() + u".dat"));
 }
 
 /// One run at a time: a second one would erase the pages under the first.
@@ -180,7 +172,7 @@ void Form6::Command4_Click() {
     CommonDialog1.init_dir = app_path();
     CommonDialog1.filter = u"Configuration Files (*.dat)|*.dat";
     CommonDialog1.dialog_title = u"Save settings to .dat";
-    CommonDialog1.file_name = step1_name();
+    CommonDialog1.file_name = choices.project_name();
     CommonDialog1.default_ext = u".dat";
     if (!CommonDialog1.show_save()) return;
     // Once a load has turned the property on, nothing is saved any more.

@@ -14,6 +14,7 @@ const GatewaySettings& StepChoices::settings() const {
 std::int16_t StepChoices::project_key() const {
     return form_.pid_form;
 }
+/// From Step 1's own box, not the name under which the project was opened.
 const Text& StepChoices::project_name() const {
     return screen<Form2>().txt_name[0].text();
 }
