@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace twk {
 
@@ -23,6 +24,16 @@ namespace {
 
 /// A list with more entries than these is a long one.
 constexpr int long_list = 20;
+
+/// Its rows and those of another list belong together: filtered alone, they would no longer stand side by
+/// side.
+bool scrolls_with_another(const QWidget& form, const QListWidget& list) {
+    const QList<QListWidget*> all = form.findChildren<QListWidget*>();
+    return list.property("scrollsWith").isValid() ||
+           std::any_of(all.begin(), all.end(), [&](const auto* each) {
+               return each->property("scrollsWith").toString() == list.objectName();
+           });
+}
 
 /// A button's words; a sign that stands in their place has them for screen readers alone.
 QString words_of(const QPushButton& button) {
@@ -47,7 +58,7 @@ ListManners::ListManners(ScreenBinding& binding, QWidget& form, QListWidget& lis
             delegate->note = [this, box = *box](int row) {
                 return binding_.screen() != nullptr ? to_qt(box->note(row)) : QString();
             };
-    add_filter();
+    if (!scrolls_with_another(form, list)) add_filter();
 }
 
 void ListManners::add_filter() {
@@ -130,7 +141,7 @@ bool ListManners::press_key(const QKeyEvent& key) {
         copy();
         return true;
     }
-    if (key.matches(QKeySequence::Find) && !filter_->isHidden()) {
+    if (key.matches(QKeySequence::Find) && filter_ != nullptr && !filter_->isHidden()) {
         filter_->setFocus(Qt::ShortcutFocusReason);
         return true;
     }

@@ -40,7 +40,7 @@ class ListManners : public QObject {
     ScreenBinding& binding_;
     QWidget& form_;
     QListWidget& list_;
-    QLineEdit* filter_ = nullptr;
+    QLineEdit* filter_ = nullptr; ///< null for a list that scrolls with another
 };
 
 } // namespace twk

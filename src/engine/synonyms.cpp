@@ -19,18 +19,26 @@ namespace twk {
 
 namespace {
 
+/// Per cent of the text to be rewritten: the seconds of the clock, at least 20.
+double share() {
+    return std::max(20.0, Val(Left(Right(ahora(), 7), 2)));
+}
+
+} // namespace
+
 /// The dictionary twice, by keyword and by synonym, row by row side by side. A word is looked up in the rows
 /// from the first on: the first row where it equals, in lower case, the keyword of one order or the synonym
 /// of the other.
-class Dictionary {
+class Synonyms::Dictionary {
   public:
-    void add(const Text& clave_k, Text sinonimo_k, const Text& sinonimo_s, Text clave_s) {
-        const std::size_t j = rows_.size();
-        by_keyword_.emplace(LCase(clave_k), j);
-        by_synonym_.emplace(LCase(sinonimo_s), j);
-        lengths_ |= length_bit(clave_k) | length_bit(sinonimo_s);
-        rows_.push_back(
-            {first_letter(clave_k), first_letter(sinonimo_s), std::move(sinonimo_k), std::move(clave_s)});
+    explicit Dictionary(Database& sinonimos) {
+        Recordset k =
+            sinonimos.OpenRecordset({u"select * from synonyms where synonyms  <> '' order by keyword asc"});
+        Recordset s =
+            sinonimos.OpenRecordset({u"select * from synonyms where synonyms  <> '' order by synonyms  asc"});
+        for (; !k.eof() && !s.eof(); k.MoveNext(), s.MoveNext())
+            add(k.Fields(u"keyword").text(), k.Fields(u"synonyms").text(), s.Fields(u"synonyms").text(),
+                s.Fields(u"keyword").text());
     }
 
     /// What stands for the word; null when nothing does.
@@ -52,6 +60,15 @@ class Dictionary {
     };
     using Index = std::unordered_map<Text, std::size_t>;
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
+
+    void add(const Text& clave_k, Text sinonimo_k, const Text& sinonimo_s, Text clave_s) {
+        const std::size_t j = rows_.size();
+        by_keyword_.emplace(LCase(clave_k), j);
+        by_synonym_.emplace(LCase(sinonimo_s), j);
+        lengths_ |= length_bit(clave_k) | length_bit(sinonimo_s);
+        rows_.push_back(
+            {first_letter(clave_k), first_letter(sinonimo_s), std::move(sinonimo_k), std::move(clave_s)});
+    }
 
     static Text first_letter(TextView word) { return LCase(word.substr(0, 1)); }
 
@@ -79,30 +96,11 @@ class Dictionary {
     std::map<Text, std::size_t> last_rows_;
 };
 
-Dictionary read_dictionary(Database& sinonimos) {
-    Recordset k =
-        sinonimos.OpenRecordset({u"select * from synonyms where synonyms  <> '' order by keyword asc"});
-    Recordset s =
-        sinonimos.OpenRecordset({u"select * from synonyms where synonyms  <> '' order by synonyms  asc"});
-    Dictionary dictionary;
-    for (; !k.eof() && !s.eof(); k.MoveNext(), s.MoveNext())
-        dictionary.add(k.Fields(u"keyword").text(), k.Fields(u"synonyms").text(),
-                       s.Fields(u"synonyms").text(), s.Fields(u"keyword").text());
-    return dictionary;
-}
-
-/// Per cent of the text to be rewritten: the seconds of the clock, at least 20.
-double share() {
-    return std::max(20.0, Val(Left(Right(ahora(), 7), 2)));
-}
-
-} // namespace
-
 /// The dictionary as it was read last.
 struct Synonyms::Known {
-    Database store;
-    Database::RowState state;
-    Dictionary dictionary;
+    Database store = open_synonyms();
+    Database::RowState state = store.row_state();
+    Dictionary dictionary{store};
 };
 
 Synonyms::Synonyms() = default;
@@ -111,11 +109,7 @@ Synonyms::~Synonyms() = default;
 Synonyms::Known& Synonyms::known() {
     if (known_ && file_exists(beside_program(u"synonyms.mdb")) && known_->store.row_state() == known_->state)
         return *known_;
-    auto read = std::make_unique<Known>();
-    read->store = open_synonyms();
-    read->state = read->store.row_state();
-    read->dictionary = read_dictionary(read->store);
-    known_ = std::move(read);
+    known_ = std::make_unique<Known>();
     return *known_;
 }
 

@@ -21,6 +21,7 @@ class Synonyms {
     Text sinonimo(const Text& texto);
 
   private:
+    class Dictionary;
     struct Known;
     Known& known();
     std::unique_ptr<Known> known_;
