@@ -178,6 +178,13 @@ void MainWindow::bring(ScreenWindow& window) {
         window.binding().run([&window] { screens().bring_forward(*window.screen()); });
 }
 
+void MainWindow::run_modal(ScreenWindow& window) {
+    room_->put_away(window);
+    rail_->show_front(window.objectName().toStdString());
+    window.run_modal();
+    show_front();
+}
+
 void MainWindow::close_front(bool side_screens_alone) {
     ScreenWindow* const window = front();
     if (window != nullptr && !(side_screens_alone && window->is_step())) window->close();

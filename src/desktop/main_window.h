@@ -34,6 +34,9 @@ class MainWindow : public QMainWindow {
     /// Takes a screen's window from sight; it is destroyed when no event runs any more.
     void retire(ScreenWindow& window);
     const std::vector<ScreenWindow*>& windows() const { return windows_; }
+    /// Shows a screen by itself and lets events run until it is hidden; the rail tells that it is the one in
+    /// front.
+    void run_modal(ScreenWindow& window);
     /// The screen in front, null at the empty start.
     ScreenWindow* front() const;
     /// Shows in the status bar what has just been done.

@@ -51,6 +51,7 @@ ScreenWindow* window_of(const Screen& screen) {
 QtDesktop::QtDesktop() {
     load_resources();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tarnwick.png")));
+    if (qgetenv("QT_QUICK_BACKEND") == "software") return; // browsers do without OpenGL then
     // The first browser in a window that cannot show what is drawn by OpenGL makes that window anew: it turns
     // black and goes in front of the others. With a hidden widget of that kind it can from its beginning.
     if (QGuiApplication::platformName() == QStringLiteral("xcb") ||
@@ -230,7 +231,7 @@ void QtDesktop::screen_forward(Screen& screen) {
 }
 
 void QtDesktop::wait_modal(Screen& screen) {
-    if (ScreenWindow* const window = window_of(screen)) window->run_modal();
+    if (ScreenWindow* const window = window_of(screen)) window_.run_modal(*window);
 }
 
 BrowserView* QtDesktop::view(const WebBrowser& browser) const {

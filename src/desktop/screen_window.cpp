@@ -91,7 +91,6 @@ void ScreenWindow::retire() {
 }
 
 void ScreenWindow::run_modal() {
-    room_.put_away(*this);
     ModalFrame dialog(room_.window(), [this] { close_screen(); });
     dialog_ = &dialog;
     dialog.setWindowModality(Qt::ApplicationModal);

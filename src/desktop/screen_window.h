@@ -28,7 +28,8 @@ class ScreenWindow : public QWidget {
     bool is_open() const;
 
     void open();
-    /// Shows the form in a dialog that blocks the other windows, until the screen is hidden or unloaded.
+    /// Shows the form in a dialog that blocks the other windows, until the screen is hidden or unloaded. The
+    /// window itself is not in the room then.
     void run_modal();
     /// Takes it from sight and lets go of the screen, which is being unloaded.
     void retire();

@@ -82,6 +82,7 @@ class Wizard : public test::WindowTest {
 
     /// Step 6, inside the run: the first random page gets another name.
     void rename_page() {
+        EXPECT_TRUE(qt.window().findChild<QWidget*>("rail_step_6")->accessibleName().contains("here"));
         user.choose("Form17", "List1", 0);
         user.type("Form17", "Text1", QStringLiteral("renamed-by-hand.htm"));
         user.expect(QStringLiteral("File Name Changed."));
