@@ -55,7 +55,7 @@ void ChartView::draw(QPainter& painter, const Histogram& chart) const {
         painter.fillRect(QRect(x, 7, 10, 10), colour(kind, palette()));
         const QString name = to_qt(kind_name(kind));
         painter.drawText(x + 15, 4 + letters.ascent(), name);
-        x += 30 + letters.horizontalAdvance(name);
+        x += 25 + letters.horizontalAdvance(name);
     }
     for (std::size_t b = 0; b < chart.bars.size(); ++b) {
         double base = plot.bottom();

@@ -16,6 +16,7 @@ struct SideTool;
 
 /// One line of the rail: a mark, a name, and a few words below it.
 class RailEntry : public QAbstractButton {
+    Q_OBJECT
   public:
     enum class Mark { open, missing, done, tool };
 

@@ -30,6 +30,8 @@ class ReportOverview : public QWidget {
   public:
     /// `ended` is the widget of the report that is enabled when no run writes.
     ReportOverview(ScreenBinding& binding, QWidget& ended);
+    /// No more room than the least is asked for because a line of words may need two.
+    bool hasHeightForWidth() const override { return false; }
 
     /// The rows that are chosen, and their visible columns, as text with tabs.
     QString chosen_as_text() const;
