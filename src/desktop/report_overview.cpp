@@ -39,6 +39,7 @@ QWidget* titled(const QString& title, std::initializer_list<QWidget*> widgets) {
     column->setContentsMargins(0, 0, 0, 0);
     auto* const label = new QLabel(title);
     label->setBuddy(*widgets.begin());
+    label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     column->addWidget(label);
     for (QWidget* const each : widgets) column->addWidget(each);
     return box;

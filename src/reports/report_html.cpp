@@ -144,8 +144,8 @@ class Page {
     void charts() {
         out_ += "<h2 id=\"charts\">Charts</h2>\n<p class=\"key\">";
         for (const int kind : {1, 2, 3})
-            out_ += "<span><i class=\"k" + std::to_string(kind) + "\"></i>" + escaped(kind_name(kind)) +
-                    "</span>";
+            out_ += R"(<span><svg viewBox="0 0 11 11"><rect class="k)" + std::to_string(kind) +
+                    R"(" width="11" height="11" rx="2"/></svg>)" + escaped(kind_name(kind)) + "</span>";
         out_ += "</p>\n<div class=\"charts\">\n";
         for (const Histogram& each : {words_chart(report_), size_chart(report_)})
             figure(escaped(each.title), as_svg(each));

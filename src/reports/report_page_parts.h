@@ -21,7 +21,7 @@ nav a{margin-right:16px}a{color:var(--k1)}
 .cards>div,.charts>figure{margin:0;padding:12px 14px;border:1px solid var(--line);border-radius:8px;background:var(--card)}
 .cards b{display:block;font-size:24px;line-height:1.2}
 .key{margin:6px 0 12px}.key span{margin-right:16px}
-.key i{display:inline-block;width:11px;height:11px;margin-right:6px;border-radius:2px}
+.key svg{display:inline-block;width:11px;height:11px;margin-right:6px}
 svg{display:block;width:100%;height:auto}svg text{font:11px system-ui,sans-serif;fill:var(--fg)}
 .axis{fill:none;stroke:var(--soft)}
 .k0{fill:var(--k0);background:var(--k0)}.k1{fill:var(--k1);background:var(--k1)}
@@ -45,7 +45,7 @@ summary{cursor:pointer}details ul{margin:4px 0;padding-left:18px}
 @page{size:A4 landscape;margin:12mm}
 body{padding:0;max-width:none;font-size:10pt;-webkit-print-color-adjust:exact;print-color-adjust:exact}
 nav,#filter{display:none}th{position:static}table{font-size:7.5pt}th,td{padding:2px 4px}
-tr,figure,.finding{break-inside:avoid}h2,h3{break-after:avoid}.wide{overflow:visible}}
+tr,figure,.finding,.key{break-inside:avoid}h2,h3,.key{break-after:avoid}.wide{overflow:visible}}
 )";
 
 /// Sorts the table by a click on a heading, numbers as numbers, and filters its rows by a text.
