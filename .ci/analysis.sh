@@ -1,9 +1,9 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # Static analysis of src/: cppcheck, then clang-tidy with the checks of .clang-tidy. Fails at the first finding.
-#   tests/analysis.sh                 all of src/ that the build folder compiles
-#   tests/analysis.sh --cppcheck      cppcheck alone, which takes a minute
-#   tests/analysis.sh FILE.cpp ...    clang-tidy on these files alone
+#   .ci/analysis.sh                 all of src/ that the build folder compiles
+#   .ci/analysis.sh --cppcheck      cppcheck alone, which takes a minute
+#   .ci/analysis.sh FILE.cpp ...    clang-tidy on these files alone
 # BUILD names the build folder with the compile commands (build/dev, made without windows when it is not there).
 set -eu
 cd "$(dirname "$0")/.."

@@ -1,7 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # Measures which lines of the core its tests reach, and fails below the least share.
-#   tests/coverage.sh             builds build/coverage, runs the tests without windows, prints the figures
+#   .ci/coverage.sh             builds build/coverage, runs the tests without windows, prints the figures
 # Further arguments are handed to cmake's configuration (-DTARNWICK_SANITIZE=ON joins it with the sanitizers).
 set -eu
 cd "$(dirname "$0")/.."
