@@ -5,6 +5,7 @@
 #include "support/sample_project.h"
 #include "user.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -69,18 +70,29 @@ TEST_F(ListManners, ListsTakeTheKeysThatPeopleTry) {
 }
 
 TEST_F(ListManners, AFileDroppedOnAScreenIsTakenThere) {
-    app.write(u"box.txt", "one\r\ntwo");
-    screens().dispatch([] { screens().show<Form5>(); });
-    QMimeData file;
-    file.setUrls({QUrl::fromLocalFile(to_qt(app.path(u"box.txt")))});
-    QWidget* const place = user.find<QPlainTextEdit>("Form5", "rt1")->viewport();
-    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(place, &enter);
-    QDropEvent drop({5, 5}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(place, &drop);
-    User::settle(400);
+    screens().dispatch([] { screens().show<Form5>(), screens().show<Form3>(), screens().show<Form6>(); });
+    const auto drop = [&](const char* screen, const char* on, TextView name, const char* bytes) {
+        app.write(Text(name), bytes);
+        QMimeData file;
+        file.setUrls({QUrl::fromLocalFile(to_qt(app.path(Text(name))))});
+        QWidget* place = user.find<QWidget>(screen, on);
+        if (auto* const area = qobject_cast<QAbstractScrollArea*>(place)) place = area->viewport();
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(place, &enter);
+        QDropEvent dropped({5, 5}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(place, &dropped);
+        User::settle(400);
+    };
+    drop("Form5", "rt1", u"box.txt", "one\r\ntwo");
     EXPECT_EQ(screen<Form5>().rt1.text(), u"one\r\ntwo") << "not its address";
     EXPECT_EQ(user.find<QLabel>("Form5", "lbl_live")->text().toStdString(), "2 words; no keyword");
+    drop("Form5", "rt1", u"page.html", "<b>three</b>");
+    EXPECT_TRUE(screen<Form5>().rt1.text().ends_with(u"two\r\n<b>three</b>"));
+    drop("Form3", "Text1", u"words.exp", "");
+    EXPECT_TRUE(screen<Form3>().Frame3.visible() && screen<Form3>().File2.list_index() == 0);
+    user.expect(QStringLiteral(".dat Loaded"));
+    drop("Form6", "pages", u"mine.dat", "1.a = 77\r\n");
+    EXPECT_EQ(screen<Form6>().settings.min_palabras, 77);
 }
 
 TEST_F(ListManners, TheNamesOfStep5sPagesSetTheSliderAndFollowIt) {
