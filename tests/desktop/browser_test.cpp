@@ -117,14 +117,14 @@ TEST_F(Browser, ComesToRestWhateverItIsAskedFor) {
 TEST_F(Browser, LeavesPagesThatWouldKeepItsUser) {
     server.page("/asks", "<body><script>onbeforeunload = e => { e.preventDefault(); return 'stay'; }"
                          "</script>x</body>");
-    server.page("/stuck", "<body><script>setTimeout(() => { while (1); }, 50)</script>x</body>");
+    server.page("/stuck", "<body><script>setTimeout(() => { while (1); }, 1000)</script>x</body>");
     WebBrowser& browser = surf("/asks");
     auto* const view = user.find<QWidget>("Form11", "wb1");
     QTest::mouseClick(view->focusProxy()->focusProxy(), Qt::LeftButton); // else no page may ask
     User::settle(200);
     qt.navigate(browser, from_qt(url("/stuck")));
     ASSERT_TRUE(at(browser, url("/stuck"))) << "the question is answered by Yes";
-    User::settle(200);
+    User::settle(1200);
     user.type("Form11", "Text1", url("/two"));
     user.click("Form11", "Command5");
     EXPECT_TRUE(at(browser, url("/two"))) << "its process is given up";
