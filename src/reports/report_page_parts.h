@@ -24,8 +24,8 @@ nav a{margin-right:16px}a{color:var(--k1)}
 .key svg{display:inline-block;width:11px;height:11px;margin-right:6px}
 svg{display:block;width:100%;height:auto}svg text{font:11px system-ui,sans-serif;fill:var(--fg)}
 .axis{fill:none;stroke:var(--soft)}
-.k0{fill:var(--k0);background:var(--k0)}.k1{fill:var(--k1);background:var(--k1)}
-.k2{fill:var(--k2);background:var(--k2)}.k3{fill:var(--k3);background:var(--k3)}
+.k0{fill:var(--k0)}.k1{fill:var(--k1)}
+.k2{fill:var(--k2)}.k3{fill:var(--k3)}
 .finding{margin:0 0 10px;padding:10px 14px;border:1px solid var(--line);border-left:5px solid var(--hint);border-radius:6px}
 .finding.broken{border-left-color:var(--broken)}.finding.poor{border-left-color:var(--poor)}
 .tag{font-size:12px;font-weight:600;color:var(--hint)}.broken .tag{color:var(--broken)}.poor .tag{color:var(--poor)}
