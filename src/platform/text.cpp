@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <clocale> // newlocale, too
 #include <cstdint>
 #include <cstring>
@@ -66,23 +67,37 @@ Units units_at(const char16_t* place) {
     return units;
 }
 
-bool any(Units found) {
+/// Which of eight units were found, as the two halves of a block of memory.
+struct Found {
     std::uint64_t halves[2];
-    std::memcpy(halves, &found, sizeof halves);
-    return (halves[0] | halves[1]) != 0;
-}
+
+    explicit Found(Units found) { std::memcpy(halves, &found, sizeof halves); }
+    bool any() const { return (halves[0] | halves[1]) != 0; }
+    /// Number of the first one; some must be.
+    int first() const {
+        const auto in_half = [](std::uint64_t half) {
+            return (std::endian::native == std::endian::little ? std::countr_zero(half)
+                                                               : std::countl_zero(half)) /
+                   16;
+        };
+        return halves[0] != 0 ? in_half(halves[0]) : 4 + in_half(halves[1]);
+    }
+};
 
 /// First place in [at, end) with both units in their places, or `end`.
 const char16_t* find_ends(const char16_t* at, const char16_t* end, Ends ends) {
-    constexpr int eight = 8, block = 8 * eight;
+    constexpr int eight = 8, block = 4 * eight;
     const Units first = eight_of(ends.first), last = eight_of(ends.last);
+    const auto of_eight = [&](const char16_t* place) {
+        return reinterpret_cast<Units>((units_at(place) == first) & (units_at(place + ends.distance) == last));
+    };
     for (; end - at >= block; at += block) {
         Units found{};
-        for (int i = 0; i < block; i += eight)
-            found |= reinterpret_cast<Units>((units_at(at + i) == first) &
-                                             (units_at(at + i + ends.distance) == last));
-        if (any(found)) break;
+        for (int i = 0; i < block; i += eight) found |= of_eight(at + i);
+        if (Found(found).any()) break;
     }
+    for (; end - at >= eight; at += eight)
+        if (const Found found(of_eight(at)); found.any()) return at + found.first();
     while (at != end && !ends.at(at)) ++at;
     return at;
 }

@@ -6,6 +6,14 @@
 
 namespace twk {
 
+namespace {
+
+constexpr int many_children = 4;      ///< from here on a table leads to a child
+constexpr std::size_t lanes = 4;      ///< of a search
+constexpr std::size_t stretch = 1024; ///< places that are searched at a time
+
+} // namespace
+
 PatternSet::PatternSet(std::vector<Text> patterns)
     : patterns_(std::move(patterns)), begins_(buckets), steps_(buckets) {
     order_patterns();
@@ -27,41 +35,61 @@ void PatternSet::order_patterns() {
         shortest_ = shortest_ == 0 ? length : std::min(shortest_, length);
     }
     std::stable_sort(order_.begin(), order_.end(), [this](int a, int b) { return pattern(a) < pattern(b); });
-    for (const int number : order_) begins_[beginning_of(pattern(number), 0)] = 1;
+    for (const int number : order_) begins_[beginning_of(pattern(number).data())] = 1;
 }
 
 /// Level by level, so that the children of a node stand side by side.
 void PatternSet::grow_tree() {
+    nodes_.push_back({.end = static_cast<int>(order_.size())});
+    units_.push_back(0);
+    std::vector<std::size_t> depths{0}; // of what leads to each node
+    for (std::size_t grown = 0; grown < nodes_.size(); ++grown)
+        if (nodes_[grown].begin != nodes_[grown].end) grow_node(grown, depths);
+}
+
+void PatternSet::grow_node(std::size_t number, std::vector<std::size_t>& depths) {
     const auto nth = [this](int place) -> const Text& {
         return pattern(order_[static_cast<std::size_t>(place)]);
     };
-    nodes_.push_back({0, static_cast<int>(order_.size()), 0});
-    units_.push_back(0);
-    std::size_t depth = 0, level_end = nodes_.size();
-    for (std::size_t grown = 0; grown < nodes_.size(); ++grown) {
-        if (grown == level_end) {
-            ++depth;
-            level_end = nodes_.size();
-        }
-        Node node = nodes_[grown];
-        while (node.begin + node.ends < node.end && nth(node.begin + node.ends).size() == depth) ++node.ends;
-        node.child = static_cast<int>(nodes_.size());
-        for (int from = node.begin + node.ends; from < node.end; ++node.children) {
-            const char16_t unit = nth(from)[depth];
-            int end = from;
-            while (end < node.end && nth(end)[depth] == unit) ++end;
-            nodes_.push_back({from, end, 0});
-            units_.push_back(unit);
-            from = end;
-        }
-        nodes_[grown] = node;
+    Node node = nodes_[number];
+    // Sorted as they are, the first and the last one tell what all have in common.
+    const Text &first = nth(node.begin), &last = nth(node.end - 1);
+    const auto from = static_cast<std::ptrdiff_t>(depths[number]);
+    const auto differs = std::mismatch(first.begin() + from, first.end(), last.begin() + from, last.end());
+    const auto depth = static_cast<std::size_t>(differs.first - first.begin());
+    node.label = labels_.size();
+    node.length = depth - depths[number];
+    labels_.append(first, depths[number], node.length);
+    while (node.begin + node.ends < node.end && nth(node.begin + node.ends).size() == depth) ++node.ends;
+    node.child = static_cast<int>(nodes_.size());
+    for (int child = node.begin + node.ends; child < node.end; ++node.children) {
+        const char16_t unit = nth(child)[depth];
+        int end = child;
+        while (end < node.end && nth(end)[depth] == unit) ++end;
+        nodes_.push_back({.begin = child, .end = end});
+        units_.push_back(unit);
+        depths.push_back(depth + 1);
+        child = end;
     }
+    if (node.children >= many_children) {
+        node.table = static_cast<int>(tables_.size());
+        ChildTable& table = tables_.emplace_back();
+        for (int child = 0; child < node.children; ++child)
+            if (const char16_t unit = units_[static_cast<std::size_t>(node.child + child)];
+                unit < table.size())
+                table[unit] = static_cast<std::uint8_t>(child + 1);
+    }
+    nodes_[number] = node;
 }
 
 /// Index of the child; 0 when there is none.
 int PatternSet::child_of(const Node& node, char16_t unit) const {
+    if (node.table >= 0) {
+        const ChildTable& table = tables_[static_cast<std::size_t>(node.table)];
+        if (unit < table.size()) return table[unit] == 0 ? 0 : node.child + table[unit] - 1;
+    }
     const auto first = units_.begin() + node.child, end = first + node.children;
-    const auto found = node.children < 8 ? std::find(first, end, unit) : std::lower_bound(first, end, unit);
+    const auto found = node.table < 0 ? std::find(first, end, unit) : std::lower_bound(first, end, unit);
     return found != end && *found == unit ? static_cast<int>(found - units_.begin()) : 0;
 }
 
@@ -85,23 +113,57 @@ void PatternSet::measure_steps() {
 
 void PatternSet::find(TextView text, std::size_t from, std::size_t end, std::vector<Hit>& hits) const {
     if (shortest_ == 0 || text.size() < shortest_) return;
+    end = std::min(end, text.size() - (shortest_ - 1));
+    for (; from < end; from += stretch) find_in_stretch(text, from, std::min(from + stretch, end), hits);
+}
+
+/// The stretch is searched in several lanes at a time: where the next step of one leads hangs on what it has
+/// just read, and the processor need not wait for that while it has the others.
+void PatternSet::find_in_stretch(TextView text, std::size_t from, std::size_t end,
+                                 std::vector<Hit>& hits) const {
+    struct Lane {
+        const char16_t* at;
+        const char16_t* end;
+        std::uint16_t* places; ///< where a pattern may begin, counted from the stretch
+        int found = 0;
+    };
+    std::uint16_t places[stretch];
+    const char16_t* const begin = text.data() + from;
     const std::size_t ahead = shortest_ - 1;
-    end = std::min(end, text.size() - ahead);
-    for (std::size_t at = from; at < end;) {
-        const std::size_t step = steps_[pair_of(text[at + ahead - 1], text[at + ahead])];
-        if (step == 0 && begins_[beginning_of(text, at)] != 0) follow(text, at, hits);
-        at += std::max<std::size_t>(step, 1);
+    const auto step = [&](Lane& lane) {
+        const std::size_t further = steps_[pair_of(lane.at[ahead - 1], lane.at[ahead])];
+        lane.places[lane.found] = static_cast<std::uint16_t>(lane.at - begin);
+        lane.found += int{further == 0} & int{begins_[beginning_of(lane.at)]};
+        lane.at += std::max<std::size_t>(further, 1);
+    };
+    const std::size_t share = (end - from + lanes - 1) / lanes;
+    Lane all[lanes];
+    for (std::size_t i = 0; i < lanes; ++i)
+        all[i] = {begin + std::min(i * share, end - from), begin + std::min((i + 1) * share, end - from),
+                  places + i * (stretch / lanes)};
+    while ((all[0].at < all[0].end) & (all[1].at < all[1].end) & (all[2].at < all[2].end) &
+           (all[3].at < all[3].end))
+        for (Lane& lane : all) step(lane);
+    for (Lane& lane : all) {
+        while (lane.at < lane.end) step(lane);
+        for (int i = 0; i < lane.found; ++i) follow(text, from + lane.places[i], hits);
     }
 }
 
 void PatternSet::follow(TextView text, std::size_t at, std::vector<Hit>& hits) const {
-    int node = 0;
-    for (std::size_t i = at; i < text.size(); ++i) {
-        node = child_of(nodes_[static_cast<std::size_t>(node)], text[i]);
-        if (node == 0) return;
-        const Node& here = nodes_[static_cast<std::size_t>(node)];
-        for (int ended = here.begin; ended < here.begin + here.ends; ++ended)
+    const char16_t* here = text.data() + at;
+    const char16_t* const end = text.data() + text.size();
+    for (const Node* node = &nodes_.front();;) {
+        if (std::cmp_less(end - here, node->length) ||
+            !std::equal(here, here + node->length, labels_.data() + node->label))
+            return;
+        here += node->length;
+        for (int ended = node->begin; ended < node->begin + node->ends; ++ended)
             hits.push_back({at, order_[static_cast<std::size_t>(ended)]});
+        if (node->children == 0 || here == end) return;
+        const int child = child_of(*node, *here++);
+        if (child == 0) return;
+        node = &nodes_[static_cast<std::size_t>(child)];
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/text.h"
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -33,14 +34,19 @@ class PatternSet {
     void find(TextView text, std::size_t from, std::size_t end, std::vector<Hit>& hits) const;
 
   private:
-    /// A node of the tree of all patterns: those that begin alike, as a range of `order_`. Its children stand
-    /// side by side, by their units.
+    /// A node of the tree of all patterns: those that begin alike, as a range of `order_`, with what they
+    /// have in common behind the unit that leads here. Its children stand side by side, by their units.
     struct Node {
-        int begin, end; ///< in `order_`
-        int ends;       ///< so many of them, the first, end here
-        int child = 0;  ///< the first one
+        int begin = 0, end = 0; ///< in `order_`
+        int ends = 0;           ///< so many of them, the first, end here
+        std::size_t label = 0;  ///< place in `labels_`
+        std::size_t length = 0; ///< of the label
+        int child = 0;          ///< the first one
         int children = 0;
+        int table = -1; ///< in `tables_`, of a node with many children
     };
+    /// Number of the child that a unit leads to, counted from 1; 0 for none.
+    using ChildTable = std::array<std::uint8_t, 128>;
 
     static constexpr std::size_t buckets = 4096; ///< few enough to stay close to the processor
 
@@ -48,20 +54,24 @@ class PatternSet {
         return (first * 0x9E37u + second) % buckets;
     }
     /// Bucket of what a pattern begins with: three units, where none has less.
-    std::size_t beginning_of(TextView text, std::size_t at) const {
-        const std::size_t pair = pair_of(text[at], text[at + 1]);
-        return shortest_ < 3 ? pair : (pair * 0x9E37u + text[at + 2]) % buckets;
+    std::size_t beginning_of(const char16_t* at) const {
+        const std::size_t pair = pair_of(at[0], at[1]);
+        return shortest_ < 3 ? pair : (pair * 0x9E37u + at[2]) % buckets;
     }
     void order_patterns();
     void grow_tree();
+    void grow_node(std::size_t number, std::vector<std::size_t>& depths);
     void measure_steps();
     int child_of(const Node& node, char16_t unit) const;
     void follow(TextView text, std::size_t at, std::vector<Hit>& hits) const;
+    void find_in_stretch(TextView text, std::size_t from, std::size_t end, std::vector<Hit>& hits) const;
 
     std::vector<Text> patterns_;
     std::vector<int> order_; ///< the patterns that can be found, by their units, then by number
     std::vector<Node> nodes_;
-    std::vector<char16_t> units_;      ///< that lead to each node
+    std::vector<char16_t> units_; ///< that lead to each node
+    Text labels_;
+    std::vector<ChildTable> tables_;
     std::vector<std::uint8_t> begins_; ///< whether a pattern begins so, by `beginning_of`
     /// How far the pair that ends the shortest pattern's length lets the search step; 0 where it must look.
     std::vector<std::uint8_t> steps_;
