@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/text.h"
 
+#include "platform/eight_units.h"
 #include "platform/faults.h"
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <clocale> // newlocale, too
+#include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <cwctype>
+#include <memory_resource>
 
 namespace twk {
 
@@ -52,52 +53,20 @@ struct Ends {
     bool at(const char16_t* place) const { return place[0] == first && place[distance] == last; }
 };
 
-/// Eight units that are compared at once.
-using Units = std::uint16_t __attribute__((vector_size(16)));
-
-Units eight_of(char16_t unit) {
-    Units units{};
-    for (int i = 0; i < 8; ++i) units[i] = unit;
-    return units;
-}
-
-Units units_at(const char16_t* place) {
-    Units units;
-    std::memcpy(&units, place, sizeof units);
-    return units;
-}
-
-/// Which of eight units were found, as the two halves of a block of memory.
-struct Found {
-    std::uint64_t halves[2];
-
-    explicit Found(Units found) { std::memcpy(halves, &found, sizeof halves); }
-    bool any() const { return (halves[0] | halves[1]) != 0; }
-    /// Number of the first one; some must be.
-    int first() const {
-        const auto in_half = [](std::uint64_t half) {
-            return (std::endian::native == std::endian::little ? std::countr_zero(half)
-                                                               : std::countl_zero(half)) /
-                   16;
-        };
-        return halves[0] != 0 ? in_half(halves[0]) : 4 + in_half(halves[1]);
-    }
-};
-
 /// First place in [at, end) with both units in their places, or `end`.
 const char16_t* find_ends(const char16_t* at, const char16_t* end, Ends ends) {
     constexpr int eight = 8, block = 4 * eight;
-    const Units first = eight_of(ends.first), last = eight_of(ends.last);
-    const auto of_eight = [&](const char16_t* place) {
-        return reinterpret_cast<Units>((units_at(place) == first) & (units_at(place + ends.distance) == last));
+    const EightUnits first = eight_of(ends.first), last = eight_of(ends.last);
+    const auto found_at = [&](const char16_t* place) {
+        return (eight_at(place) == first) & (eight_at(place + ends.distance) == last);
     };
     for (; end - at >= block; at += block) {
-        Units found{};
-        for (int i = 0; i < block; i += eight) found |= of_eight(at + i);
-        if (Found(found).any()) break;
+        auto found = found_at(at);
+        for (int i = eight; i < block; i += eight) found |= found_at(at + i);
+        if (FoundUnits(found).any()) break;
     }
     for (; end - at >= eight; at += eight)
-        if (const Found found(of_eight(at)); found.any()) return at + found.first();
+        if (const FoundUnits found(found_at(at)); found.any()) return at + found.first();
     while (at != end && !ends.at(at)) ++at;
     return at;
 }
@@ -154,7 +123,9 @@ int InStr(TextView text, TextView find, int start) {
 
 Text Replace(TextView text, TextView find, TextView with, int count) {
     if (count < -1) throw RuntimeFault(fault_argument);
-    std::vector<std::size_t> places;
+    std::array<std::byte, 1024> room; // enough for most texts, without a request for memory
+    std::pmr::monotonic_buffer_resource pool(room.data(), room.size());
+    std::pmr::vector<std::size_t> places(&pool);
     for (std::size_t at = 0; !find.empty() && static_cast<int>(places.size()) != count; at += find.size()) {
         at = position(text, find, at);
         if (at == npos) break;

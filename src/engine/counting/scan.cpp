@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/counting/scan.h"
 
+#include "platform/eight_units.h"
+
 #include <algorithm>
 
 namespace twk {
@@ -70,45 +72,44 @@ Text& quitar_dobles(Text& texto) {
 
 namespace {
 
-/// The first place from `at` on with an end of a tag, or with a blank that another one follows. Looks at
-/// blocks without an early exit, which compilers vectorise.
-std::size_t next_to_space(TextView text, std::size_t at) {
-    constexpr std::size_t block = 32;
-    const auto wanted = [](char16_t here, char16_t next) {
-        return (here == u'<') | (here == u'>') | ((here == u' ') & (next == u' '));
-    };
-    for (; at + block < text.size(); at += block) {
-        unsigned short found = 0;
-        for (std::size_t i = at; i < at + block; ++i)
-            found = static_cast<unsigned short>(found | wanted(text[i], text[i + 1]));
-        if (found != 0) break;
-    }
-    while (at < text.size() && !wanted(text[at], at + 1 < text.size() ? text[at + 1] : u'\0')) ++at;
-    return at;
+constexpr std::ptrdiff_t at_once = 8;
+
+/// Whether one of the next eight units is an end of a tag, or a blank that another one follows.
+bool any_to_space(const char16_t* at) {
+    const EightUnits here = eight_at(at), next = eight_at(at + 1);
+    return FoundUnits((here == u'<') | (here == u'>') | ((here == u' ') & (next == u' '))).any();
 }
 
 } // namespace
 
 void space_tags(Text& texto) {
-    const auto tag_end = [](char16_t c) { return c == u'<' || c == u'>'; };
-    Text out;
-    out.reserve(texto.size() +
-                2 * static_cast<std::size_t>(std::count_if(texto.begin(), texto.end(), tag_end)));
-    const auto blank_behind = [&out] { return !out.empty() && out.back() == u' '; };
-    for (std::size_t from = 0; from < texto.size();) {
-        if (texto[from] == u' ' && blank_behind()) {
-            ++from;
+    const std::size_t size = texto.size();
+    const auto tag_end = [](char16_t unit) { return unit == u'<' || unit == u'>'; };
+    // The text is put behind a gap that its new form never outgrows, not even where it is copied by eight
+    // units.
+    const auto gap = static_cast<std::size_t>(count_units(texto, tag_end) + at_once);
+    texto.insert(0, gap, u' ');
+    char16_t* const begin = texto.data();
+    char16_t* to = begin;
+    const char16_t* from = begin + gap;
+    const char16_t* const end = from + size;
+    while (from != end) {
+        const std::ptrdiff_t some = std::min(end - from, at_once);
+        if (end - from > at_once && !any_to_space(from)) {
+            to = std::copy_n(from, at_once, to);
+            from += at_once;
             continue;
         }
-        const std::size_t at = next_to_space(texto, from);
-        out.append(texto, from, at - from);
-        if (at == texto.size()) break;
-        if (texto[at] == u'<' && !blank_behind()) out.push_back(u' ');
-        out.push_back(texto[at]);
-        if (texto[at] == u'>') out.push_back(u' ');
-        from = at + 1;
+        for (const char16_t* const stop = from + some; from < stop;) {
+            const char16_t unit = *from++;
+            if (unit == u'<' && (to == begin || to[-1] != u' ')) *to++ = u' ';
+            *to++ = unit;
+            if (unit == u'>') *to++ = u' ';
+            if (to[-1] == u' ')
+                while (from != end && *from == u' ') ++from;
+        }
     }
-    texto = std::move(out);
+    texto.resize(static_cast<std::size_t>(to - begin));
 }
 
 } // namespace twk

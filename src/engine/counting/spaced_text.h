@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/counting/scan.h"
 #include "engine/counting/sentences.h"
 #include "platform/subscript.h"
 #include "platform/text.h"
@@ -26,6 +27,7 @@ struct SpacedText {
     }
 
     Text texto;
+    TextScan scan; ///< of the text
     std::int16_t palabras;
     /// Where each piece begins in `texto`, and one blank behind the last; empty when there is none.
     std::vector<std::uint32_t> starts;

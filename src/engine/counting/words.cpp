@@ -11,29 +11,32 @@ namespace twk {
 
 namespace {
 
-/// Words of a spaced text: its pieces less those that begin or end a tag.
-std::int64_t words_of_spaced(TextView text, const TextScan& scan) {
-    if (trim_view(text).empty()) return 0;
-    const std::int64_t blanks = scan.blanks - (text.front() == u' ' ? 1 : 0) - (text.back() == u' ' ? 1 : 0);
-    if (scan.tag_ends == 0) return blanks + 1;
-    std::int64_t whole_tags = 0; // pieces that do both
-    for (std::size_t at = 0; (at = position(text, u"<", at)) != TextView::npos;) {
-        at = text.find_first_of(u" >", at);
-        if (at == TextView::npos) break;
-        if (text[at] == u'>') ++whole_tags;
-    }
-    return blanks + 1 - (scan.tag_ends - whole_tags);
-}
-
 std::int16_t as_count(std::int64_t count) {
     return CInt(static_cast<double>(count));
 }
 
+/// Tags without a blank in them.
+std::int64_t whole_tags(TextView text) {
+    std::int64_t count = 0;
+    for (std::size_t at = 0; (at = position(text, u"<", at)) != TextView::npos;) {
+        while (at < text.size() && text[at] != u' ' && text[at] != u'>') ++at;
+        if (at < text.size() && text[at] == u'>') ++count;
+    }
+    return count;
+}
+
 } // namespace
+
+std::int16_t words_of_spaced(TextView text, const TextScan& scan) {
+    if (trim_view(text).empty()) return 0;
+    const std::int64_t blanks = scan.blanks - (text.front() == u' ' ? 1 : 0) - (text.back() == u' ' ? 1 : 0);
+    if (scan.tag_ends == 0) return as_count(blanks + 1);
+    return as_count(blanks + 1 - (scan.tag_ends - whole_tags(text)));
+}
 
 std::int16_t contar_palabras(Text& texto) {
     const TextScan scan = space_for_a_count(texto, u"");
-    return as_count(words_of_spaced(texto, scan));
+    return words_of_spaced(texto, scan);
 }
 
 namespace {

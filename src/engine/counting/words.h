@@ -10,6 +10,8 @@ namespace twk {
 /// Number of words: pieces between blanks that neither begin with "<" nor end with ">", once every tag has a
 /// blank on both sides. The text keeps that spacing and loses its highlight openings. Fault 6 past 32767.
 std::int16_t contar_palabras(Text& texto);
+/// The same for a text in that form, which the scan is of.
+std::int16_t words_of_spaced(TextView text, const TextScan& scan);
 
 /// The same for a text of lines, which end with CR LF, as if a blank stood for each line end.
 std::int16_t words_of_lines(const Text& texto);
