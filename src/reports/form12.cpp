@@ -181,12 +181,12 @@ void Form12::reporte2_2(const Text& path, const Text& page, std::int16_t& index,
         desktop().show_html(wb1, page);
         DoEvents();
     });
-    const PageRecord made = std::exchange(next_made_, {});
+    PageRecord made = std::exchange(next_made_, {});
     const TextView siblings = std::exchange(next_siblings_, {});
     if (index < 0 || std::cmp_greater_equal(index, informe.size())) return;
     PageAnalysis& entry = at(informe, index);
     entry = {};
-    entry.made = made;
+    entry.made = std::move(made);
     entry.keywords.resize(static_cast<std::size_t>(n_kw));
     entry.path = path;
     entry.file = bare_file_name(path);

@@ -132,12 +132,24 @@ std::uint32_t LinkBook::resolved(int server, TextView address) {
     return place(of, file);
 }
 
-std::uint32_t LinkBook::looked_up(int server, TextView address, PageLinks& links) {
-    key_.assign(1, static_cast<char16_t>(server + 1)).append(address);
+LinkBook::Addresses::value_type& LinkBook::known(int server, TextView address) {
+    const auto mark = static_cast<char16_t>(server + 1);
+    if (latest_ != nullptr && latest_->second.next != nullptr) {
+        auto& next = *latest_->second.next;
+        if (next.first.front() == mark && TextView(next.first).substr(1) == address) return next;
+    }
+    key_.assign(1, mark).append(address);
     auto found = known_.find(TextView(key_));
-    if (found == known_.end()) found = known_.emplace(key_, resolved(server, address)).first;
-    if (found->second != outside && names_[found->second].server < 0) links.local_path = true;
-    return found->second;
+    if (found == known_.end()) found = known_.emplace(key_, Address{resolved(server, address)}).first;
+    if (latest_ != nullptr) latest_->second.next = &*found;
+    return *found;
+}
+
+std::uint32_t LinkBook::looked_up(int server, TextView address, PageLinks& links) {
+    latest_ = &known(server, address);
+    const std::uint32_t place = latest_->second.place;
+    if (place != outside && names_[place].server < 0) links.local_path = true;
+    return place;
 }
 
 std::uint32_t LinkBook::read_siblings(int server, TextView text) {
@@ -158,7 +170,12 @@ std::uint32_t LinkBook::read_siblings(int server, TextView text) {
 }
 
 PageLinks LinkBook::read(const Text& path, TextView text, TextView siblings) {
-    const int server = server_of(Text(last_name(TextView(folder_of(path)))));
+    const TextView folder = TextView(path).substr(0, path.size() - last_name(TextView(path)).size());
+    if (folder != folder_) {
+        folder_ = folder;
+        server_ = server_of(Text(last_name(TextView(folder_of(path)))));
+    }
+    const int server = server_;
     PageLinks links;
     if (const std::size_t at = near_the_end(text, siblings); at != TextView::npos) {
         links.siblings = read_siblings(server, siblings);

@@ -54,8 +54,16 @@ class LinkBook {
         std::size_t operator()(TextView text) const { return std::hash<TextView>()(text); }
     };
     using Numbers = std::unordered_map<Text, std::uint32_t, Hash, std::equal_to<>>;
+    /// An address as pages of one server write it: its place, and the address that stood behind it last.
+    /// Pages list their links in much the same order, so that one is mostly found by the one before it.
+    struct Address {
+        std::uint32_t place;
+        std::pair<const Text, Address>* next = nullptr;
+    };
+    using Addresses = std::unordered_map<Text, Address, Hash, std::equal_to<>>;
 
     std::uint32_t resolved(int server, TextView address);
+    Addresses::value_type& known(int server, TextView address);
     std::uint32_t looked_up(int server, TextView address, PageLinks& links);
     std::uint32_t read_siblings(int server, TextView text);
     /// Visits the address behind every "href" of the text; returns how many of these there are.
@@ -63,14 +71,17 @@ class LinkBook {
 
     std::vector<Text> servers_;
     Text project_folder_;
-    std::unordered_map<Text, int> folders_; ///< server of each folder, by name in lower case
-    Numbers places_;                        ///< by server and file
-    Numbers known_;                         ///< by server and address as written
+    std::unordered_map<Text, int> folders_;   ///< server of each folder, by name in lower case
+    Numbers places_;                          ///< by server and file
+    Addresses known_;                         ///< by server and address as written
+    Addresses::value_type* latest_ = nullptr; ///< the address that was looked up last
     std::vector<Place> names_;
     std::vector<std::vector<std::uint32_t>> lists_;
     Text siblings_; ///< the text of the latest list
     std::uint32_t sibling_mentions_ = 0;
     int sibling_server_ = -1;
+    Text folder_; ///< of the page read last, with the separator
+    int server_ = -1;
     Text key_;
 };
 
