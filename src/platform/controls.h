@@ -52,7 +52,12 @@ template <class T> class Property {
     Property& operator=(const Property& other) { return *this = other.value_; }
 
     const T& operator()() const { return value_; }
-    Property& operator=(T value) {
+    Property& operator=(const T& value) {
+        value_ = value;
+        observer_(which_);
+        return *this;
+    }
+    Property& operator=(T&& value) {
         value_ = std::move(value);
         observer_(which_);
         return *this;

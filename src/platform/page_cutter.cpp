@@ -1,35 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/page_cutter.h"
 
+#include "platform/eight_units.h"
+
 #include <algorithm>
+#include <array>
+#include <cstdint>
+#include <iterator>
 
 namespace twk::plain_pages {
 
 namespace {
-
-struct Name {
-    TextView name;
-    Kind kind;
-    int number; ///< tells elements of one kind apart
-};
-
-constexpr Name names[] = {
-    {u"a", Kind::marks, 0},         {u"b", Kind::marks, 0},          {u"i", Kind::marks, 0},
-    {u"u", Kind::marks, 0},         {u"font", Kind::marks, 0},       {u"span", Kind::marks, 0},
-    {u"em", Kind::marks, 0},        {u"strong", Kind::marks, 0},     {u"big", Kind::marks, 0},
-    {u"small", Kind::marks, 0},     {u"img", Kind::empty, 0},        {u"embed", Kind::empty, 0},
-    {u"input", Kind::empty, 1},     {u"param", Kind::empty, 2},      {u"br", Kind::new_line, 0},
-    {u"hr", Kind::rule, 0},         {u"p", Kind::paragraph, 0},      {u"div", Kind::block, 1},
-    {u"center", Kind::block, 2},    {u"blockquote", Kind::block, 3}, {u"ul", Kind::block, 4},
-    {u"ol", Kind::block, 5},        {u"h1", Kind::heading, 1},       {u"h2", Kind::heading, 2},
-    {u"h3", Kind::heading, 3},      {u"h4", Kind::heading, 4},       {u"h5", Kind::heading, 5},
-    {u"h6", Kind::heading, 6},      {u"li", Kind::item, 0},          {u"object", Kind::object, 0},
-    {u"script", Kind::script, 0},   {u"table", Kind::table, 0},      {u"tbody", Kind::body_part, 0},
-    {u"thead", Kind::body_part, 1}, {u"tfoot", Kind::body_part, 2},  {u"tr", Kind::row, 0},
-    {u"td", Kind::cell, 0},         {u"th", Kind::cell, 1},          {u"html", Kind::page, 0},
-    {u"head", Kind::page, 1},       {u"body", Kind::page, 2},        {u"meta", Kind::meta, 0},
-    {u"title", Kind::title, 0},
-};
 
 bool is_letter(char16_t c) {
     return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
@@ -38,7 +19,7 @@ bool is_letter_or_digit(char16_t c) {
     return is_letter(c) || (c >= u'0' && c <= u'9');
 }
 
-char16_t lower_ascii(char16_t c) {
+constexpr char16_t lower_ascii(char16_t c) {
     return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
 }
 
@@ -48,14 +29,71 @@ bool is_name(TextView found, TextView name) {
                       [](char16_t a, char16_t b) { return lower_ascii(a) == b; });
 }
 
+/// A name of letters and digits as one number, so that names are compared at once; the case does not count.
+class NameNumber {
+  public:
+    constexpr NameNumber() = default;
+    constexpr explicit NameNumber(TextView name) {
+        for (const char16_t unit : name) add(unit);
+    }
+    constexpr void add(char16_t unit) {
+        number_ = (number_ << bits) | (lower_ascii(unit) - (unit <= u'9' ? u'0' - 1 : u'a' - 11));
+        ++units_;
+    }
+    constexpr bool operator==(const NameNumber&) const = default;
+    constexpr bool fits() const { return units_ * bits <= 64; }
+
+  private:
+    static constexpr int bits = 6; ///< for 10 digits and 26 letters
+    std::uint64_t number_ = 0;
+    int units_ = 0;
+};
+
+struct Name {
+    constexpr Name(TextView name, Kind kind, int number)
+        : first(name.front()), name(name), element{kind, number} {}
+    char16_t first;
+    NameNumber name;
+    Element element;
+};
+
+/// By their first letters.
+constexpr Name names[] = {
+    {u"a", Kind::marks, 0},          {u"b", Kind::marks, 0},         {u"big", Kind::marks, 0},
+    {u"blockquote", Kind::block, 3}, {u"body", Kind::page, 2},       {u"br", Kind::new_line, 0},
+    {u"center", Kind::block, 2},     {u"div", Kind::block, 1},       {u"em", Kind::marks, 0},
+    {u"embed", Kind::empty, 0},      {u"font", Kind::marks, 0},      {u"h1", Kind::heading, 1},
+    {u"h2", Kind::heading, 2},       {u"h3", Kind::heading, 3},      {u"h4", Kind::heading, 4},
+    {u"h5", Kind::heading, 5},       {u"h6", Kind::heading, 6},      {u"head", Kind::page, 1},
+    {u"hr", Kind::rule, 0},          {u"html", Kind::page, 0},       {u"i", Kind::marks, 0},
+    {u"img", Kind::empty, 0},        {u"input", Kind::empty, 1},     {u"li", Kind::item, 0},
+    {u"meta", Kind::meta, 0},        {u"object", Kind::object, 0},   {u"ol", Kind::block, 5},
+    {u"p", Kind::paragraph, 0},      {u"param", Kind::empty, 2},     {u"script", Kind::script, 0},
+    {u"small", Kind::marks, 0},      {u"span", Kind::marks, 0},      {u"strong", Kind::marks, 0},
+    {u"table", Kind::table, 0},      {u"tbody", Kind::body_part, 0}, {u"td", Kind::cell, 0},
+    {u"tfoot", Kind::body_part, 2},  {u"th", Kind::cell, 1},         {u"thead", Kind::body_part, 1},
+    {u"title", Kind::title, 0},      {u"tr", Kind::row, 0},          {u"u", Kind::marks, 0},
+    {u"ul", Kind::block, 4},
+};
+
+/// Where the names begin that begin with each letter, and where those of "z" end.
+constexpr auto by_letter = [] {
+    std::array<std::uint8_t, 27> begins{};
+    for (std::size_t letter = 0; letter < begins.size(); ++letter)
+        for (const Name& name : names)
+            if (name.first < u'a' + letter) ++begins[letter];
+    return begins;
+}();
+
 } // namespace
 
 std::size_t Cutter::next_bracket() const {
-    // Mostly the next tag is close: no use in looking at whole blocks.
-    constexpr std::size_t close = 24;
-    const std::size_t near = html_.substr(at_, close).find(u'<');
-    if (near != TextView::npos) return at_ + near;
-    return std::min(position(html_, u"<", at_ + close), html_.size());
+    // Mostly it is close.
+    constexpr std::size_t eight = 8;
+    if (html_.size() - at_ < eight) return std::min(html_.find(u'<', at_), html_.size());
+    const FoundUnits found(eight_at(html_.data() + at_) == u'<');
+    if (found.any()) return at_ + static_cast<std::size_t>(found.first());
+    return std::min(position(html_, u"<", at_ + eight), html_.size());
 }
 
 TextView Cutter::text() {
@@ -119,13 +157,17 @@ void Cutter::skip_comment() {
 
 Element Cutter::element() {
     const std::size_t from = at_;
-    while (!is_blank(unit()) && unit() != u'/' && unit() != u'>' && at_ < html_.size()) ++at_;
-    const TextView name = html_.substr(from, at_ - from);
-    const char16_t first = lower_ascii(name.front());
-    for (const Name& known : names)
-        if (known.name.front() == first && is_name(name, known.name)) return {known.kind, known.number};
+    NameNumber name;
+    bool strange = false;
+    for (; at_ < html_.size() && !is_blank(html_[at_]) && html_[at_] != u'/' && html_[at_] != u'>'; ++at_) {
+        strange = strange || !is_letter_or_digit(html_[at_]);
+        name.add(html_[at_]);
+    }
     // What is no name of HTML is an inline element like any other.
-    if (!std::all_of(name.begin(), name.end(), is_letter_or_digit)) return {Kind::marks, 0};
+    if (strange) return {Kind::marks, 0};
+    const auto letter = static_cast<std::size_t>(lower_ascii(html_[from]) - u'a');
+    for (std::size_t known = by_letter[letter]; name.fits() && known < by_letter[letter + 1]; ++known)
+        if (names[known].name == name) return names[known].element;
     throw NotPlain();
 }
 
@@ -145,7 +187,7 @@ void Cutter::skip_attributes() {
         ++at_;
         skip_blanks();
         if (const char16_t quote = unit(); quote == u'"' || quote == u'\'') {
-            at_ = html_.find(quote, at_ + 1);
+            at_ = position(html_, TextView(&quote, 1), at_ + 1);
             if (at_ == TextView::npos) throw NotPlain();
             ++at_;
         } else {

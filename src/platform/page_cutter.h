@@ -53,7 +53,8 @@ inline bool is_blank(char16_t c) {
 /// Cuts a page into text and tags; comments fall away. Whatever is not certain throws `NotPlain`.
 class Cutter {
   public:
-    explicit Cutter(TextView html) : html_(html), ampersands_(contains(html, u"&")) {}
+    /// `ampersands`: the page holds one.
+    Cutter(TextView html, bool ampersands) : html_(html), ampersands_(ampersands) {}
 
     bool at_end() const { return at_ >= html_.size(); }
     /// The text up to the next "<" that begins a tag or comment.
@@ -76,7 +77,7 @@ class Cutter {
     void skip_attributes();
 
     TextView html_;
-    bool ampersands_; ///< the page holds one at all
+    bool ampersands_;
     std::size_t at_ = 0;
 };
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/plain_pages.h"
 
+#include "platform/eight_units.h"
 #include "platform/page_cutter.h"
+#include "platform/wide.h"
 
 #include <algorithm>
 #include <vector>
@@ -10,19 +12,23 @@ namespace twk {
 
 namespace {
 
-/// Whether a text holds no white space but single blanks.
-bool single_blanks(TextView text) {
-    const auto other_blank = [](char16_t c) {
-        return int{c == u'\t'} | int{c == u'\n'} | int{c == u'\r'} | int{c == u'\f'};
-    };
-    unsigned short other = !text.empty() && other_blank(text.front()) != 0 ? 1 : 0;
-    for (std::size_t i = 1; i < text.size(); ++i)
-        other = static_cast<unsigned short>(other | other_blank(text[i]) |
-                                            (int{text[i - 1] == u' '} & int{text[i] == u' '}));
-    return other == 0;
-}
+constexpr std::size_t long_run = 9;
 
-constexpr std::size_t long_run = 32;
+/// Whether a long run holds no white space but single blanks.
+bool single_blanks(TextView text) {
+    constexpr std::size_t eight = 8;
+    const auto other_blanks = [&text](std::size_t at) {
+        const EightUnits units = eight_at(text.data() + at);
+        return (units == u'\t') | (units == u'\n') | (units == u'\r') | (units == u'\f');
+    };
+    const auto found = [&](std::size_t at) {
+        const EightUnits before = eight_at(text.data() + at - 1), units = eight_at(text.data() + at);
+        return other_blanks(at) | ((before == u' ') & (units == u' '));
+    };
+    auto other = other_blanks(0) | found(text.size() - eight);
+    for (std::size_t at = 1; at + eight <= text.size(); at += eight) other |= found(at);
+    return !FoundUnits(other).any();
+}
 
 } // namespace
 
@@ -60,15 +66,25 @@ namespace {
 
 using namespace plain_pages;
 
-/// Units that a parser takes as they are: no controls, no half pairs, no code points that are no characters.
-bool is_plain(TextView html) {
-    unsigned short beyond_ascii = 0, strange = 0;
+/// What the units of a page are.
+struct PageUnits {
+    bool ascii, controls, ampersands;
+};
+
+TWK_WIDE PageUnits units_of(TextView html) {
+    unsigned short all = 0, control = 0, ampersand = 0;
     for (const char16_t c : html) {
         const bool no_blank = (c != u'\t') & (c != u'\n') & (c != u'\r') & (c != u'\f');
-        beyond_ascii = static_cast<unsigned short>(beyond_ascii | c);
-        strange = static_cast<unsigned short>(strange | ((c < 0x20) & no_blank) | (c == 0x7F));
+        all = static_cast<unsigned short>(all | c);
+        control = static_cast<unsigned short>(control | ((c < 0x20) & no_blank) | (c == 0x7F));
+        ampersand = static_cast<unsigned short>(ampersand | (c == u'&'));
     }
-    if (strange != 0 || beyond_ascii < 0x80) return strange == 0;
+    return {all < 0x80, control != 0, ampersand != 0};
+}
+
+/// Units that a parser takes as they are: no controls, no half pairs, no code points that are no characters.
+bool is_plain(TextView html, const PageUnits& units) {
+    if (units.controls || units.ascii) return !units.controls;
     return std::none_of(html.begin(), html.end(), [](char16_t c) {
         return (c >= 0x80 && c < 0xA0) || (c >= 0xD800 && c < 0xE000) || (c >= 0xFDD0 && c < 0xFDF0) ||
                c == 0xFEFF || c >= 0xFFFD;
@@ -79,7 +95,7 @@ bool is_plain(TextView html) {
 /// cells. Inline elements are not followed: where they would matter the page is none for this walk.
 class Walk {
   public:
-    explicit Walk(TextView html) : cutter_(html), lines_(html.size()) {}
+    Walk(TextView html, bool ampersands) : cutter_(html, ampersands), lines_(html.size()) {}
 
     Text whole() {
         read_head();
@@ -423,9 +439,10 @@ class Walk {
 } // namespace
 
 std::optional<Text> plain_page_text(TextView html) {
-    if (!is_plain(html)) return std::nullopt;
+    const PageUnits units = units_of(html);
+    if (!is_plain(html, units)) return std::nullopt;
     try {
-        return Walk(html).whole();
+        return Walk(html, units.ampersands).whole();
     } catch (const NotPlain&) {
         return std::nullopt;
     }

@@ -39,7 +39,8 @@ const ScreenMap::Event* ScreenMap::find_event(const std::string& control, const 
 }
 
 Screen* Screens::find(std::type_index type) const {
-    const auto* at = found(loaded_, [&](const auto& each) { return each->type == type; });
+    // A type has one name in a program: no need to compare its letters.
+    const auto* at = found(loaded_, [&](const auto& each) { return each->type.name() == type.name(); });
     return at != nullptr ? at->get() : nullptr;
 }
 

@@ -8,8 +8,8 @@
 namespace twk {
 
 /// A desktop without anything to see and with nobody at it: questions get their refusal, dialogs are
-/// cancelled, nothing is opened, there is no network. Its browsers know what they were last shown. What
-/// answers more derives from it.
+/// cancelled, nothing is opened, there is no network. Its browsers know the address that they were last sent
+/// to. What answers more derives from it.
 class SilentDesktop : public Desktop {
   public:
     Answer MsgBox(const Message& message) override;
@@ -33,7 +33,8 @@ class SilentDesktop : public Desktop {
 
     /// Shows nothing of the address.
     void navigate(WebBrowser& browser, const Text& address) override { shown_[&browser] = {address, {}}; }
-    void show_html(WebBrowser& browser, const Text& html) override { shown_[&browser] = {{}, html}; }
+    /// Keeps nothing: whoever shows HTML has it.
+    void show_html(WebBrowser& browser, const Text&) override { shown_.erase(&browser); }
     void go_back(WebBrowser&) override {}
     void go_forward(WebBrowser&) override {}
     void go_home(WebBrowser&) override {}
@@ -46,7 +47,7 @@ class SilentDesktop : public Desktop {
 
   protected:
     struct Shown {
-        Text address; ///< empty for a page that came without one
+        Text address;
         Text html;
     };
     Shown& shown(const WebBrowser& browser) { return shown_[&browser]; }

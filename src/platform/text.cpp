@@ -3,6 +3,7 @@
 
 #include "platform/eight_units.h"
 #include "platform/faults.h"
+#include "platform/wide.h"
 
 #include <algorithm>
 #include <array>
@@ -53,20 +54,33 @@ struct Ends {
     bool at(const char16_t* place) const { return place[0] == first && place[distance] == last; }
 };
 
+/// Passes over blocks in which the two units stand nowhere in their places.
+TWK_WIDE const char16_t* pass_blocks(const char16_t* at, const char16_t* end, Ends ends) {
+    constexpr int block = 64;
+    for (; end - at >= block; at += block) {
+        unsigned short found = 0;
+        for (int i = 0; i < block; ++i)
+            found = static_cast<unsigned short>(
+                found | (int{at[i] == ends.first} & int{at[i + ends.distance] == ends.last}));
+        if (found != 0) break;
+    }
+    return at;
+}
+
 /// First place in [at, end) with both units in their places, or `end`.
 const char16_t* find_ends(const char16_t* at, const char16_t* end, Ends ends) {
-    constexpr int eight = 8, block = 4 * eight;
+    constexpr std::ptrdiff_t eight = 8, close = 8 * eight;
     const EightUnits first = eight_of(ends.first), last = eight_of(ends.last);
-    const auto found_at = [&](const char16_t* place) {
-        return (eight_at(place) == first) & (eight_at(place + ends.distance) == last);
-    };
-    for (; end - at >= block; at += block) {
-        auto found = found_at(at);
-        for (int i = eight; i < block; i += eight) found |= found_at(at + i);
-        if (FoundUnits(found).any()) break;
+    // Mostly the place is close by, or far away.
+    for (const char16_t* far = end - at > close ? at + close : end;;
+         far = end - at > close ? at + close : end) {
+        for (; far - at >= eight; at += eight) {
+            const FoundUnits found((eight_at(at) == first) & (eight_at(at + ends.distance) == last));
+            if (found.any()) return at + found.first();
+        }
+        if (far == end) break;
+        at = pass_blocks(at, end, ends);
     }
-    for (; end - at >= eight; at += eight)
-        if (const FoundUnits found(found_at(at)); found.any()) return at + found.first();
     while (at != end && !ends.at(at)) ++at;
     return at;
 }
@@ -335,11 +349,11 @@ template <class View> bool all_ascii(View text) {
 
 } // namespace
 
-bool is_ascii(TextView text) {
+TWK_WIDE bool is_ascii(TextView text) {
     return all_ascii(text);
 }
 
-bool is_ascii(std::string_view bytes) {
+TWK_WIDE bool is_ascii(std::string_view bytes) {
     return all_ascii(bytes);
 }
 

@@ -35,14 +35,19 @@ bool TextStream::AtEndOfStream() const {
     return at_ >= content_.size();
 }
 
-void TextStream::write(TextView text) {
+Text& TextStream::written() {
     if (!open_ || mode_ == OpenMode::reading) throw RuntimeFault(fault_path_access);
-    content_.append(text);
+    return content_;
+}
+
+void TextStream::write(TextView text) {
+    written().append(text);
 }
 
 void TextStream::writeline(std::initializer_list<TextView> pieces) {
-    for (const TextView piece : pieces) write(piece);
-    write(vbCrLf);
+    Text& content = written();
+    for (const TextView piece : pieces) content.append(piece);
+    content.append(vbCrLf);
 }
 
 void TextStream::Close() {
@@ -72,7 +77,8 @@ Text TextStream::close_and_read() {
     old_size_ = std::ssize(old);
     size_ = std::ssize(bytes) + (appended ? old_size_ : 0);
     Text text = std::exchange(content_, {});
-    if (!reads_back(text)) return decode_text(bytes);
+    const bool halves = bytes.size() != text.size(); // a half of a pair takes more bytes than one
+    if (halves && !reads_back(text)) return decode_text(bytes);
     return text;
 }
 

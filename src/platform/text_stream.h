@@ -28,6 +28,8 @@ class TextStream {
     bool AtEndOfStream() const;
 
     void write(TextView text);
+    /// What a writing stream has gathered, to be appended to. Fault 75 for any other.
+    Text& written();
     /// The text, in one piece or in several, then CR LF.
     void writeline(TextView line) { writeline(std::initializer_list<TextView>{line}); }
     void writeline(std::initializer_list<TextView> pieces);
