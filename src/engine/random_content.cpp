@@ -127,13 +127,14 @@ Text tp3_content(Run& run, ContentPool& pool) {
                                            u" for file " + to_text(run.cuenta_archivos)));
     }
     if (choices.highlight_keywords()) highLight(run.project, run.settings, s);
-    return fill(u"{1}<p>{2}<p></font>", font_line(choices), s);
+    // In place: the text is long, and has room.
+    return s.insert(0, font_line(choices) + u"<p>").append(u"<p></font>");
 }
 
 Text random_content(Run& run, ContentPool& pool) {
-    const Text text = tp3_content(run, pool);
+    Text text = tp3_content(run, pool);
     run.page.made.synonyms = run.choices.use_synonyms();
-    return run.page.made.synonyms ? run.synonyms.sinonimo(text) : text;
+    return run.page.made.synonyms ? run.synonyms.sinonimo(std::move(text)) : text;
 }
 
 } // namespace twk

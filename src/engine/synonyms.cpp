@@ -113,27 +113,25 @@ Synonyms::Known& Synonyms::known() {
     return *known_;
 }
 
-Text Synonyms::sinonimo(const Text& texto) {
+Text Synonyms::sinonimo(Text t) {
     Dictionary& dictionary = known().dictionary;
-    Text t = texto;
     space_tags(t);
     const auto n = static_cast<int>(count_units(t, [](char16_t c) { return c == u' '; }));
-    const int m = t.empty() ? -1 : std::min(n, CLng(n * share() / 100));
-    std::vector<TextView> palabras_texto; // no more than may be replaced
+    const int m = t.empty() ? -1 : std::min(n, CLng(n * share() / 100)); // the last word that may be replaced
+    Text out;
+    std::size_t kept_from = 0; // what stands before it is in `out`
     std::size_t from = 0;
     for (int i = 0; i <= m; ++i) {
         const std::size_t end = std::min(t.find(u' ', from), t.size());
-        palabras_texto.push_back(TextView(t).substr(from, end - from));
+        if (const Text* const other = dictionary.find(TextView(t).substr(from, end - from))) {
+            if (kept_from == 0) out.reserve(t.size() + t.size() / 8);
+            out.append(t, kept_from, from - kept_from).append(*other);
+            kept_from = end;
+        }
         from = std::min(end + 1, t.size());
     }
-    Text out;
-    out.reserve(t.size() + t.size() / 8);
-    for (const TextView pieza : palabras_texto) {
-        const Text* const other = dictionary.find(pieza);
-        out.append(other != nullptr ? TextView(*other) : pieza).append(1, u' ');
-    }
-    out.append(t, from); // the words behind the share stay
-    return Trim(std::move(out));
+    if (out.empty()) return Trim(std::move(t.erase(0, kept_from)));
+    return Trim(std::move(out.append(t, kept_from)));
 }
 
 } // namespace twk

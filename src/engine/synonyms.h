@@ -18,7 +18,7 @@ class Synonyms {
     /// The text with the words of its first part replaced, both ways: a word by its synonym and a synonym by
     /// its word. How large the part is depends on the seconds of the clock. Tags get blanks around them, runs
     /// of blanks become one. Faults of the store come out.
-    Text sinonimo(const Text& texto);
+    Text sinonimo(Text t);
 
   private:
     class Dictionary;
