@@ -10,6 +10,7 @@
 #include "platform/subscript.h"
 
 #include <algorithm>
+#include <array>
 
 namespace twk {
 
@@ -46,24 +47,58 @@ Text limited(Run& run, Text t, const Text& keyword) {
     return t;
 }
 
-/// A sentence of the settings with its link and keyword; drawn again while the drawn one is blank. A new
-/// address is drawn for every try.
-Text linking_sentence(const PageChoices& choices, const Text& keyword) {
-    const auto& sentences = choices.settings().frases_link;
-    const auto filled = [](const Text& sentence) { return !sentence.empty(); };
-    if (std::none_of(sentences.begin(), sentences.begin() + sentences_in_use, filled))
-        throw RuntimeFault(
-            fault_project_lacks,
-            u"The settings hold no sentence to insert: the first ten entries of 6.c are empty. One with *LINK* "
-            u"in it would do.");
-    for (;;) {
-        const int a = xrnum(sentences_in_use);
-        Text f =
-            Replace(at(sentences, a), u"*LINK*", fill(uR"(<a href="{1}">{2}</a>)", target(choices), keyword));
-        replace_all(f, u"*KEYWORD*", fill(u" {1} ", trim_view(keyword)));
-        if (!f.empty()) return f;
+/// Sentences of the settings with their link and keyword.
+class LinkingSentence {
+  public:
+    LinkingSentence(const PageChoices& choices, const Text& keyword)
+        : choices_(choices), keyword_(keyword), between_blanks_(fill(u" {1} ", trim_view(keyword))) {}
+
+    /// One that is drawn; drawn again while it is blank. A new address is drawn for every try.
+    Text operator()() const {
+        const auto& sentences = choices_.settings().frases_link;
+        const auto filled = [](const Text& sentence) { return !sentence.empty(); };
+        if (std::none_of(sentences.begin(), sentences.begin() + sentences_in_use, filled))
+            throw RuntimeFault(
+                fault_project_lacks,
+                u"The settings hold no sentence to insert: the first ten entries of 6.c are empty. One with *LINK* "
+                u"in it would do.");
+        for (;;) {
+            const int a = xrnum(sentences_in_use);
+            const Text link = fill(uR"(<a href="{1}">{2}</a>)", target(choices_), keyword_);
+            if (Text f = with_link(at(sentences, a), link); !f.empty()) return f;
+        }
     }
-}
+
+  private:
+    Text with_link(TextView sentence, const Text& link) const {
+        if (contains(link, u"*")) { // it may bring a place for the keyword
+            Text f = Replace(sentence, u"*LINK*", link);
+            replace_all(f, u"*KEYWORD*", between_blanks_);
+            return f;
+        }
+        Text f;
+        f.reserve(sentence.size() + link.size() + between_blanks_.size());
+        each_part(sentence, u"*LINK*", [&](TextView part, bool first) {
+            if (!first) f.append(link);
+            each_part(part, u"*KEYWORD*", [&](TextView words, bool none_before) {
+                f.append(none_before ? TextView() : between_blanks_).append(words);
+            });
+        });
+        return f;
+    }
+
+    /// Visits what stands between the marks; tells whether it is what stands in front of all of them.
+    template <class Visit> static void each_part(TextView text, TextView mark, Visit visit) {
+        std::size_t from = 0;
+        for (std::size_t at = 0; (at = position(text, mark, from)) != TextView::npos; from = at + mark.size())
+            visit(text.substr(from, at - from), from == 0);
+        visit(text.substr(from), from == 0);
+    }
+
+    const PageChoices& choices_;
+    const Text& keyword_;
+    const Text between_blanks_;
+};
 
 } // namespace
 
@@ -142,7 +177,7 @@ Text Ajustar_KW(const PageChoices& choices, Text& texto, const Text& keyword, in
 Text Ajustar_KW(const PageChoices& choices, const SpacedText& spaced, const Text& keyword,
                 int densidad_pedida, int* put_in) {
     const Text k = Trim(keyword);
-    LinkingSentences sentences{{}, [&] { return linking_sentence(choices, k); }, put_in};
+    LinkingSentences sentences{{}, LinkingSentence(choices, k), put_in};
     for (int i = 0; i < sentences_in_use; ++i)
         if (Text ancla = Trim(at(choices.settings().palabras_ancla, i)); !ancla.empty())
             sentences.anchors.push_back(std::move(ancla));
@@ -184,38 +219,47 @@ void highLight(Project& project, const GatewaySettings& settings, Text& texto) {
 
 namespace {
 
-/// Units that `rspaces` changes besides the blank: to another one, or to none (0).
-struct FileNameUnits {
-    struct Change {
-        char16_t from;
-        char16_t to;
-    };
-    static constexpr Change changes[] = {
-        {u'á', u'a'}, {u'é', u'e'}, {u'í', u'i'}, {u'ó', u'o'}, {u'ú', u'u'}, {u'ñ', u'n'}, {u'?', 0},
-        {u'!', 0},    {u'#', 0},    {u'$', 0},    {u'%', 0},    {u'(', 0},    {u')', 0},    {u'@', 0},
-        {u'=', 0},    {u'¿', 0},    {u'¡', 0},    {u'Ç', u'C'}, {u'€', u'E'}, {u'£', u'P'}, {u'Œ', u'C'},
-        {u'ä', u'a'}, {u'Ä', u'a'}, {u'ö', u'o'}, {u'Ö', u'O'}, {u'ü', u'u'}, {u'Ü', u'U'}, {u'à', u'a'},
-        {u'è', u'e'}, {u'ù', u'u'}, {u'À', u'a'}, {u'È', u'e'}, {u'Ù', u'u'}, {u':', 0},    {u'"', 0},
-        {u'*', 0},    {u'\'', 0},   {u'[', 0},    {u']', 0},    {u'{', 0},    {u'+', 0},    {u'¬', 0},
-        {u'<', 0},    {u'>', 0}};
-
-    static char16_t changed(char16_t unit) {
-        if ((unit >= u'a' && unit <= u'z') || (unit >= u'0' && unit <= u'9')) return unit;
-        for (const Change& change : changes)
-            if (change.from == unit) return change.to;
-        return unit;
+/// What `rspaces` makes of units besides the blank: another one, or none (0).
+class FileNameUnits {
+  public:
+    FileNameUnits() {
+        struct Change {
+            char16_t from;
+            char16_t to;
+        };
+        static constexpr Change changes[] = {
+            {u'á', u'a'}, {u'é', u'e'}, {u'í', u'i'}, {u'ó', u'o'}, {u'ú', u'u'}, {u'ñ', u'n'}, {u'?', 0},
+            {u'!', 0},    {u'#', 0},    {u'$', 0},    {u'%', 0},    {u'(', 0},    {u')', 0},    {u'@', 0},
+            {u'=', 0},    {u'¿', 0},    {u'¡', 0},    {u'Ç', u'C'}, {u'€', u'E'}, {u'£', u'P'}, {u'Œ', u'C'},
+            {u'ä', u'a'}, {u'Ä', u'a'}, {u'ö', u'o'}, {u'Ö', u'O'}, {u'ü', u'u'}, {u'Ü', u'U'}, {u'à', u'a'},
+            {u'è', u'e'}, {u'ù', u'u'}, {u'À', u'a'}, {u'È', u'e'}, {u'Ù', u'u'}, {u':', 0},    {u'"', 0},
+            {u'*', 0},    {u'\'', 0},   {u'[', 0},    {u']', 0},    {u'{', 0},    {u'+', 0},    {u'¬', 0},
+            {u'<', 0},    {u'>', 0}};
+        for (std::size_t unit = 0; unit < to_.size(); ++unit) to_[unit] = static_cast<char16_t>(unit);
+        for (const Change& change : changes) to_[change.from] = change.to;
+        for (char16_t& to : to_) to = lower(to);
     }
+    char16_t operator()(char16_t unit) const { return unit < to_.size() ? to_[unit] : lower(unit); }
+
+  private:
+    std::array<char16_t, 0x20AD> to_{}; ///< up to the last that is changed
 };
 
 } // namespace
 
 Text rspaces(const PageChoices& choices, TextView texto) {
-    // The separator itself passes through the later replacements, as it stands in the text by then.
-    const Text separado = Replace(texto, u" ", choices.word_separator());
+    static const FileNameUnits units;
     Text out;
-    out.reserve(separado.size());
-    for (const char16_t unit : separado)
-        if (const char16_t to = FileNameUnits::changed(unit); to != 0) out.push_back(lower(to));
+    out.reserve(texto.size());
+    const auto add = [&out](char16_t unit) {
+        if (const char16_t to = units(unit); to != 0) out.push_back(to);
+    };
+    const Text& separator = choices.word_separator();
+    for (const char16_t unit : texto)
+        if (unit == u' ')
+            std::for_each(separator.begin(), separator.end(), add); // it is changed like the rest
+        else
+            add(unit);
     return out;
 }
 
