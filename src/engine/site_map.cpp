@@ -8,6 +8,8 @@
 #include "platform/numbers.h"
 #include "platform/subscript.h"
 
+#include <unordered_set>
+
 namespace twk {
 
 namespace {
@@ -66,13 +68,9 @@ void write_totals(OpenPage& page, const Text& folder, int listed, TextView font)
     page.writeline(u"</td>");
 }
 
-bool is_keyword(const Project& project, const Text& words) {
-    for (int i = 0; i < project.n_keywords; ++i)
-        if (project.tabla_kw.at(i) == words) return true;
-    return false;
-}
+using Keywords = std::unordered_set<TextView>;
 
-void write_main_row(Run& run, const Text& path, const Text& file) {
+void write_main_row(Run& run, const Keywords& keywords, const Text& path, const Text& file) {
     const Text base = Replace(file, run.plan.extension, u"");
     if (file.starts_with(u"sitemap")) {
         run.page.writeline(uR"(<tr><td bgcolor=#FF7070><b><a href="{1}"><b>{2}</b></a><br><i>)"
@@ -84,7 +82,7 @@ void write_main_row(Run& run, const Text& path, const Text& file) {
     TextView colour = u"#FFFFBD";
     if (base.ends_with(u"_rm"))
         colour = u"#00ffff";
-    else if (is_keyword(run.project, Replace(base, run.choices.word_separator(), u" ")))
+    else if (keywords.contains(Replace(base, run.choices.word_separator(), u" ")))
         colour = u"#C0FFC0";
     run.page.writeline(
         uR"(<tr><td bgcolor={1}><a href="{2}">{3}</a><font  size=2  size=1> - ({4} Kb.)</td></tr>)", colour,
@@ -99,8 +97,11 @@ void write_main_column(Run& run) {
                        uR"(Pages<br><br><i>The content in this folder must be uploaded to {1}</i>)"
                        uR"(</font size=2 ></td></tr>)",
                        run.choices.main_host());
+    const std::vector<Text>& known = run.project.keywords();
+    const Keywords keywords(known.begin(), known.end());
     for (const Text& file : files)
-        if (!file.starts_with(u"SITEMAP-DO")) write_main_row(run, run.plan.in_main_folder(file), file);
+        if (!file.starts_with(u"SITEMAP-DO"))
+            write_main_row(run, keywords, run.plan.in_main_folder(file), file);
     write_totals(run.page, folder, size_of(files), uR"(<font  size=2  color="#000000">)");
 }
 
