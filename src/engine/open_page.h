@@ -50,7 +50,9 @@ struct OpenPage {
     /// The piece with its places filled.
     template <class First, class... Values>
     void writeline(Fragment<sizeof...(Values) + 1> fragment, const First& first, const Values&... values) {
-        salida->writeline(fill(fragment, first, values...));
+        Text& content = salida->written();
+        append_filled(content, fragment.html(), {TextView(first), TextView(values)...});
+        content.append(vbCrLf);
     }
     /// Each line of the text is a line of the page; it begins behind an empty one.
     void writelines(TextView lines);

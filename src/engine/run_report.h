@@ -37,7 +37,7 @@ class RunReport {
     /// Shows an empty report and sizes it for the project.
     virtual void begin(const Project& project) = 0;
     /// The status line.
-    virtual void status(Text text) = 0;
+    virtual void status(const Text& text) = 0;
     /// What the progress bar shows, in per cent.
     virtual double progress() const = 0;
     virtual void set_progress(double per_cent) = 0;

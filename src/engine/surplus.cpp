@@ -13,10 +13,12 @@ int limit_keywords(Project& project, const GatewaySettings& settings, RunReport&
                    TextView tail) {
     KeywordCounts counts(project.keyword_set(), text);
     const Text of_all = u"/" + to_text(project.n_keywords) + u" done" + Text(tail);
+    Text told = u"Updating Random-Generated Page ";
+    const std::size_t before_number = told.size();
     int replaced = 0;
     for (int i = 0; i < project.n_keywords; ++i) {
-        Text told = u"Updating Random-Generated Page " + to_text(i);
-        report.status(std::move(told += of_all));
+        told.resize(before_number);
+        report.status(told.append(to_text(i)).append(of_all));
         DoEvents();
         Text& keyword = project.tabla_kw.cell(i);
         const std::int16_t found = counts.contar(i, keyword);

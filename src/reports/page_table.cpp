@@ -2,6 +2,7 @@
 #include "reports/page_table.h"
 
 #include "platform/desktop.h"
+#include "platform/html.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
 
@@ -129,10 +130,26 @@ void join_links(SiteReport& report, const std::vector<const PageAnalysis*>& page
 
 } // namespace
 
+namespace {
+
+/// The first words that a box shows, cut between two of them.
+Text beginning(const Text& box) {
+    constexpr std::size_t most = 60;
+    const Text visible = visible_text(box);
+    TextView text = trim_view(TextView(visible).substr(0, visible.find(u'\r')));
+    if (text.size() <= most) return Text(text);
+    text = text.substr(0, std::min(most, text.rfind(u' ', most)));
+    while (text.ends_with(u'.')) text.remove_suffix(1);
+    return Text(text) + u"...";
+}
+
+} // namespace
+
 SiteReport make_site_report(const std::vector<PageAnalysis>& pages, const std::vector<Text>& keywords,
                             const std::vector<OtherPage>& others, LinkBook& book, RunFacts facts,
                             const std::vector<OutputFolder>& folders) {
     SiteReport report{.facts = std::move(facts), .keywords = keywords};
+    for (Text& box : report.facts.boxes) box = beginning(box);
     list_destinations(report, book, folders);
     std::vector<const PageAnalysis*> told;
     for (const PageAnalysis& page : pages)

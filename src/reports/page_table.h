@@ -24,10 +24,10 @@ struct Destination {
 /// What a report knows of the run besides its pages, as it stood at the run's end.
 struct RunFacts {
     Text project{};
-    Text project_folder{};                     ///< path
-    Text made_at{};                            ///< date and time
-    std::vector<Text> hosts{};                 ///< addresses, the main one first
-    std::vector<Text> boxes{};                 ///< how each content box begins; empty for a blank one
+    Text project_folder{};     ///< path
+    Text made_at{};            ///< date and time
+    std::vector<Text> hosts{}; ///< addresses, the main one first
+    std::vector<Text> boxes{}; ///< content boxes; in a finished report how each begins, empty for a blank one
     std::vector<std::vector<Text>> keywords{}; ///< of the table: column 0 the keyword, then its subkeywords
     int min_words = 0, max_words = 0;          ///< 1.a and 1.b
     std::array<int, 2> long_bounds{};          ///< 1.d and 1.f

@@ -4,7 +4,6 @@
 #include "engine/run.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
-#include "platform/html.h"
 #include "platform/numbers.h"
 #include "reports/form12.h"
 #include "settings/form6.h"
@@ -12,20 +11,6 @@
 #include <algorithm>
 
 namespace twk {
-
-namespace {
-
-/// The first words of a text, cut between two of them.
-Text beginning(TextView text) {
-    constexpr std::size_t most = 60;
-    text = trim_view(text.substr(0, text.find(u'\r')));
-    if (text.size() <= most) return Text(text);
-    text = text.substr(0, std::min(most, text.rfind(u' ', most)));
-    while (text.ends_with(u'.')) text.remove_suffix(1);
-    return Text(text) + u"...";
-}
-
-} // namespace
 
 void ShownReport::switch_on() {
     form_.informe_activo = true;
@@ -42,8 +27,8 @@ void ShownReport::begin(const Project& project) {
     report.Reporte(project.tabla_kw, project.n_keywords);
 }
 
-void ShownReport::status(Text text) {
-    screen<Form12>().Label2.caption = std::move(text);
+void ShownReport::status(const Text& text) {
+    screen<Form12>().Label2.caption = text;
 }
 
 double ShownReport::progress() const {
@@ -88,8 +73,7 @@ RunFacts ShownReport::facts() const {
                    .box_density = run.choices.keyword_density(),
                    .random_per_host = run.plan.paginas_host};
     facts.hosts.insert(facts.hosts.begin(), run.choices.main_host());
-    for (int i = 0; i <= run.boxes.ultima_caja; ++i)
-        facts.boxes.push_back(beginning(visible_text(run.boxes.box(i))));
+    for (int i = 0; i <= run.boxes.ultima_caja; ++i) facts.boxes.push_back(run.boxes.box(i));
     const KeywordTable& table = run.project.tabla_kw;
     for (int k = 0; k < run.project.n_keywords; ++k) {
         std::vector<Text>& row = facts.keywords.emplace_back();

@@ -18,7 +18,7 @@ class ShownReport : public RunReport {
 
     void switch_on() override;
     void begin(const Project& project) override;
-    void status(Text text) override;
+    void status(const Text& text) override;
     double progress() const override;
     void set_progress(double per_cent) override;
     void analyse(const WrittenPage& page, std::int16_t index) override;
