@@ -25,7 +25,12 @@ Text& KeywordTable::cell(int row, int column) {
 
 const std::vector<Text>& Project::keywords() {
     keywords_.resize(static_cast<std::size_t>(n_keywords));
-    for (int k = 0; k < n_keywords; ++k) at(keywords_, k) = tabla_kw.at(k); // seldom another one
+    for (int k = 0; k < n_keywords; ++k) {
+        Text& known = at(keywords_, k);
+        if (same_units(known, tabla_kw.at(k))) continue;
+        known = tabla_kw.at(k);
+        marks.forget();
+    }
     return keywords_;
 }
 

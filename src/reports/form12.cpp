@@ -116,6 +116,7 @@ void Form12::Reporte(const KeywordTable& tabla, int keywords) {
     informe.resize(static_cast<std::size_t>(CLng(pages)) + 1);
     xKeyWords.resize(static_cast<std::size_t>(n_kw));
     for (int k = 0; k < n_kw; ++k) at(xKeyWords, k) = tabla.at(k);
+    counted_.reset();
     plan_pages(tabla);
     others_.clear();
     std::vector<Text> servers = screen<Form7>().List1.entries();
@@ -135,15 +136,17 @@ void Form12::plan_pages(const KeywordTable& tabla) {
     first_page_ = clock().Timer();
 }
 
+/// A count leaves the keywords in a form that is counted alike.
 const KeywordSet& Form12::keyword_set() {
-    if (!counted_ || !counted_->same(xKeyWords)) counted_.emplace(xKeyWords);
+    if (!counted_) counted_.emplace(xKeyWords);
     return *counted_;
 }
 
 void Form12::analyse_body(PageAnalysis& page, const Text& html, const KeywordSet& set) {
     Text cuerpo = visible_text(html);
-    ignoring_faults([&] { page.words = to_text(words_of_lines(cuerpo)); });
-    KeywordCounts counts(set, cuerpo);
+    const TextScan scan(cuerpo);
+    ignoring_faults([&] { page.words = to_text(words_of_lines(cuerpo, scan)); });
+    KeywordCounts counts(set, cuerpo, scan);
     for (std::size_t k = 0; k < page.keywords.size(); ++k) {
         if (xKeyWords[k].empty()) continue;
         KeywordAnalysis& found = page.keywords[k];

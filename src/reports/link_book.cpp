@@ -27,7 +27,7 @@ TextView address_at(TextView text, std::size_t at) {
     if (at == text.size()) return {};
     const char16_t quote = text[at];
     if (quote == u'"' || quote == u'\'') {
-        const std::size_t end = text.find(quote, at + 1);
+        const std::size_t end = position(text, TextView(&quote, 1), at + 1);
         return end == TextView::npos ? TextView() : text.substr(at + 1, end - at - 1);
     }
     std::size_t end = at;
@@ -136,7 +136,7 @@ LinkBook::Addresses::value_type& LinkBook::known(int server, TextView address) {
     const auto mark = static_cast<char16_t>(server + 1);
     if (latest_ != nullptr && latest_->second.next != nullptr) {
         auto& next = *latest_->second.next;
-        if (next.first.front() == mark && TextView(next.first).substr(1) == address) return next;
+        if (next.first.front() == mark && same_units(TextView(next.first).substr(1), address)) return next;
     }
     key_.assign(1, mark).append(address);
     auto found = known_.find(TextView(key_));

@@ -96,7 +96,7 @@ TEST(Counts, EqualTheirPlainForm) {
         ASSERT_EQ(words, simple_words) << seed;
         const Text lines = Replace(Replace(Replace(simple, u"a", vbCrLf), u"l", u"\r"), u"e", u"\n");
         Text in_one_line = Replace(lines, vbCrLf, u" ");
-        ASSERT_EQ(words_of_lines(lines), plain::contar_palabras(in_one_line)) << seed;
+        ASSERT_EQ(words_of_lines(lines, TextScan(lines)), plain::contar_palabras(in_one_line)) << seed;
         std::vector<Text> simple_keywords = soup.keywords();
         std::vector<Text> fast_keywords = simple_keywords;
         const Text with = soup.substitute();
@@ -124,16 +124,12 @@ TEST(Counts, EqualTheirPlainForm) {
             ASSERT_EQ(fast, simple) << seed << ' ' << k;
             ++replaced;
         }
-        ASSERT_TRUE(set.same(fast_keywords));
     }
     EXPECT_GT(replaced, 5000);
 }
 
 TEST(KeywordCounts, FollowTheirKeywords) {
     const KeywordSet set({u" Red  Roses ", u"x"});
-    EXPECT_TRUE(set.same({u"red roses", u"X"}));
-    EXPECT_FALSE(set.same({u"red roses"}));
-    EXPECT_FALSE(set.same({u"red rose", u"x"}));
     Text text = u"red roses";
     KeywordCounts counts(set, text);
     Text keyword = u" Red  Roses ";
@@ -153,6 +149,7 @@ TEST(KeywordMarks, EqualOneReplacementAfterTheOther) {
         const TextView closing = soup.below(2) == 0 ? u"</b>" : u" shed ";
         const Text text = soup.text(soup.below(100));
         Text marked = text;
+        marks.forget();
         marks.highLight(marked, keywords, opening, closing);
         ASSERT_EQ(marked, plain::highLight(text, keywords, opening, closing)) << seed;
     }

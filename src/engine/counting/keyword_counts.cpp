@@ -6,6 +6,7 @@
 #include "platform/numbers.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace twk {
 
@@ -32,15 +33,6 @@ KeywordSet::KeywordSet(const std::vector<Text>& keywords) : patterns_(all_as_cou
     }
 }
 
-bool KeywordSet::same(const std::vector<Text>& keywords) const {
-    if (static_cast<int>(keywords.size()) != size()) return false;
-    for (int k = 0; k < size(); ++k) {
-        const Text& other = keywords[static_cast<std::size_t>(k)];
-        if (other != keyword(k) && as_counted(other) != keyword(k)) return false;
-    }
-    return true;
-}
-
 int replace_last(Text& text, TextView find, TextView with, int count) {
     if (count < -1) throw RuntimeFault(fault_argument);
     if (count == 0 || find.empty()) return 0;
@@ -62,12 +54,14 @@ int replace_last(Text& text, TextView find, TextView with, int count) {
     return static_cast<int>(places.size());
 }
 
-bool KeywordCounts::ready() {
-    if (index_) return true;
-    if (passes_left_ == 0 || !survives_a_count(text_)) return false;
+TextScan KeywordCounts::scan() {
+    const std::optional<TextScan> known = std::exchange(scan_, {});
+    return known ? *known : TextScan(text_);
+}
+
+void KeywordCounts::index_text() {
     --passes_left_;
     index_.emplace(set_.patterns(), text_);
-    return true;
 }
 
 std::optional<std::int64_t> KeywordCounts::counted(int k) const {
@@ -92,25 +86,54 @@ std::int16_t KeywordCounts::contar(int k, Text& keyword) {
         changed();
         return contar_kw(text_, keyword);
     }
-    const std::optional<std::int64_t> count = ready() ? counted(k) : std::nullopt;
+    bool stands = index_.has_value();
+    if (!stands && passes_left_ > 0) {
+        // A count begins with the blanks; a text that is not in its form then is counted without an index.
+        const TextScan before = scan();
+        stands = survives_a_count(text_, before);
+        const TextScan spaced = stands ? before : space_for_a_count(text_, before, u" ");
+        if (!stands && !survives_a_count(text_, spaced)) return contar_kw_in_spaced(text_, spaced, keyword);
+        index_text();
+    }
+    const std::optional<std::int64_t> count = index_ ? counted(k) : std::nullopt;
     if (!count) return contar_kw(text_, keyword);
-    absent_ = *count == 0;
+    absent_ = stands && *count == 0;
     return CInt(static_cast<double>(*count));
 }
 
+namespace {
+
+/// Whether a count takes nothing away at the ends of a text that is put in, whatever surrounds it, but for a
+/// tag.
+bool keeps_the_form(TextView with) {
+    const TextScan scan(with);
+    return !with.empty() && with.front() != u' ' && with.back() != u' ' && scan.spaced &&
+           scan.tag_ends == 0 && !scan.dollars && !contains(highlight_opening, with);
+}
+
+} // namespace
+
 /// What was put in may stand close to a tag, or be, with what is around it, what a count takes away. `places`
 /// are those before the replacement.
-bool KeywordCounts::survive_around(const std::vector<std::size_t>& places, std::size_t old_size,
-                                   std::size_t new_size) const {
+bool KeywordCounts::survives_around(const std::vector<std::size_t>& places, std::size_t old_size,
+                                    TextView with) const {
     constexpr std::size_t reach = highlight_opening.size() - 1;
+    const bool plain = keeps_the_form(with);
     for (std::size_t i = 0; i < places.size(); ++i) {
-        const std::size_t place = places[i] + i * new_size - i * old_size;
+        const std::size_t place = places[i] + i * with.size() - i * old_size;
+        const std::size_t behind = place + with.size();
+        if (plain) {
+            if ((place > 0 && text_[place - 1] == u'>') || (behind < text_.size() && text_[behind] == u'<'))
+                return false;
+            continue;
+        }
         std::size_t from = place - std::min(place, reach);
-        std::size_t end = std::min(place + new_size + reach, text_.size());
+        std::size_t end = std::min(behind + reach, text_.size());
         // Tags at the ends of a part have their blanks outside.
         while (from > 0 && text_[from] == u'<') --from;
         while (end < text_.size() && text_[end - 1] == u'>') ++end;
-        if (!survives_a_count(TextView(text_).substr(from, end - from))) return false;
+        const TextView around = TextView(text_).substr(from, end - from);
+        if (!survives_a_count(around, TextScan(around))) return false;
     }
     return true;
 }
@@ -118,7 +141,8 @@ bool KeywordCounts::survive_around(const std::vector<std::size_t>& places, std::
 int KeywordCounts::replace_last(int k, TextView with, int count) {
     if (count < -1) throw RuntimeFault(fault_argument);
     if (count == 0 || set_.keyword(k).empty()) return 0;
-    if (!set_.known(k) || !ready()) {
+    if (set_.known(k) && !index_ && passes_left_ > 0 && survives_a_count(text_, scan())) index_text();
+    if (!set_.known(k) || !index_) {
         changed();
         return twk::replace_last(text_, set_.keyword(k), with, count);
     }
@@ -126,7 +150,7 @@ int KeywordCounts::replace_last(int k, TextView with, int count) {
     const std::vector<std::size_t> places = index_->from_right(k, most);
     if (places.empty()) return 0;
     index_->replace(k, places, with);
-    if (!survive_around(places, set_.keyword(k).size(), with.size())) changed();
+    if (!survives_around(places, set_.keyword(k).size(), with)) changed();
     return static_cast<int>(places.size());
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/counting/pattern_index.h"
+#include "engine/counting/scan.h"
 
 #include <cstdint>
 #include <optional>
@@ -23,9 +24,6 @@ class KeywordSet {
     bool is_phrase(int k) const { return phrases_[static_cast<std::size_t>(k)]; }
     const PatternSet& patterns() const { return patterns_; }
 
-    /// Whether these keywords, as a count leaves them, are the ones of the set.
-    bool same(const std::vector<Text>& keywords) const;
-
   private:
     PatternSet patterns_;
     std::vector<bool> known_, phrases_;
@@ -39,7 +37,9 @@ int replace_last(Text& text, TextView find, TextView with, int count);
 /// Counts in one text. Whatever else changes the text makes the object useless.
 class KeywordCounts {
   public:
-    KeywordCounts(const KeywordSet& set, Text& text) : set_(set), text_(text) {}
+    /// `scan` is of the text, where there is one.
+    KeywordCounts(const KeywordSet& set, Text& text, std::optional<TextScan> scan = {})
+        : set_(set), text_(text), scan_(scan) {}
 
     /// `contar_kw` of the text and keyword `k` of the set, with all it does to both. `keyword` is the
     /// caller's variable.
@@ -49,17 +49,21 @@ class KeywordCounts {
     /// `replace_last` of keyword `k` in the text.
     int replace_last(int k, TextView with, int count);
     /// The text has been changed by someone else.
-    void changed() { index_.reset(); }
+    void changed() {
+        index_.reset();
+        scan_.reset();
+    }
 
   private:
-    bool ready();
+    TextScan scan();
+    void index_text();
     /// From the index; nothing when matches of a phrase stand close enough to play into each other.
     std::optional<std::int64_t> counted(int k) const;
-    bool survive_around(const std::vector<std::size_t>& places, std::size_t old_size,
-                        std::size_t new_size) const;
+    bool survives_around(const std::vector<std::size_t>& places, std::size_t old_size, TextView with) const;
 
     const KeywordSet& set_;
     Text& text_;
+    std::optional<TextScan> scan_; ///< until the text is changed
     std::optional<PatternIndex> index_;
     int passes_left_ = 3; ///< a text that keeps losing its form is counted keyword by keyword
     bool absent_ = false;

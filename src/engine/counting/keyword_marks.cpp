@@ -30,12 +30,12 @@ std::optional<Hits> independent(const PatternSet& set, const Hits& hits) {
 } // namespace
 
 void KeywordMarks::learn(const std::vector<Text>& keywords, TextView opening, TextView closing) {
-    if (between_blanks_ && keywords == keywords_ && opening == opening_ && closing == closing_) return;
+    keywords_ = &keywords;
+    if (between_blanks_ && opening == opening_ && closing == closing_) return;
     std::vector<Text> patterns;
     patterns.reserve(keywords.size());
     for (const Text& keyword : keywords) patterns.push_back(u" " + Trim(keyword) + u" ");
     const PatternSet& set = between_blanks_.emplace(std::move(patterns));
-    keywords_ = keywords;
     opening_ = opening;
     closing_ = closing;
     closed_ =
@@ -46,7 +46,7 @@ void KeywordMarks::learn(const std::vector<Text>& keywords, TextView opening, Te
 const KeywordMarks::Mark& KeywordMarks::mark(int k) {
     Mark& mark = at(marks_, k);
     if (!mark.made) {
-        mark.text.append(u" ").append(opening_).append(at(keywords_, k)).append(closing_).append(u" ");
+        mark.text.append(u" ").append(opening_).append(at(*keywords_, k)).append(closing_).append(u" ");
         Hits within;
         between_blanks_->find(mark.text, 0, mark.text.size(), within);
         mark.plain = within.empty();

@@ -10,8 +10,10 @@ namespace twk {
 /// Marks keywords in one text after the other; keeps how to find them while they stay the same.
 class KeywordMarks {
   public:
-    /// Makes of the text what `plain::highLight` gives, in place.
+    /// Makes of the text what `plain::highLight` gives, in place. The keywords are those of the time before,
+    /// unless `forget` has been called since.
     void highLight(Text& texto, const std::vector<Text>& keywords, TextView opening, TextView closing);
+    void forget() { between_blanks_.reset(); }
 
   private:
     /// The marked form of a keyword, between blanks, and whether it holds none between blanks itself.
@@ -24,7 +26,7 @@ class KeywordMarks {
     const Mark& mark(int k);
     bool mark_at_once(Text& text);
 
-    std::vector<Text> keywords_;
+    const std::vector<Text>* keywords_ = nullptr;
     Text opening_, closing_;
     bool closed_ = false; ///< no keyword can begin or end in what a mark adds
     std::optional<PatternSet> between_blanks_;

@@ -35,7 +35,7 @@ void PatternSet::order_patterns() {
         shortest_ = shortest_ == 0 ? length : std::min(shortest_, length);
     }
     std::stable_sort(order_.begin(), order_.end(), [this](int a, int b) { return pattern(a) < pattern(b); });
-    for (const int number : order_) begins_[beginning_of(pattern(number).data())] = 1;
+    for (const int number : order_) begins_[bucket_of(pattern(number).data())] = 1;
 }
 
 /// Level by level, so that the children of a node stand side by side.
@@ -93,20 +93,20 @@ int PatternSet::child_of(const Node& node, char16_t unit) const {
     return found != end && *found == unit ? static_cast<int>(found - units_.begin()) : 0;
 }
 
-/// A pair that stands nowhere in the first units of any pattern lets the search pass over all places whose
-/// first units would hold it.
+/// Units that stand together nowhere in the first units of any pattern let the search pass over all places
+/// whose first units would hold them.
 void PatternSet::measure_steps() {
     if (shortest_ == 0) return;
-    const auto step_at = [this](std::size_t second) {
-        return static_cast<std::uint8_t>(std::min<std::size_t>(255, shortest_ - 1 - second));
+    const std::size_t together = units_together();
+    const auto step_behind = [this](std::size_t end) {
+        return static_cast<std::uint8_t>(std::min<std::size_t>(255, shortest_ - end));
     };
-    std::fill(steps_.begin(), steps_.end(), step_at(0));
-    for (int number = 0; number < size(); ++number) {
-        if (!findable(number)) continue;
+    std::fill(steps_.begin(), steps_.end(), step_behind(together - 1));
+    for (const int number : order_) {
         const Text& each = pattern(number);
-        for (std::size_t second = 1; second < shortest_; ++second) {
-            std::uint8_t& step = steps_[pair_of(each[second - 1], each[second])];
-            step = std::min(step, step_at(second));
+        for (std::size_t end = together; end <= shortest_; ++end) {
+            std::uint8_t& step = steps_[bucket_of(each.data() + end - together)];
+            step = std::min(step, step_behind(end));
         }
     }
 }
@@ -114,11 +114,18 @@ void PatternSet::measure_steps() {
 void PatternSet::find(TextView text, std::size_t from, std::size_t end, std::vector<Hit>& hits) const {
     if (shortest_ == 0 || text.size() < shortest_) return;
     end = std::min(end, text.size() - (shortest_ - 1));
-    for (; from < end; from += stretch) find_in_stretch(text, from, std::min(from + stretch, end), hits);
+    for (; from < end; from += stretch) {
+        const std::size_t to = std::min(from + stretch, end);
+        if (units_together() < 3)
+            find_in_stretch<2>(text, from, to, hits);
+        else
+            find_in_stretch<3>(text, from, to, hits);
+    }
 }
 
 /// The stretch is searched in several lanes at a time: where the next step of one leads hangs on what it has
 /// just read, and the processor need not wait for that while it has the others.
+template <int Units>
 void PatternSet::find_in_stretch(TextView text, std::size_t from, std::size_t end,
                                  std::vector<Hit>& hits) const {
     struct Lane {
@@ -129,11 +136,11 @@ void PatternSet::find_in_stretch(TextView text, std::size_t from, std::size_t en
     };
     std::uint16_t places[stretch];
     const char16_t* const begin = text.data() + from;
-    const std::size_t ahead = shortest_ - 1;
+    const std::size_t ahead = shortest_ - Units;
     const auto step = [&](Lane& lane) {
-        const std::size_t further = steps_[pair_of(lane.at[ahead - 1], lane.at[ahead])];
+        const std::size_t further = steps_[bucket_of<Units>(lane.at + ahead)];
         lane.places[lane.found] = static_cast<std::uint16_t>(lane.at - begin);
-        lane.found += int{further == 0} & int{begins_[beginning_of(lane.at)]};
+        lane.found += int{further == 0} & int{begins_[bucket_of<Units>(lane.at)]};
         lane.at += std::max<std::size_t>(further, 1);
     };
     const std::size_t share = (end - from + lanes - 1) / lanes;
@@ -192,41 +199,62 @@ std::vector<std::size_t> PatternIndex::from_right(int number, std::size_t most) 
     return places;
 }
 
+namespace {
+
+/// Puts `with` in the place of `length` units at each of the places, which rise. Returns where it stands
+/// then.
+std::vector<std::size_t> put_in_place(Text& text, const std::vector<std::size_t>& places, std::size_t length,
+                                      TextView with) {
+    const std::size_t size = text.size(), count = places.size();
+    const auto moved = [&](std::size_t i) { return places[i] + i * with.size() - i * length; };
+    std::vector<std::size_t> put(count);
+    for (std::size_t i = 0; i < count; ++i) put[i] = moved(i);
+    // What stands behind each place, up to the next one or the end.
+    const auto behind = [&](std::size_t i) { return places[i] + length; };
+    const auto units_behind = [&](std::size_t i) {
+        return (i + 1 < count ? places[i + 1] : size) - behind(i);
+    };
+    const auto move_behind = [&](std::size_t i) {
+        Text::traits_type::move(&text[put[i] + with.size()], &text[behind(i)], units_behind(i));
+    };
+    // From the side on which nothing is overwritten that is still to be moved.
+    if (with.size() > length) {
+        text.resize(size + count * (with.size() - length));
+        for (std::size_t i = count; i-- > 0;) move_behind(i);
+    } else if (with.size() < length) {
+        for (std::size_t i = 0; i < count; ++i) move_behind(i);
+        text.resize(size - count * (length - with.size()));
+    }
+    for (const std::size_t place : put) with.copy(&text[place], with.size());
+    return put;
+}
+
+} // namespace
+
 void PatternIndex::replace(int number, const std::vector<std::size_t>& places, TextView with) {
     if (places.empty()) return;
     const std::size_t length = set_.pattern(number).size();
     // Whatever begins less than the longest pattern before a place may reach into it.
     const std::size_t reach = set_.longest() - 1;
-    Text out;
-    out.reserve(text_.size() + (with.size() > length ? places.size() * (with.size() - length) : 0));
-    std::vector<PatternSet::Hit> hits;
-    hits.reserve(hits_.size());
-    auto old = hits_.begin();
-    std::vector<std::size_t> put; // where `with` stands in the new text
-    std::size_t from = 0;
-    for (const std::size_t place : places) {
-        out.append(text_, from, place - from);
-        put.push_back(out.size());
-        out.append(with);
-        from = place + length;
-    }
-    out.append(text_, from);
-    text_ = std::move(out);
-
+    const std::vector<std::size_t> put = put_in_place(text_, places, length, with);
+    const auto untouched = [&](const PatternSet::Hit& hit) { return hit.at + reach < places.front(); };
+    const auto first = std::partition_point(hits_.begin(), hits_.end(), untouched);
+    later_.assign(first, hits_.end());
+    hits_.erase(first, hits_.end());
+    auto old = later_.begin();
     std::size_t found_to = 0; // places of the new text before it have been looked at
     for (std::size_t i = 0; i < places.size(); ++i) {
         // Hits before the reach of the place stay, moved with the text.
-        for (; old != hits_.end() && old->at + reach < places[i]; ++old)
-            hits.push_back({old->at + put[i] - places[i], old->pattern});
-        while (old != hits_.end() && old->at < places[i] + length) ++old;
+        for (; old != later_.end() && old->at + reach < places[i]; ++old)
+            hits_.push_back({old->at + put[i] - places[i], old->pattern});
+        while (old != later_.end() && old->at < places[i] + length) ++old;
         const std::size_t begin = std::max(found_to, put[i] - std::min(reach, put[i]));
         const std::size_t end = put[i] + with.size();
-        set_.find(text_, begin, end, hits);
+        set_.find(text_, begin, end, hits_);
         found_to = std::max(found_to, end);
     }
     const std::size_t last_old = places.back() + length, last_new = put.back() + with.size();
-    for (; old != hits_.end(); ++old) hits.push_back({old->at - last_old + last_new, old->pattern});
-    hits_ = std::move(hits);
+    for (; old != later_.end(); ++old) hits_.push_back({old->at - last_old + last_new, old->pattern});
     link();
 }
 

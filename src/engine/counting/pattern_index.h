@@ -48,22 +48,24 @@ class PatternSet {
     /// Number of the child that a unit leads to, counted from 1; 0 for none.
     using ChildTable = std::array<std::uint8_t, 128>;
 
-    static constexpr std::size_t buckets = 4096; ///< few enough to stay close to the processor
+    static constexpr std::size_t buckets = 8192; ///< few enough to stay close to the processor
 
-    static std::size_t pair_of(char16_t first, char16_t second) {
-        return (first * 0x9E37u + second) % buckets;
+    /// Bucket of the first units: as many as the search looks at together.
+    template <int Units> static std::size_t bucket_of(const char16_t* at) {
+        const std::size_t pair = at[0] * 0x9E37u + at[1];
+        return (Units < 3 ? pair : pair * 0x9E37u + at[2]) % buckets;
     }
-    /// Bucket of what a pattern begins with: three units, where none has less.
-    std::size_t beginning_of(const char16_t* at) const {
-        const std::size_t pair = pair_of(at[0], at[1]);
-        return shortest_ < 3 ? pair : (pair * 0x9E37u + at[2]) % buckets;
+    std::size_t bucket_of(const char16_t* at) const {
+        return units_together() < 3 ? bucket_of<2>(at) : bucket_of<3>(at);
     }
+    std::size_t units_together() const { return shortest_ < 3 ? 2 : 3; }
     void order_patterns();
     void grow_tree();
     void grow_node(std::size_t number, std::vector<std::size_t>& depths);
     void measure_steps();
     int child_of(const Node& node, char16_t unit) const;
     void follow(TextView text, std::size_t at, std::vector<Hit>& hits) const;
+    template <int Units>
     void find_in_stretch(TextView text, std::size_t from, std::size_t end, std::vector<Hit>& hits) const;
 
     std::vector<Text> patterns_;
@@ -72,8 +74,9 @@ class PatternSet {
     std::vector<char16_t> units_; ///< that lead to each node
     Text labels_;
     std::vector<ChildTable> tables_;
-    std::vector<std::uint8_t> begins_; ///< whether a pattern begins so, by `beginning_of`
-    /// How far the pair that ends the shortest pattern's length lets the search step; 0 where it must look.
+    std::vector<std::uint8_t> begins_; ///< whether a pattern begins so, by bucket
+    /// How far the units at the end of the shortest pattern's length let the search step, by bucket; 0 where
+    /// it must look.
     std::vector<std::uint8_t> steps_;
     std::size_t longest_ = 0;
     std::size_t shortest_ = 0;
@@ -116,9 +119,10 @@ class PatternIndex {
 
     const PatternSet& set_;
     Text& text_;
-    std::vector<PatternSet::Hit> hits_; ///< by place
-    std::vector<int> next_;             ///< the next hit of the same pattern, -1 behind the last
-    std::vector<Ends> ends_;            ///< by pattern
+    std::vector<PatternSet::Hit> hits_;  ///< by place
+    std::vector<PatternSet::Hit> later_; ///< those behind a replacement, while it is made
+    std::vector<int> next_;              ///< the next hit of the same pattern, -1 behind the last
+    std::vector<Ends> ends_;             ///< by pattern
 };
 
 } // namespace twk

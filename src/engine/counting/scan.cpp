@@ -2,21 +2,24 @@
 #include "engine/counting/scan.h"
 
 #include "platform/eight_units.h"
+#include "platform/wide.h"
 
 #include <algorithm>
 
 namespace twk {
 
-// Looks at every unit with the one before it, without an early exit and with small counters: compilers
-// vectorise that.
-TextScan::TextScan(TextView texto) {
-    if (texto.empty()) return;
-    const auto count = [this](char16_t unit) {
-        blanks += unit == u' ' ? 1 : 0;
-        tag_ends += unit == u'<' || unit == u'>' ? 1 : 0;
-    };
-    count(texto.front());
-    unsigned short wrong = 0, open = texto.front() == u'<', dollar = texto.front() == u'$';
+namespace {
+
+/// What stands in a text behind its first unit. Each unit is looked at with the one before it, without an
+/// early exit and with small counters: compilers vectorise that.
+struct Pairs {
+    unsigned short wrong = 0, opens = 0, dollars = 0;
+    std::int64_t blanks = 0, tag_ends = 0;
+};
+
+TWK_WIDE Pairs look_at_pairs(TextView texto) {
+    Pairs pairs;
+    unsigned short wrong = 0, open = 0, dollar = 0;
     constexpr std::size_t block = 16384; // no counter overflows
     for (std::size_t from = 1; from < texto.size(); from += block) {
         const std::size_t end = std::min(texto.size(), from + block);
@@ -32,23 +35,39 @@ TextScan::TextScan(TextView texto) {
             some_blanks = static_cast<unsigned short>(some_blanks + blank);
             some_ends = static_cast<unsigned short>(some_ends + opens + closes);
         }
-        blanks += some_blanks;
-        tag_ends += some_ends;
+        pairs.blanks += some_blanks;
+        pairs.tag_ends += some_ends;
     }
-    // A tag at an end of the text lacks a neighbour.
-    spaced = (wrong & 1) == 0 && texto.front() != u'<' && texto.back() != u'>';
-    opens_tags = open != 0;
-    dollars = dollar != 0;
+    pairs.wrong = wrong & 1;
+    pairs.opens = open;
+    pairs.dollars = dollar;
+    return pairs;
 }
 
-bool survives_a_count(TextView texto) {
-    const TextScan scan(texto);
+} // namespace
+
+TextScan::TextScan(TextView texto) {
+    if (texto.empty()) return;
+    const Pairs pairs = look_at_pairs(texto);
+    const char16_t first = texto.front();
+    blanks = pairs.blanks + (first == u' ' ? 1 : 0);
+    tag_ends = pairs.tag_ends + (first == u'<' || first == u'>' ? 1 : 0);
+    // A tag at an end of the text lacks a neighbour.
+    spaced = pairs.wrong == 0 && first != u'<' && texto.back() != u'>';
+    opens_tags = pairs.opens != 0 || first == u'<';
+    dollars = pairs.dollars != 0 || first == u'$';
+}
+
+bool survives_a_count(TextView texto, const TextScan& scan) {
     return scan.spaced && !(scan.opens_tags && contains(texto, highlight_opening)) &&
            !(scan.dollars && contains(texto, keyword_joint));
 }
 
 TextScan space_for_a_count(Text& texto, TextView for_opening) {
-    TextScan scan(texto);
+    return space_for_a_count(texto, TextScan(texto), for_opening);
+}
+
+TextScan space_for_a_count(Text& texto, TextScan scan, TextView for_opening) {
     if (scan.opens_tags && replace_all(texto, highlight_opening, for_opening)) {
         space_tags(texto);
         return TextScan(texto);

@@ -26,12 +26,15 @@ struct TextScan {
     explicit TextScan(TextView texto);
 };
 
-/// Whether a count leaves the text as it is: spaced, without highlight openings and joints.
-bool survives_a_count(TextView texto);
+/// Whether a count leaves the text, which the scan is of, as it is: spaced, without highlight openings and
+/// joints.
+bool survives_a_count(TextView texto, const TextScan& scan);
 
 /// Brings a text to the form in which it is counted, each highlight opening replaced; tells what it holds
 /// then. In place.
 TextScan space_for_a_count(Text& texto, TextView for_opening);
+/// The same for a text that the scan is of.
+TextScan space_for_a_count(Text& texto, TextScan scan, TextView for_opening);
 
 /// Collapses runs of blanks in place; returns the argument.
 Text& quitar_dobles(Text& texto);

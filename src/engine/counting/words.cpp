@@ -3,6 +3,7 @@
 
 #include "engine/counting/plain.h"
 #include "platform/numbers.h"
+#include "platform/wide.h"
 
 #include <algorithm>
 #include <optional>
@@ -51,7 +52,7 @@ unsigned short begins_piece(char16_t first, char16_t before, char16_t here, char
 
 /// Pieces of the text between blanks and line ends. All but its ends is one pass with small counters, which
 /// compilers vectorise.
-std::int64_t pieces_of_lines(TextView text) {
+TWK_WIDE std::int64_t pieces_of_lines(TextView text) {
     constexpr std::size_t block = 16384; // no counter overflows
     const auto unit = [text](std::size_t at) { return at < text.size() ? text[at] : u' '; };
     const auto begins_at = [&unit](std::size_t at) {
@@ -73,9 +74,8 @@ std::int64_t pieces_of_lines(TextView text) {
 
 } // namespace
 
-std::int16_t words_of_lines(const Text& texto) {
-    const auto tag_end = [](char16_t unit) { return unit == u'<' || unit == u'>'; };
-    if (count_units(texto, tag_end) == 0) return as_count(pieces_of_lines(texto));
+std::int16_t words_of_lines(const Text& texto, const TextScan& scan) {
+    if (scan.tag_ends == 0) return as_count(pieces_of_lines(texto));
     Text in_one_line = Replace(texto, u"\r\n", u" ");
     return contar_palabras(in_one_line);
 }
@@ -84,8 +84,8 @@ bool are_apart(TextView between, TextView keyword) {
     const auto blank = [](char16_t c) { return c == u' '; };
     // The longer step passes over one unit for each blank. A match across both would hold what is between
     // them in one of its words.
-    return std::ssize(between) >= count_units(keyword, blank) &&
-           (between.size() >= keyword.size() || contains(between, u" "));
+    return between.size() >= keyword.size() ||
+           (std::ssize(between) >= count_units(keyword, blank) && contains(between, u" "));
 }
 
 namespace {
@@ -106,6 +106,10 @@ std::optional<std::int64_t> count_apart(TextView texto, TextView keyword, bool p
 
 std::int16_t contar_kw(Text& texto, Text& keyword) {
     const TextScan scan = space_for_a_count(texto, u" ");
+    return contar_kw_in_spaced(texto, scan, keyword);
+}
+
+std::int16_t contar_kw_in_spaced(Text& texto, const TextScan& scan, Text& keyword) {
     keyword = Trim(LCase(keyword));
     const bool phrase = contains(keyword, u" ");
     if (phrase) quitar_dobles(keyword);

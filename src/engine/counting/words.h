@@ -13,13 +13,16 @@ std::int16_t contar_palabras(Text& texto);
 /// The same for a text in that form, which the scan is of.
 std::int16_t words_of_spaced(TextView text, const TextScan& scan);
 
-/// The same for a text of lines, which end with CR LF, as if a blank stood for each line end.
-std::int16_t words_of_lines(const Text& texto);
+/// The same for a text of lines, which end with CR LF, as if a blank stood for each line end. The scan is of
+/// the text as it is.
+std::int16_t words_of_lines(const Text& texto, const TextScan& scan);
 
 /// Occurrences of the keyword, as a substring in the text's own case. The keyword becomes trimmed lower case
 /// (single blanks, if it is a phrase); the text gets blanks around tags, single blanks, and its "$$$" become
 /// blanks. Fault 6 past 32767.
 std::int16_t contar_kw(Text& texto, Text& keyword);
+/// The same for a text that has its blanks, which the scan is of.
+std::int16_t contar_kw_in_spaced(Text& texto, const TextScan& scan, Text& keyword);
 
 /// Whole per cent of `cuenta` among `palabras`, halves to even; 0 when there are no words.
 double por_ciento(std::int16_t cuenta, std::int16_t palabras);
