@@ -6,6 +6,7 @@
 #include "platform/paths.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace twk {
 
@@ -182,18 +183,20 @@ PageLinks LinkBook::read(const Text& path, TextView text, TextView siblings) {
         links.mentions = sibling_mentions_;
         text = text.substr(0, at);
     }
-    std::vector<std::uint32_t> own;
+    own_.clear();
+    ++page_;
     links.mentions += each_address(text, [&](TextView address) {
         const std::uint32_t number = looked_up(server, address, links);
         if (number == outside) return;
+        if (number >= met_on_.size()) met_on_.resize(names_.size());
+        if (std::exchange(met_on_[number], page_) == page_) return;
         if (links.siblings != PageLinks::no_list &&
             std::binary_search(list(links.siblings).begin(), list(links.siblings).end(), number))
             return;
-        own.push_back(number);
+        own_.push_back(number);
     });
-    std::sort(own.begin(), own.end());
-    own.erase(std::unique(own.begin(), own.end()), own.end());
-    links.own.assign(own.begin(), own.end()); // no more room than it takes
+    std::sort(own_.begin(), own_.end());
+    links.own.assign(own_.begin(), own_.end()); // no more room than it takes
     return links;
 }
 

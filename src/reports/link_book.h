@@ -83,6 +83,9 @@ class LinkBook {
     Text folder_; ///< of the page read last, with the separator
     int server_ = -1;
     Text key_;
+    std::vector<std::uint32_t> own_;    ///< room for the places of the page under way
+    std::vector<std::uint32_t> met_on_; ///< number of the page that led there last, by place
+    std::uint32_t page_ = 0;            ///< number of the page under way, from 1
 };
 
 } // namespace twk
