@@ -77,13 +77,15 @@ constexpr Name names[] = {
 };
 
 /// Where the names begin that begin with each letter, and where those of "z" end.
-constexpr auto by_letter = [] {
-    std::array<std::uint8_t, 27> begins{};
+using Beginnings = std::array<std::uint8_t, 27>;
+constexpr Beginnings beginnings() {
+    Beginnings begins{};
     for (std::size_t letter = 0; letter < begins.size(); ++letter)
         for (const Name& name : names)
             if (name.first < u'a' + letter) ++begins[letter];
     return begins;
-}();
+}
+constexpr Beginnings by_letter = beginnings();
 
 } // namespace
 

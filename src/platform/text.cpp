@@ -62,6 +62,7 @@ TWK_WIDE const char16_t* pass_blocks(const char16_t* at, const char16_t* end, En
         for (int i = 0; i < block; ++i)
             found = static_cast<unsigned short>(
                 found | (int{at[i] == ends.first} & int{at[i + ends.distance] == ends.last}));
+        // cppcheck-suppress knownConditionTrueFalse ; it takes the loop for one that never runs
         if (found != 0) break;
     }
     return at;

@@ -129,9 +129,9 @@ template <int Units>
 void PatternSet::find_in_stretch(TextView text, std::size_t from, std::size_t end,
                                  std::vector<Hit>& hits) const {
     struct Lane {
-        const char16_t* at;
-        const char16_t* end;
-        std::uint16_t* places; ///< where a pattern may begin, counted from the stretch
+        const char16_t* at = nullptr;
+        const char16_t* end = nullptr;
+        std::uint16_t* places = nullptr; ///< where a pattern may begin, counted from the stretch
         int found = 0;
     };
     std::uint16_t places[stretch];
