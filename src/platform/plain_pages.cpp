@@ -19,11 +19,12 @@ bool single_blanks(TextView text) {
     constexpr std::size_t eight = 8;
     const auto other_blanks = [&text](std::size_t at) {
         const EightUnits units = eight_at(text.data() + at);
-        return (units == u'\t') | (units == u'\n') | (units == u'\r') | (units == u'\f');
+        return (units == eight_of(u'\t')) | (units == eight_of(u'\n')) | (units == eight_of(u'\r')) |
+               (units == eight_of(u'\f'));
     };
     const auto found = [&](std::size_t at) {
         const EightUnits before = eight_at(text.data() + at - 1), units = eight_at(text.data() + at);
-        return other_blanks(at) | ((before == u' ') & (units == u' '));
+        return other_blanks(at) | ((before == eight_of(u' ')) & (units == eight_of(u' ')));
     };
     auto other = other_blanks(0) | found(text.size() - eight);
     for (std::size_t at = 1; at + eight <= text.size(); at += eight) other |= found(at);

@@ -56,10 +56,10 @@ struct Ends {
 
 /// Passes over blocks in which the two units stand nowhere in their places.
 TWK_WIDE const char16_t* pass_blocks(const char16_t* at, const char16_t* end, Ends ends) {
-    constexpr int block = 64;
-    for (; end - at >= block; at += block) {
+    constexpr std::size_t block = 64;
+    for (; end - at >= std::ptrdiff_t{block}; at += block) {
         unsigned short found = 0;
-        for (int i = 0; i < block; ++i)
+        for (std::size_t i = 0; i < block; ++i)
             found = static_cast<unsigned short>(
                 found | (int{at[i] == ends.first} & int{at[i + ends.distance] == ends.last}));
         // cppcheck-suppress knownConditionTrueFalse ; it takes the loop for one that never runs

@@ -60,7 +60,8 @@ inline char16_t lower(char16_t unit) {
 bool contains(TextView text, TextView find);
 /// Equality, all units at once: the library compares one after the other.
 inline bool same_units(TextView a, TextView b) {
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
+    return a.size() == b.size() &&
+           (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0);
 }
 /// Equality without regard to case.
 bool same_text(TextView a, TextView b);

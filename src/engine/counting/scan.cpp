@@ -96,7 +96,9 @@ constexpr std::ptrdiff_t at_once = 8;
 /// Whether one of the next eight units is an end of a tag, or a blank that another one follows.
 bool any_to_space(const char16_t* at) {
     const EightUnits here = eight_at(at), next = eight_at(at + 1);
-    return FoundUnits((here == u'<') | (here == u'>') | ((here == u' ') & (next == u' '))).any();
+    return FoundUnits((here == eight_of(u'<')) | (here == eight_of(u'>')) |
+                      ((here == eight_of(u' ')) & (next == eight_of(u' '))))
+        .any();
 }
 
 } // namespace
