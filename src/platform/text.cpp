@@ -12,6 +12,8 @@
 #include <cstdint>
 #include <cwctype>
 #include <memory_resource>
+#include <optional>
+#include <utility>
 
 namespace twk {
 
@@ -136,8 +138,10 @@ int InStr(TextView text, TextView find, int start) {
     return at == npos ? 0 : static_cast<int>(at) + 1;
 }
 
-Text Replace(TextView text, TextView find, TextView with, int count) {
-    if (count < -1) throw RuntimeFault(fault_argument);
+namespace {
+
+/// The text with its first `count` occurrences replaced, all for -1; nothing when there is none.
+std::optional<Text> replaced(TextView text, TextView find, TextView with, int count) {
     std::array<std::byte, 1024> room; // enough for most texts, without a request for memory
     std::pmr::monotonic_buffer_resource pool(room.data(), room.size());
     std::pmr::vector<std::size_t> places(&pool);
@@ -146,6 +150,7 @@ Text Replace(TextView text, TextView find, TextView with, int count) {
         if (at == npos) break;
         places.push_back(at);
     }
+    if (places.empty()) return std::nullopt;
     Text out;
     out.reserve(text.size() + places.size() * with.size() - places.size() * find.size());
     std::size_t from = 0;
@@ -153,13 +158,22 @@ Text Replace(TextView text, TextView find, TextView with, int count) {
         out.append(text, from, place - from).append(with);
         from = place + find.size();
     }
-    return out.append(text, from);
+    out.append(text, from);
+    return out;
+}
+
+} // namespace
+
+Text Replace(TextView text, TextView find, TextView with, int count) {
+    if (count < -1) throw RuntimeFault(fault_argument);
+    std::optional<Text> out = replaced(text, find, with, count);
+    return out ? std::move(*out) : Text(text);
 }
 
 bool replace_all(Text& text, TextView find, TextView with) {
-    if (find.empty() || !contains(text, find)) return false;
-    text = Replace(text, find, with);
-    return true;
+    std::optional<Text> out = replaced(text, find, with, -1);
+    if (out) text = std::move(*out);
+    return out.has_value();
 }
 
 std::vector<TextView> split_views(TextView text, TextView separator) {
