@@ -64,37 +64,14 @@ class LinkingSentence {
                 u"in it would do.");
         for (;;) {
             const int a = xrnum(sentences_in_use);
-            const Text link = fill(uR"(<a href="{1}">{2}</a>)", target(choices_), keyword_);
-            if (Text f = with_link(at(sentences, a), link); !f.empty()) return f;
+            Text f = Replace(at(sentences, a), u"*LINK*",
+                             fill(uR"(<a href="{1}">{2}</a>)", target(choices_), keyword_));
+            replace_all(f, u"*KEYWORD*", between_blanks_);
+            if (!f.empty()) return f;
         }
     }
 
   private:
-    Text with_link(TextView sentence, const Text& link) const {
-        if (contains(link, u"*")) { // it may bring a place for the keyword
-            Text f = Replace(sentence, u"*LINK*", link);
-            replace_all(f, u"*KEYWORD*", between_blanks_);
-            return f;
-        }
-        Text f;
-        f.reserve(sentence.size() + link.size() + between_blanks_.size());
-        each_part(sentence, u"*LINK*", [&](TextView part, bool first) {
-            if (!first) f.append(link);
-            each_part(part, u"*KEYWORD*", [&](TextView words, bool none_before) {
-                f.append(none_before ? TextView() : between_blanks_).append(words);
-            });
-        });
-        return f;
-    }
-
-    /// Visits what stands between the marks; tells whether it is what stands in front of all of them.
-    template <class Visit> static void each_part(TextView text, TextView mark, Visit visit) {
-        std::size_t from = 0;
-        for (std::size_t at = 0; (at = position(text, mark, from)) != TextView::npos; from = at + mark.size())
-            visit(text.substr(from, at - from), from == 0);
-        visit(text.substr(from), from == 0);
-    }
-
     const PageChoices& choices_;
     const Text& keyword_;
     const Text between_blanks_;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/page_cutter.h"
 
-#include "platform/eight_units.h"
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -90,12 +88,7 @@ constexpr Beginnings by_letter = beginnings();
 } // namespace
 
 std::size_t Cutter::next_bracket() const {
-    // Mostly it is close.
-    constexpr std::size_t eight = 8;
-    if (html_.size() - at_ < eight) return std::min(html_.find(u'<', at_), html_.size());
-    const FoundUnits found(eight_at(html_.data() + at_) == eight_of(u'<'));
-    if (found.any()) return at_ + static_cast<std::size_t>(found.first());
-    return std::min(position(html_, u"<", at_ + eight), html_.size());
+    return std::min(position(html_, u"<", at_), html_.size());
 }
 
 TextView Cutter::text() {
