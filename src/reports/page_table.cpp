@@ -128,10 +128,6 @@ void join_links(SiteReport& report, const std::vector<const PageAnalysis*>& page
             report.missing.emplace_back(place, book.address(place));
 }
 
-} // namespace
-
-namespace {
-
 /// The first words that a box shows, cut between two of them.
 Text beginning(const Text& box) {
     constexpr std::size_t most = 60;

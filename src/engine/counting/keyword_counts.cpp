@@ -54,16 +54,6 @@ int replace_last(Text& text, TextView find, TextView with, int count) {
     return static_cast<int>(places.size());
 }
 
-TextScan KeywordCounts::scan() {
-    const std::optional<TextScan> known = std::exchange(scan_, {});
-    return known ? *known : TextScan(text_);
-}
-
-void KeywordCounts::index_text() {
-    --passes_left_;
-    index_.emplace(set_.patterns(), text_);
-}
-
 std::optional<std::int64_t> KeywordCounts::counted(int k) const {
     const Text& keyword = set_.keyword(k);
     if (keyword.empty() || !index_->occurs(k)) return 0;
@@ -89,11 +79,13 @@ std::int16_t KeywordCounts::contar(int k, Text& keyword) {
     bool stands = index_.has_value();
     if (!stands && passes_left_ > 0) {
         // A count begins with the blanks; a text that is not in its form then is counted without an index.
-        const TextScan before = scan();
+        const std::optional<TextScan> known = std::exchange(scan_, {});
+        const TextScan before = known ? *known : TextScan(text_);
         stands = survives_a_count(text_, before);
         const TextScan spaced = stands ? before : space_for_a_count(text_, before, u" ");
         if (!stands && !survives_a_count(text_, spaced)) return contar_kw_in_spaced(text_, spaced, keyword);
-        index_text();
+        --passes_left_;
+        index_.emplace(set_.patterns(), text_);
     }
     const std::optional<std::int64_t> count = index_ ? counted(k) : std::nullopt;
     if (!count) return contar_kw(text_, keyword);
@@ -141,7 +133,6 @@ bool KeywordCounts::survives_around(const std::vector<std::size_t>& places, std:
 int KeywordCounts::replace_last(int k, TextView with, int count) {
     if (count < -1) throw RuntimeFault(fault_argument);
     if (count == 0 || set_.keyword(k).empty()) return 0;
-    if (set_.known(k) && !index_ && passes_left_ > 0 && survives_a_count(text_, scan())) index_text();
     if (!set_.known(k) || !index_) {
         changed();
         return twk::replace_last(text_, set_.keyword(k), with, count);

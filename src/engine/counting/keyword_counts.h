@@ -55,8 +55,6 @@ class KeywordCounts {
     }
 
   private:
-    TextScan scan();
-    void index_text();
     /// From the index; nothing when matches of a phrase stand close enough to play into each other.
     std::optional<std::int64_t> counted(int k) const;
     bool survives_around(const std::vector<std::size_t>& places, std::size_t old_size, TextView with) const;
